@@ -1,0 +1,199 @@
+#include "platform/Paths.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <dirent.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::platform {
+
+namespace {
+
+bool IsSeparator(QChar c)
+{
+    return c == u'/' || c == u'\\';
+}
+
+QStringList PartsOf(const QString& relative)
+{
+    return NativePath(relative).split(u'/', Qt::SkipEmptyParts);
+}
+
+enum class EntryKind { File, Folder, Broken };
+
+/// The directory tells the kind of most entries by itself; only links and file systems that don't
+/// say need a look at the entry.
+EntryKind KindOf(const dirent& entry, int folder)
+{
+    if (entry.d_type == DT_DIR) {
+        return EntryKind::Folder;
+    }
+    if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) {
+        return EntryKind::File;
+    }
+    struct stat status = {};
+    if (fstatat(folder, static_cast<const char*>(entry.d_name), &status, 0) != 0) {
+        return EntryKind::Broken;
+    }
+    return S_ISDIR(status.st_mode) ? EntryKind::Folder : EntryKind::File;
+}
+
+void SortByLowerCase(QStringList& names)
+{
+    std::vector<std::pair<QString, QString>> keyed;
+    keyed.reserve(static_cast<std::size_t>(names.size()));
+    for (const QString& name : std::as_const(names)) {
+        keyed.emplace_back(name.toLower(), name);
+    }
+    std::sort(keyed.begin(), keyed.end());
+    std::transform(
+        keyed.begin(), keyed.end(), names.begin(), [](const auto& k) { return k.second; });
+}
+
+struct CloseDirectory {
+    void operator()(DIR* directory) const { closedir(directory); }
+};
+
+} // namespace
+
+QString LastPathSegment(const QString& path)
+{
+    const auto at = std::find_if(path.rbegin(), path.rend(), IsSeparator);
+    return path.right(std::distance(path.rbegin(), at));
+}
+
+QString NativePath(const QString& path)
+{
+    QString native = path;
+    native.replace(u'\\', u'/');
+    while (native.size() > 1 && native.endsWith(u'/')) {
+        native.chop(1);
+    }
+    return native;
+}
+
+QString WindowsPath(const QString& nativePath)
+{
+    QString text = nativePath;
+    text.replace(u'/', u'\\');
+    return text.startsWith(u'\\') && !text.startsWith(u"\\\\") ? u"Z:"_s + text : text;
+}
+
+bool IsPlainName(const QString& name)
+{
+    return !name.isEmpty() && name != u"."_s && name != u".."_s &&
+           std::none_of(
+               name.begin(), name.end(), [](QChar c) { return IsSeparator(c) || c.isNull(); });
+}
+
+QString Listing::Find(const QString& name) const
+{
+    const QString lower = name.toLower();
+    const auto hit = byLowerCase.constFind(lower);
+    if (hit == byLowerCase.constEnd()) {
+        return QString();
+    }
+    // Only where two names differ by case does the exact one have to be looked for.
+    return *hit == name || !all.contains(name) ? *hit : name;
+}
+
+bool Listing::HasFile(const QString& name) const
+{
+    const QString found = Find(name);
+    return !found.isEmpty() && !folders.contains(found);
+}
+
+bool Listing::HasFolder(const QString& name) const
+{
+    const QString found = Find(name);
+    return !found.isEmpty() && folders.contains(found);
+}
+
+Listing ListFolder(const QString& path)
+{
+    Listing listing;
+    const std::unique_ptr<DIR, CloseDirectory> directory(
+        opendir(QFile::encodeName(path).constData()));
+    if (!directory) {
+        return listing;
+    }
+    listing.exists = true;
+    const int descriptor = dirfd(directory.get());
+    while (const dirent* entry = readdir(directory.get())) {
+        const QString name = QFile::decodeName(static_cast<const char*>(entry->d_name));
+        if (name == u"."_s || name == u".."_s) {
+            continue;
+        }
+        const EntryKind kind = KindOf(*entry, descriptor);
+        if (kind == EntryKind::Broken) {
+            continue;
+        }
+        listing.all << name;
+        if (!name.startsWith(u'.')) {
+            (kind == EntryKind::Folder ? listing.folders : listing.files) << name;
+        }
+    }
+    SortByLowerCase(listing.folders);
+    SortByLowerCase(listing.files);
+    SortByLowerCase(listing.all);
+    for (const QString& name : std::as_const(listing.all)) {
+        const QString lower = name.toLower();
+        if (!listing.byLowerCase.contains(lower)) {
+            listing.byLowerCase.insert(lower, name);
+        }
+    }
+    return listing;
+}
+
+std::optional<QString> FindPath(const QString& base, const QString& relative)
+{
+    QString path = base;
+    const QStringList parts = PartsOf(relative);
+    for (const QString& part : parts) {
+        QString next = path + u'/' + part;
+        if (part != u".."_s && part != u"."_s && !QFileInfo::exists(next)) {
+            const QString found = ListFolder(path).Find(part);
+            if (found.isEmpty()) {
+                return std::nullopt;
+            }
+            next = path + u'/' + found;
+        }
+        path = next;
+    }
+    return path;
+}
+
+QString ResolvePath(const QString& base, const QString& relative)
+{
+    QString path = base;
+    const QStringList parts = PartsOf(relative);
+    for (const QString& part : parts) {
+        path = FindPath(path, part).value_or(path + u'/' + part);
+    }
+    return path;
+}
+
+QStringList FilesMatching(const Listing& listing, const QStringList& patterns)
+{
+    QStringList matches;
+    for (const QString& pattern : patterns) {
+        const QString ending =
+            pattern.startsWith(u'*') ? pattern.mid(1).toLower() : pattern.toLower();
+        const bool anyStart = pattern.startsWith(u'*');
+        for (const QString& file : listing.files) {
+            const QString lower = file.toLower();
+            if (anyStart ? lower.endsWith(ending) : lower == ending) {
+                matches << file;
+            }
+        }
+    }
+    return matches;
+}
+
+} // namespace pelorin::platform

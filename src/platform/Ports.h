@@ -1,0 +1,21 @@
+#pragma once
+
+namespace pelorin::platform {
+
+class Bin;
+class Processes;
+class Prompts;
+class ShellVerbs;
+class Timers;
+
+/// What the program asks of the outside world. All are set, by main or by a test, and outlive
+/// every user.
+struct Ports {
+    Processes& processes;
+    ShellVerbs& shell;
+    Bin& bin;
+    Prompts& prompts;
+    Timers& timers;
+};
+
+} // namespace pelorin::platform

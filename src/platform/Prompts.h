@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+
+namespace pelorin::platform {
+
+enum class Buttons { Ok, OkCancel, YesNo };
+enum class BoxIcon { None, Information, Question, Exclamation };
+enum class Answer { Ok, Cancel, Yes, No };
+
+struct MessageBox {
+    QString text;
+    QString title;
+    Buttons buttons = Buttons::Ok;
+    BoxIcon icon = BoxIcon::None;
+};
+
+/// Asks people. Each call shows a modal dialog and comes back with the answer; window events run
+/// meanwhile. Never called under a RedrawLock.
+class Prompts {
+public:
+    virtual ~Prompts() = default;
+
+    /// A closed box is Cancel for OkCancel, No for YesNo, Ok for Ok.
+    virtual Answer Ask(const MessageBox& box) = 0;
+    /// Empty when cancelled.
+    virtual QString InputText(
+        const QString& prompt, const QString& title, const QString& preset) = 0;
+    /// A native folder path, empty when cancelled.
+    virtual QString ChooseFolder(const QString& title, const QString& start) = 0;
+    /// A long report to read, with one button.
+    virtual void ShowReport(const QString& title, const QString& text) = 0;
+};
+
+} // namespace pelorin::platform

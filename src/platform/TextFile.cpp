@@ -1,0 +1,197 @@
+#include "platform/TextFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QStringConverter>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::platform {
+
+namespace {
+
+// ICU's converter of Windows' code page 949. "CP949" names another table there, without the
+// 8,822 syllables that Windows added.
+constexpr auto kCodec = "windows-949";
+
+QByteArray EncodeCharacter(const QString& character)
+{
+    QStringEncoder encoder(kCodec);
+    return encoder.encode(character);
+}
+
+bool SurvivesRoundTrip(const QString& character)
+{
+    // A control character or "?" is itself in every code page; the codec's stand-in for a loss
+    // is told from the real thing by decoding it again.
+    return DecodeCp949(EncodeCharacter(character)) == character;
+}
+
+QStringList CharactersOf(const QString& text)
+{
+    QStringList characters;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const bool pair =
+            text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
+        characters << text.mid(i, pair ? 2 : 1);
+        i += pair ? 1 : 0;
+    }
+    return characters;
+}
+
+Error FileError(ErrorKind kind, const QString& path, const QString& reason)
+{
+    return Error{kind, u"%1: %2"_s.arg(path, reason)};
+}
+
+} // namespace
+
+Encoded EncodeCp949(const QString& text)
+{
+    QStringEncoder encoder(kCodec);
+    QByteArray whole = encoder.encode(text);
+    if (DecodeCp949(whole) == text) {
+        return Encoded{whole, QString()};
+    }
+    Encoded result;
+    const QStringList characters = CharactersOf(text);
+    for (const QString& character : characters) {
+        if (SurvivesRoundTrip(character)) {
+            result.bytes += EncodeCharacter(character);
+        } else {
+            result.bytes += '?';
+            if (!result.lost.contains(character)) {
+                result.lost += character;
+            }
+        }
+    }
+    return result;
+}
+
+QString DecodeCp949(const QByteArray& bytes)
+{
+    // A lead byte at the end would be held back as the start of a character to come; the line end
+    // behind it makes the decoder speak.
+    QStringDecoder decoder(kCodec);
+    QString text = decoder.decode(bytes + '\n');
+    text.chop(1);
+    return text;
+}
+
+QStringList SplitLines(const QString& text)
+{
+    QStringList lines;
+    qsizetype start = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] != u'\r' && text[i] != u'\n') {
+            continue;
+        }
+        lines << text.mid(start, i - start);
+        if (text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n') {
+            ++i;
+        }
+        start = i + 1;
+    }
+    if (start < text.size()) {
+        lines << text.mid(start);
+    }
+    return lines;
+}
+
+Outcome<QByteArray> ReadBytes(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        const ErrorKind kind =
+            QFileInfo::exists(path) ? ErrorKind::Unreadable : ErrorKind::NotFound;
+        return FileError(kind, path, file.errorString());
+    }
+    QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        return FileError(ErrorKind::Unreadable, path, file.errorString());
+    }
+    return bytes;
+}
+
+Outcome<QString> ReadText(const QString& path)
+{
+    const Outcome<QByteArray> bytes = ReadBytes(path);
+    if (!bytes) {
+        return bytes.Failure();
+    }
+    return DecodeCp949(bytes.Value());
+}
+
+Outcome<QStringList> ReadLines(const QString& path)
+{
+    const Outcome<QString> text = ReadText(path);
+    if (!text) {
+        return text.Failure();
+    }
+    return SplitLines(text.Value());
+}
+
+Outcome<QStringList> ReadFirstLines(const QString& path, int count)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        const ErrorKind kind =
+            QFileInfo::exists(path) ? ErrorKind::Unreadable : ErrorKind::NotFound;
+        return FileError(kind, path, file.errorString());
+    }
+    constexpr qint64 kBlock = 4096;
+    QByteArray bytes;
+    while (!file.atEnd()) {
+        bytes += file.read(kBlock);
+        if (file.error() != QFileDevice::NoError) {
+            return FileError(ErrorKind::Unreadable, path, file.errorString());
+        }
+        if (bytes.count('\n') >= count) {
+            break;
+        }
+    }
+    return SplitLines(DecodeCp949(bytes)).mid(0, count);
+}
+
+Done WriteBytes(const QString& path, const QByteArray& bytes)
+{
+    QSaveFile file(path);
+    const bool written = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+    if (!written || !file.commit()) {
+        return FileError(ErrorKind::Unwritable, path, file.errorString());
+    }
+    return Success();
+}
+
+Done WriteText(const QString& path, const QString& text)
+{
+    const Encoded encoded = EncodeCp949(text);
+    if (!encoded.lost.isEmpty()) {
+        return FileError(ErrorKind::Unencodable, path, encoded.lost);
+    }
+    return WriteBytes(path, encoded.bytes);
+}
+
+Done WriteLines(const QString& path, const QStringList& lines)
+{
+    QString text;
+    for (const QString& line : lines) {
+        text += line + u"\r\n"_s;
+    }
+    return WriteText(path, text);
+}
+
+Done KeepBackup(const QString& path)
+{
+    if (!QFileInfo::exists(path)) {
+        return Success();
+    }
+    const Outcome<QByteArray> bytes = ReadBytes(path);
+    if (!bytes) {
+        return bytes.Failure();
+    }
+    return WriteBytes(path + u".bak"_s, bytes.Value());
+}
+
+} // namespace pelorin::platform

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "platform/Outcome.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+// Text files of this system are in code page 949 (Windows' extension of EUC-KR) with lines ended
+// by CR LF. On reading, LF alone, CR alone and a missing last line end are accepted as well.
+
+namespace pelorin::platform {
+
+struct Encoded {
+    QByteArray bytes; // a "?" stands for each character that is lost
+    QString lost;     // each character that code page 949 can't keep, once, in order of appearance
+};
+
+/// What survives is found by a round trip, not by the codec's error flag: a character counts as
+/// lost unless its bytes decode to it again. Lone surrogates are lost.
+Encoded EncodeCp949(const QString& text);
+
+/// A byte that is no text (a lead byte at the end, say) becomes U+FFFD.
+QString DecodeCp949(const QByteArray& bytes);
+
+/// The lines of a text without their ends. An empty text has no line; "a\r\n" has one.
+QStringList SplitLines(const QString& text);
+
+/// Reads whole files. Error: NotFound or Unreadable, with the path in the text.
+Outcome<QByteArray> ReadBytes(const QString& path);
+Outcome<QString> ReadText(const QString& path);
+Outcome<QStringList> ReadLines(const QString& path);
+
+/// The first `count` lines at most, reading no more of a large file than it must.
+Outcome<QStringList> ReadFirstLines(const QString& path, int count);
+
+/// Written beside the old file and renamed over it, so that a failure leaves the old file whole.
+/// Error: Unwritable with the path and the reason.
+Done WriteBytes(const QString& path, const QByteArray& bytes);
+
+/// As WriteBytes. Error Unencodable, with the characters in the text and nothing written, when
+/// code page 949 can't keep the text.
+Done WriteText(const QString& path, const QString& text);
+
+/// Each line followed by CR LF.
+Done WriteLines(const QString& path, const QStringList& lines);
+
+/// Copies `path` to `path`.bak, replacing an older one. Nothing to keep is a success.
+Done KeepBackup(const QString& path);
+
+} // namespace pelorin::platform
