@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/Notifier.h"
+
+#include <QString>
+
+#include <cstdint>
+#include <vector>
+
+namespace pelorin::finding {
+
+/// A child of a category, with a check mark.
+struct FilterNode {
+    QString key; // prefix and value ("findgenrek_" and the genre)
+    QString text;
+    bool checked = false;
+};
+
+struct FilterRoot {
+    QString key; // "genrek", "genree", "ganada" ...
+    QString text;
+    std::vector<FilterNode> children;
+    bool expanded = false; // written by the form
+};
+
+/// What TreeView1 holds: ten categories in a fixed order.
+struct FilterTree {
+    enum Changed : std::uint32_t { Nodes = 1, Checks = 2 };
+
+    std::vector<FilterRoot> roots;
+
+    platform::Notifier changed;
+
+    /// nullptr if there is no such category.
+    FilterRoot* Root(const QString& key);
+    const FilterRoot* Root(const QString& key) const;
+};
+
+/// The search box beside it.
+struct SearchBox {
+    QString txtFind;
+
+    platform::Notifier changed;
+};
+
+} // namespace pelorin::finding

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platform/Notifier.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+namespace pelorin::finding {
+
+inline constexpr int kColumns = 8; // title, genre, folder, build, maker, release, language, country
+
+/// One row of LVGamelist.
+struct GameItem {
+    QString folder;                     // its key is "K" and the folder
+    std::array<QString, kColumns> text; // text[0] is the title in use, also the tool tip
+    QString tag;                        // the genre in use
+    std::int16_t listIndex = 0;         // number of its icon, from 1
+};
+
+enum class View { LargeIcons = 0, SmallIcons = 1, List = 2, Details = 3 };
+
+/// What LVGamelist holds: rows, selection, view. The form's two views show it through one adapter.
+struct GameList {
+    enum Changed : std::uint32_t {
+        Reset = 1,     // all rows
+        Rows = 2,      // texts of single rows
+        Selection = 4, // by the program, not by the user
+        ViewMode = 8,
+        Focus = 16, // the list is to take the keyboard
+        Icons = 32,
+        Columns = 64, // widths and captions
+    };
+
+    std::vector<GameItem> items;
+    int selected = -1;             // the row that the commands work on; -1 none
+    std::vector<int> selectedRows; // all selected rows, ascending; holds `selected`
+    View view = View::SmallIcons;
+    std::array<double, kColumns> columnWidths{}; // form units, 15 a pixel
+    std::array<QString, kColumns> columnCaptions;
+    bool visible = false; // written by the form
+
+    platform::Notifier changed;
+
+    /// -1 if there is none.
+    int RowOf(const QString& folder) const;
+    /// Selects that row alone; -1 selects nothing. Tells Selection.
+    void Select(int row);
+};
+
+} // namespace pelorin::finding

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+#include <vector>
+
+namespace pelorin::library {
+
+/// One game of the Catalogue. Its folder is the truth, this a cache of it.
+struct GameEntry {
+    QString Folder;             // folder name below GamesRoot, the game's identity
+    QString TitleK;             // first title with its marks
+    QString TitleE;             // second title with its marks
+    std::int16_t ListIndex = 0; // position in the Catalogue plus 1, and the number of its icon
+    QString GenreK;
+    QString GenreE;
+    std::int16_t DosboxVersion = 0; // index of the build in the value list of cell (0,0)
+    QString Maker;
+    QString GameLanguage;
+    QString Release;
+    QString Country;
+};
+
+/// Positions are 16-bit signed, so that is the bound.
+inline constexpr int kMostGames = 32767;
+
+using Catalogue = std::vector<GameEntry>;
+
+} // namespace pelorin::library

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/Outcome.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace pelorin::shell {
+
+/// The highest entry that every language file must have.
+inline constexpr int kLastEntry = 339;
+
+/// The words of the interface. Entry n is line n of Language.dat; entry 0 is set by us.
+class LangTable {
+public:
+    /// `lines` without line ends, backslash-n still in them. Error Malformed names the first
+    /// missing line when there are fewer than kLastEntry.
+    static platform::Outcome<LangTable> FromLines(const QStringList& lines);
+
+    /// 0 to kLastEntry; a number behind the table gives an empty text (OwnText serves those).
+    const QString& operator[](int entry) const;
+    /// Placeholders <1>, <2>, <3> replaced in this order, plainly.
+    QString Text(int entry, const QStringList& values) const;
+    /// Entries behind kLastEntry are our own and may be missing in a file: `english` stands in.
+    QString OwnText(int entry, const QString& english) const;
+
+    /// Entry 1 is exactly the Korean name.
+    bool IsKorean() const;
+
+private:
+    QStringList m_entries{QString()};
+};
+
+} // namespace pelorin::shell

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "dosboxconf/OptionGrid.h"
+#include "library/GameEntry.h"
+#include "library/IconSheet.h"
+#include "platform/Ports.h"
+#include "shell/Current.h"
+#include "shell/LangTable.h"
+#include "shell/Places.h"
+#include "shell/RecentList.h"
+#include "shell/Screens.h"
+#include "shell/Settings.h"
+
+namespace pelorin::shell {
+
+/// The process-wide tables. main owns the one Launcher; commands take it by reference.
+struct Launcher {
+    explicit Launcher(platform::Ports& thePorts)
+        : ports(thePorts)
+    {}
+
+    platform::Ports& ports;
+    Places places;
+    LangTable lang;
+    Settings settings;
+    RecentList recent;
+    library::Catalogue catalogue;
+    library::IconSheet icons;
+    library::IconPixels defaultIcon; // 32 x 32
+    dosboxconf::OptionGrid options;
+    Current current;
+    Flags flags;
+    Screens screens;
+    QString BuildStamp;
+    QString WindowTitle;
+};
+
+} // namespace pelorin::shell

@@ -1,0 +1,124 @@
+#pragma once
+
+#include "dosboxconf/StartCommands.h"
+#include "finding/FilterTree.h"
+#include "finding/GameList.h"
+#include "platform/Notifier.h"
+
+#include <QString>
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+namespace pelorin::shell {
+
+/// Where the main window stands. Form units are 1/15 pixel.
+struct MainFrame {
+    enum Changed : std::uint32_t {
+        Caption = 1,
+        Geometry = 2,
+        Panels = 4,
+        Tab = 8,
+        Language = 16, // texts of all controls are to be taken anew
+        Front = 32,    // bring the window forward
+        TitlePicture = 64,
+        Show = 128,
+    };
+    enum class State { Normal, Maximized, Minimized };
+
+    QString caption;
+    QString applicationTitle;
+    State state = State::Normal;
+    double left = 100;
+    double top = 100;
+    double width = 0; // 0: as designed
+    double height = 0;
+    bool picBack0Enabled = true;
+    bool picBack1Enabled = true;
+    int tabInfo = 1;             // page on top, counted from 1
+    bool minimumSizeHook = true; // false with the marker file NoHook
+
+    platform::Notifier changed;
+};
+
+/// The right page's information about the selected game.
+struct DetailsPanel {
+    enum Changed : std::uint32_t { Texts = 1, Icon = 2, Genres = 4 };
+
+    std::array<QString, 2> txtTitle;
+    QString txtInfo;
+    QString lblGenreK;
+    QString lblGenreE;
+    QString iconFile; // native path; empty: the default icon
+
+    platform::Notifier changed;
+};
+
+/// The place of the emulator's window: what the settings keep of it.
+struct PlacementPanel {
+    std::array<QString, 2> txtDosboxPos; // x and y, as typed
+    bool chkDosboxMove = false;
+    int cmbDosboxMove = 4; // delay is index + 1 seconds
+
+    platform::Notifier changed;
+};
+
+struct Note {
+    QString text;  // one line for the panel
+    QString story; // what a click shows
+};
+
+/// SBDirectory's four panels.
+struct StatusBar {
+    enum Changed : std::uint32_t { Texts = 1, Notes = 2 };
+
+    QString game;            // panel 1
+    QString folder;          // panel 2
+    QString count;           // panel 3
+    QString folderPath;      // the path that panel 2 shows
+    std::vector<Note> notes; // panel 4 shows the last one and is hidden without
+
+    platform::Notifier changed;
+
+    void Tell(const QString& text, const QString& story);
+};
+
+/// picProgress over the list.
+struct ProgressPanel {
+    bool visible = false;
+    int maximum = 1;
+    int value = 0;
+    QString text;
+
+    platform::Notifier changed;
+};
+
+/// picMessage over the list.
+struct BusyNotice {
+    bool visible = false;
+    QString lblMessage;
+    std::uint32_t colour = 0; // 0 black, 255 red, 16711680 blue: red in the low byte
+
+    platform::Notifier changed;
+};
+
+/// All that controls hold. The form shows it and writes what the user did.
+struct Screens {
+    Screens();
+
+    platform::RedrawGate gate;
+    finding::GameList list;
+    finding::FilterTree tree;
+    finding::SearchBox search;
+    DetailsPanel details;
+    dosboxconf::StartCommands start;
+    dosboxconf::CdPanel cd;
+    PlacementPanel placement;
+    StatusBar status;
+    ProgressPanel progress;
+    BusyNotice notice;
+    MainFrame frame;
+};
+
+} // namespace pelorin::shell

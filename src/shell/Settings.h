@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+namespace pelorin::shell {
+
+/// What Launcher.cfg keeps that no screen model holds.
+struct Settings {
+    bool TitleLanguageKorean = true; // which title the list shows
+    bool rootsChanged = false;       // a root was changed since the last scan: the cache is stale
+};
+
+} // namespace pelorin::shell
