@@ -1,0 +1,74 @@
+# Debian 12 packages that Pelorin needs, by what needs them. Meant to be sourced by bash:
+#   . tools/packages.sh
+#   need_packages build run        installs what of these groups is missing
+# Nothing is asked of the network when everything is there.
+
+packages_of() {
+    case $1 in
+    build) # compiling the program, its data and the sample
+        echo cmake ninja-build g++ pkg-config nasm \
+            qt6-base-dev libgl-dev libfreeimage-dev ;;
+    run) # what the program starts, and what a window needs to look right (Korean, icons, file types)
+        echo dosbox dosbox-debug 7zip libqt6svg6 fonts-nanum \
+            xdg-utils file shared-mime-info ;;
+    test) # test libraries, and a display without a monitor whose windows can be read and driven
+        echo libgtest-dev libgmock-dev python3 \
+            xvfb openbox xdotool imagemagick x11-utils xauth ;;
+    check) # formatting and linting
+        echo git ccache clang-format-14 clang-tidy-14 ;;
+    *)
+        echo "packages.sh: no group \"$1\"" >&2
+        return 1 ;;
+    esac
+}
+
+# Prints those of the named packages that are not installed.
+missing_packages() {
+    local have
+    have=$(dpkg-query -W -f='${Package} ${db:Status-Status}\n' "$@" 2>/dev/null |
+        sed -n 's/ installed$//p')
+    local name
+    for name in "$@"; do
+        grep -qxF -- "$name" <<<"$have" || echo "$name"
+    done
+}
+
+# Runs a command as root: as we are, or through sudo.
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    else
+        sudo "$@"
+    fi
+}
+
+# Installs what is missing of the named groups and says what it does. Status 1 when that is not
+# possible, with the command that would do it.
+need_packages() {
+    local group names=() missing
+    for group in "$@"; do
+        names+=($(packages_of "$group")) || return 1
+    done
+    if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+        echo "This is not a Debian system. Install by hand what these packages hold: ${names[*]}" >&2
+        return 1
+    fi
+    mapfile -t missing < <(missing_packages "${names[@]}")
+    [ ${#missing[@]} -gt 0 ] || return 0
+
+    echo "Installing ${#missing[@]} missing packages: ${missing[*]}"
+    if [ "$(id -u)" -ne 0 ] && ! command -v sudo >/dev/null; then
+        echo "That takes root or sudo, and here is neither. As root:" >&2
+        echo "  apt-get update && apt-get install --no-install-recommends ${missing[*]}" >&2
+        return 1
+    fi
+    if ! as_root env DEBIAN_FRONTEND=noninteractive apt-get -q update; then
+        echo "The package lists could not be fetched (is the network there?)." >&2
+        return 1
+    fi
+    if ! as_root env DEBIAN_FRONTEND=noninteractive \
+        apt-get -q install -y --no-install-recommends "${missing[@]}"; then
+        echo "These packages could not be installed: ${missing[*]}" >&2
+        return 1
+    fi
+}
