@@ -19,6 +19,7 @@ struct Flags {
     bool ConfigListFocused = false; // lstConfig has the focus
     bool CloseBlocked = false;      // refuses closing; nothing sets it
     bool Ending = false;            // the window is closing: waits come back abandoned
+    bool JobHeld = false;           // a Job stands; only Job writes it
 };
 
 } // namespace pelorin::shell

@@ -57,6 +57,8 @@ struct DetailsPanel {
 
 /// The place of the emulator's window: what the settings keep of it.
 struct PlacementPanel {
+    enum Changed : std::uint32_t { All = 1 };
+
     std::array<QString, 2> txtDosboxPos; // x and y, as typed
     bool chkDosboxMove = false;
     int cmbDosboxMove = 4; // delay is index + 1 seconds
@@ -86,6 +88,8 @@ struct StatusBar {
 
 /// picProgress over the list.
 struct ProgressPanel {
+    enum Changed : std::uint32_t { All = 1 };
+
     bool visible = false;
     int maximum = 1;
     int value = 0;
@@ -96,9 +100,12 @@ struct ProgressPanel {
 
 /// picMessage over the list.
 struct BusyNotice {
+    enum Changed : std::uint32_t { All = 1 };
+
     bool visible = false;
     QString lblMessage;
     std::uint32_t colour = 0; // 0 black, 255 red, 16711680 blue: red in the low byte
+    int tmrMessage = 0;       // the timer that blinks it; 0 when it stands still
 
     platform::Notifier changed;
 };

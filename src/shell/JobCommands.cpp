@@ -1,0 +1,104 @@
+#include "shell/JobCommands.h"
+
+#include "platform/Timers.h"
+#include "shell/Launcher.h"
+
+#include <QLoggingCategory>
+
+namespace pelorin::shell {
+
+namespace {
+
+// Colours as the settings of old platforms write them: red in the low byte, blue in the high one.
+constexpr std::uint32_t kBlack = 0;
+constexpr std::uint32_t kRed = 255;
+constexpr std::uint32_t kBlue = 16711680;
+constexpr int kBlinkMs = 500;
+
+std::uint32_t NextColour(std::uint32_t colour)
+{
+    switch (colour) {
+    case kBlack: return kRed;
+    case kRed: return kBlue;
+    case kBlue: return kBlack;
+    default: return colour;
+    }
+}
+
+void SetPanels(Launcher& launcher, bool left, bool right)
+{
+    MainFrame& frame = launcher.screens.frame;
+    frame.picBack0Enabled = left;
+    frame.picBack1Enabled = right;
+    frame.changed.Tell(MainFrame::Panels);
+}
+
+} // namespace
+
+Job::Job(Launcher& launcher)
+    : m_launcher(launcher)
+    , m_held(!launcher.flags.JobHeld)
+    , m_foundPanel0(launcher.screens.frame.picBack0Enabled)
+    , m_foundPanel1(launcher.screens.frame.picBack1Enabled)
+{
+    if (m_held) {
+        m_launcher.flags.JobHeld = true;
+        m_launcher.flags.BusyReady = false;
+        SetPanels(m_launcher, false, false);
+    }
+}
+
+Job::~Job()
+{
+    if (!m_held) {
+        return;
+    }
+    SetPanels(
+        m_launcher, m_panelsAtEnd.value_or(m_foundPanel0), m_panelsAtEnd.value_or(m_foundPanel1));
+    m_launcher.flags.JobHeld = false;
+    m_launcher.flags.BusyReady = true;
+}
+
+void SetPanelsEnabled(Launcher& launcher, bool enabled)
+{
+    SetPanels(launcher, enabled, enabled);
+}
+
+void ShowBusyMessage(Launcher& launcher, const QString& text)
+{
+    BusyNotice& notice = launcher.screens.notice;
+    notice.lblMessage = text;
+    notice.visible = true;
+    if (notice.tmrMessage == 0) {
+        notice.tmrMessage = launcher.ports.timers.StartRepeating(
+            kBlinkMs, [&launcher] { tmrMessage_Timer(launcher); });
+    }
+    notice.changed.Tell(BusyNotice::All);
+}
+
+void HideBusyMessage(Launcher& launcher)
+{
+    BusyNotice& notice = launcher.screens.notice;
+    launcher.ports.timers.Stop(notice.tmrMessage);
+    notice.tmrMessage = 0;
+    notice.visible = false;
+    notice.changed.Tell(BusyNotice::All);
+    launcher.screens.frame.changed.Tell(MainFrame::Front);
+    launcher.ports.timers.RunPendingEvents();
+}
+
+void tmrMessage_Timer(Launcher& launcher)
+{
+    BusyNotice& notice = launcher.screens.notice;
+    notice.colour = NextColour(notice.colour);
+    notice.changed.Tell(BusyNotice::All);
+}
+
+void TellNote(Launcher& launcher, const char* category, const QString& text, const QString& story)
+{
+    const QLoggingCategory room(category);
+    qCWarning(room).noquote() << text;
+    launcher.screens.status.Tell(text, story.isEmpty() ? text : story);
+}
+
+} // namespace pelorin::shell

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace pelorin::shell {
+
+struct Launcher;
+
+/// A long job: while it stands the window refuses to close and both side panels are disabled.
+/// Its end puts the panels back as it found them. Only jobs write BusyReady and the panels' state.
+class Job {
+public:
+    /// Held() is false when another job stands already; the command then returns at once.
+    explicit Job(Launcher& launcher);
+    ~Job();
+    Job(const Job&) = delete;
+    Job& operator=(const Job&) = delete;
+
+    bool Held() const { return m_held; }
+    /// What the panels are to be at the end, in place of what was found.
+    void SetPanelsEnabledAtEnd(bool enabled) { m_panelsAtEnd = enabled; }
+
+private:
+    Launcher& m_launcher;
+    bool m_held = false;
+    bool m_foundPanel0 = true;
+    bool m_foundPanel1 = true;
+    std::optional<bool> m_panelsAtEnd;
+};
+
+/// Sets whether both side panels can be used.
+void SetPanelsEnabled(Launcher& launcher, bool enabled);
+
+/// The notice over the list; its text blinks until HideBusyMessage.
+void ShowBusyMessage(Launcher& launcher, const QString& text);
+void HideBusyMessage(Launcher& launcher);
+/// The notice's next colour: black, red, blue, black; any other stays.
+void tmrMessage_Timer(Launcher& launcher);
+
+/// What failed in silence: a line in the status bar's fourth panel, the whole story behind it, and
+/// the line on standard error under the room's logging category ("pelorin.library").
+void TellNote(
+    Launcher& launcher,
+    const char* category,
+    const QString& text,
+    const QString& story = QString());
+
+} // namespace pelorin::shell
