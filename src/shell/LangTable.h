@@ -10,7 +10,8 @@ namespace pelorin::shell {
 /// The highest entry that every language file must have.
 inline constexpr int kLastEntry = 339;
 
-/// The words of the interface. Entry n is line n of Language.dat; entry 0 is set by us.
+/// The words of the interface. Entry n is line n of Language.dat, its backslash-n turned into CR LF;
+/// entry 0 is set by us.
 class LangTable {
 public:
     /// `lines` without line ends, backslash-n still in them. Error Malformed names the first
@@ -29,6 +30,11 @@ public:
 
 private:
     QStringList m_entries{QString()};
+    QString m_none; // what a number behind the table gives
 };
+
+/// Error: NotFound or Unreadable with the path, or Malformed with the path and the first missing
+/// line ("/opt/pelorin/Language.dat:12: ...").
+platform::Outcome<LangTable> ReadLanguageFile(const QString& path);
 
 } // namespace pelorin::shell
