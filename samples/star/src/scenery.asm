@@ -1,0 +1,449 @@
+; The night over the hill: what stands still behind the title and behind the play.
+
+kHorizon        equ 162                 ; the sky's last line
+kGround         equ 176                 ; the ground where the children run
+kMoonX          equ 284
+kMoonY          equ 24
+kMoonRadius     equ 14
+kHalo           equ 40
+
+; Draws the whole scenery into ES.
+DrawScenery:
+        call    DrawSky
+        call    DrawMilkyWay
+        call    DrawMoon
+        call    DrawHills
+        call    DrawTrees
+        mov     si, sprite_house
+        mov     ax, 28
+        mov     dx, 146
+        call    DrawSprite
+        jmp     DrawGround
+
+; The ramp from the zenith to the horizon, its steps blurred by a pattern of 4 by 4 pixels.
+DrawSky:
+        xor     di, di
+        xor     dx, dx                  ; y
+.row:   push    dx
+        mov     ax, (kSkyColours - 1) * 16
+        mul     dx
+        mov     bx, kHorizon
+        div     bx
+        pop     dx
+        mov     bp, ax                  ; colour * 16
+        mov     bx, dx
+        and     bx, 3
+        shl     bx, 2
+        add     bx, blur_pattern
+        xor     cx, cx                  ; x
+.pixel: mov     si, cx
+        and     si, 3
+        movzx   ax, byte [bx + si]
+        add     ax, bp
+        shr     ax, 4
+        add     al, kSky
+        stosb
+        inc     cx
+        cmp     cx, kWidth
+        jb      .pixel
+        inc     dx
+        cmp     dx, kHorizon
+        jbe     .row
+        ret
+
+; A slanting band of faint stars, crowded in its middle, and some strewn over the whole sky.
+DrawMilkyWay:
+        mov     cx, 700
+.band:  mov     di, seed_scenery
+        mov     bx, 360
+        call    RandomBelow
+        mov     si, ax                  ; along the band
+        mov     bx, 46
+        call    RandomBelow
+        mov     dx, ax
+        call    RandomBelow
+        add     dx, ax                  ; across: the sum of two favours the middle
+        mov     ax, si
+        shr     ax, 2
+        sub     dx, ax
+        add     dx, 62
+        mov     bx, 5
+        call    RandomBelow
+        mov     bx, ax
+        add     bl, kSilver
+        mov     ax, si
+        cmp     dx, kHorizon - 20
+        jae     .skip
+        call    PutPixel
+.skip:  loop    .band
+        mov     cx, 110
+.strew: mov     di, seed_scenery
+        mov     bx, kWidth
+        call    RandomBelow
+        mov     si, ax
+        mov     bx, kHorizon - 12
+        call    RandomBelow
+        mov     dx, ax
+        mov     bx, 9
+        call    RandomBelow
+        mov     bx, ax
+        add     bl, kSilver + 4
+        mov     ax, si
+        call    PutPixel
+        loop    .strew
+        ret
+
+; A crescent: the part of one disc that another does not cover; and the glow around it.
+DrawMoon:
+        mov     dx, kMoonY - kHalo
+.row:   mov     cx, kMoonX - kHalo
+.pixel: call    DrawMoonPixel
+        inc     cx
+        cmp     cx, kMoonX + kHalo
+        jb      .pixel
+        inc     dx
+        cmp     dx, kMoonY + kHalo
+        jl      .row
+        ret
+
+; CX = x, DX = y.
+DrawMoonPixel:
+        cmp     cx, kWidth
+        jae     .done
+        cmp     dx, kHeight
+        jae     .done
+        mov     si, kMoonX
+        mov     di, kMoonY
+        call    SquaredDistance
+        cmp     ax, kMoonRadius * kMoonRadius
+        ja      .halo
+        push    ax
+        mov     si, kMoonX - 7
+        mov     di, kMoonY - 4
+        call    SquaredDistance
+        cmp     ax, kMoonRadius * kMoonRadius - 20
+        pop     ax
+        jbe     .halo
+        mov     bx, ax                  ; brighter towards the rim
+        shr     bx, 4
+        add     bl, kMoon + 3
+        mov     ax, cx
+        jmp     PutPixel
+.halo:  mov     bx, kHalo * kHalo
+        sub     bx, ax
+        jbe     .done
+        shr     bx, 5                   ; 0 to 50 sixteenths of a colour... blurred like the sky
+        mov     si, dx
+        and     si, 3
+        shl     si, 2
+        mov     ax, cx
+        and     ax, 3
+        add     si, ax
+        movzx   ax, byte [blur_pattern + si]
+        add     ax, bx
+        shr     ax, 2
+        imul    di, dx, kWidth
+        add     di, cx
+        mov     bl, [es:di]
+        cmp     bl, kSky + kSkyColours
+        jae     .done
+        add     bl, al
+        mov     [es:di], bl
+.done:  ret
+
+; AX = squared distance of CX, DX from SI, DI.
+SquaredDistance:
+        push    bx
+        mov     ax, cx
+        sub     ax, si
+        imul    ax, ax
+        mov     bx, dx
+        sub     bx, di
+        imul    bx, bx
+        add     ax, bx
+        pop     bx
+        ret
+
+; Three ridges, each nearer one darker and lower.
+DrawHills:
+        mov     si, ridges
+.ridge: xor     cx, cx
+.column:
+        call    RidgeHeight             ; DX
+        mov     bl, [si + 6]
+        mov     bh, [si + 7]
+        mov     ax, cx
+        mov     bp, dx
+        add     bp, 2                   ; the moon's light on the crest
+        add     bl, bh
+.pixel: call    PutPixel
+        inc     dx
+        cmp     dx, bp
+        jb      .pixel
+        mov     bl, [si + 6]
+        add     bp, 12
+        cmp     dx, kHeight
+        jb      .pixel
+        inc     cx
+        cmp     cx, kWidth
+        jb      .column
+        add     si, kRidgeBytes
+        cmp     word [si], 0
+        jne     .ridge
+        ret
+
+; DX = y of the ridge SI at the column CX.
+RidgeHeight:
+        push    bx
+        mov     ax, cx
+        imul    ax, [si + 2]
+        shr     ax, 6
+        add     al, [si + 4]
+        call    Sine
+        imul    ax, [si + 8]
+        sar     ax, 6
+        mov     dx, ax
+        mov     ax, cx
+        imul    ax, 5
+        shr     ax, 1
+        add     al, [si + 5]
+        call    Sine
+        sar     ax, 5
+        add     dx, ax
+        add     dx, [si]
+        pop     bx
+        ret
+
+; Firs along the near ridges: x, y of the foot, height.
+DrawTrees:
+        mov     si, trees
+.tree:  lodsw
+        cmp     ax, -1
+        je      .done
+        mov     cx, ax
+        lodsw
+        mov     dx, ax
+        lodsw
+        call    DrawFir
+        jmp     .tree
+.done:  ret
+
+; CX = x, DX = y of the foot, AX = height. The fir is as dark as the ground, its right side lit.
+DrawFir:
+        pusha
+        mov     bp, ax
+        mov     si, dx
+        sub     dx, ax
+        xor     di, di                  ; rows from the top
+.row:   mov     ax, di
+        and     ax, 7                   ; branches: each 8 rows the fir starts slim again
+        mov     bx, di
+        shr     bx, 2
+        add     ax, bx
+        shr     ax, 1
+        push    bp
+        mov     bp, ax                  ; half width of this row
+        mov     ax, cx
+        sub     ax, bp
+        mov     bl, kHill + 1
+.pixel: push    ax
+        sub     ax, cx
+        cmp     ax, bp
+        pop     ax
+        jne     .put
+        mov     bl, kHill + 8
+.put:   call    PutPixel
+        inc     ax
+        push    ax
+        sub     ax, cx
+        cmp     ax, bp
+        pop     ax
+        jle     .pixel
+        pop     bp
+        inc     dx
+        inc     di
+        cmp     di, bp
+        jb      .row
+        popa
+        ret
+
+; The meadow in front: dark, with blades of grass along its upper edge.
+DrawGround:
+        mov     cx, kWidth
+        xor     ax, ax
+.blade: push    ax
+        mov     di, seed_scenery
+        mov     bx, 5
+        call    RandomBelow
+        mov     dx, kGround + 4
+        sub     dx, ax
+        mov     bx, ax
+        add     bl, kHill + 3
+        pop     ax
+.down:  call    PutPixel
+        inc     dx
+        cmp     bl, kHill + 1
+        jbe     .flat
+        dec     bl
+.flat:  cmp     dx, kHeight
+        jb      .down
+        inc     ax
+        loop    .blade
+        ret
+
+; The title "Byeol heneun bam" (Counting Stars at Night) in Hangul of our own drawing. A syllable is
+; made of bars and of rings.
+kTitleX         equ 18
+kTitleY         equ 36
+
+DrawHangulTitle:
+        mov     word [stroke_growth], 3
+        mov     byte [stroke_shading], 0
+        mov     byte [stroke_colour], kSky + 2
+        call    DrawTitleStrokes
+        mov     word [stroke_growth], 1
+        mov     byte [stroke_colour], kGold + 1
+        call    DrawTitleStrokes
+        mov     word [stroke_growth], 0
+        mov     byte [stroke_shading], 1
+        jmp     DrawTitleStrokes
+
+DrawTitleStrokes:
+        mov     si, title_strokes
+.next:  lodsw                           ; x / 2, y
+        cmp     ax, -1
+        je      .done
+        movzx   cx, al
+        shl     cx, 1
+        movzx   dx, ah
+        lodsw                           ; width, height; width 0: a ring of this radius
+        movzx   bx, al
+        movzx   bp, ah
+        test    bx, bx
+        jz      .ring
+        call    DrawBar
+        jmp     .next
+.ring:  call    DrawRing
+        jmp     .next
+.done:  ret
+
+; CX = x, DX = y, BX = width, BP = height, grown to all sides by `stroke_growth`.
+DrawBar:
+        pusha
+        mov     ax, [stroke_growth]
+        sub     cx, ax
+        sub     dx, ax
+        shl     ax, 1
+        add     bx, ax
+        add     bp, ax
+        mov     di, cx
+        add     di, bx                  ; x behind the bar
+        mov     si, dx
+        add     si, bp                  ; y behind it
+.row:   push    cx
+.pixel: call    PutStroke
+        inc     cx
+        cmp     cx, di
+        jb      .pixel
+        pop     cx
+        inc     dx
+        cmp     dx, si
+        jb      .row
+        popa
+        ret
+
+; CX, DX = middle, BP = outer radius. The ring is 6 wide, and grown to both sides.
+DrawRing:
+        pusha
+        mov     [ring_x], cx
+        mov     [ring_y], dx
+        mov     bx, bp
+        add     bx, [stroke_growth]
+        mov     ax, bp
+        sub     ax, 6
+        sub     ax, [stroke_growth]
+        imul    ax, ax
+        mov     [ring_inner], ax
+        mov     ax, bx
+        imul    ax, ax
+        add     ax, bx
+        mov     [ring_outer], ax
+        sub     dx, bx
+.row:   mov     cx, [ring_x]
+        sub     cx, bx
+.pixel: mov     si, [ring_x]
+        mov     di, [ring_y]
+        call    SquaredDistance
+        cmp     ax, [ring_outer]
+        ja      .skip
+        cmp     ax, [ring_inner]
+        jb      .skip
+        call    PutStroke
+.skip:  inc     cx
+        mov     ax, cx
+        sub     ax, [ring_x]
+        cmp     ax, bx
+        jle     .pixel
+        inc     dx
+        mov     ax, dx
+        sub     ax, [ring_y]
+        cmp     ax, bx
+        jle     .row
+        popa
+        ret
+
+; One pixel of the title at CX, DX, counted from the title's corner.
+PutStroke:
+        pusha
+        mov     bl, [stroke_colour]
+        cmp     byte [stroke_shading], 0
+        je      .plain
+        mov     ax, 68                  ; from bright above to a deeper gold below
+        sub     ax, dx
+        shr     ax, 3
+        add     al, kGold + 7
+        mov     bl, al
+.plain: mov     ax, cx
+        add     ax, kTitleX
+        add     dx, kTitleY
+        call    PutPixel
+        popa
+        ret
+
+blur_pattern:   db 0, 8, 2, 10
+                db 12, 4, 14, 6
+                db 3, 11, 1, 9
+                db 15, 7, 13, 5
+
+; y, stretch of the wave, its phase and the ripples' phase, colour, brighter on the crest by, height.
+kRidgeBytes     equ 10
+ridges:         dw 142, 45
+                db 40, 10, kHill + 9, 3
+                dw 11
+                dw 153, 60
+                db 170, 90, kHill + 5, 4
+                dw 8
+                dw 166, 40
+                db 100, 30, kHill + 2, 4
+                dw 6
+                dw 0
+
+trees:          dw 10, 176, 26, 18, 178, 20, 92, 170, 18, 99, 171, 26, 107, 172, 20
+                dw 222, 172, 22, 292, 176, 34, 305, 178, 44, 315, 178, 30, 282, 176, 20
+                dw -1
+
+; x / 2, y, width, height.
+title_strokes:
+        db      0, 0, 7, 34,  12, 0, 7, 34,  0, 12, 31, 6,  0, 28, 31, 6        ; byeol
+        db      25, 0, 7, 36,  18, 8, 14, 6,  18, 21, 14, 6
+        db      5, 42, 47, 5,  25, 42, 7, 15,  5, 52, 47, 5,  5, 52, 7, 15,  5, 62, 47, 5
+        db      44, 2, 14, 6,  40, 13, 30, 6,  47, 38, 0, 15                    ; he
+        db      54, 34, 12, 6,  59, 4, 7, 60,  66, 0, 7, 67
+        db      79, 2, 7, 20,  79, 16, 46, 7,  75, 32, 62, 7                    ; neun
+        db      79, 47, 7, 20,  79, 60, 46, 7
+        db      114, 0, 7, 34,  126, 0, 7, 34,  114, 12, 31, 6,  114, 28, 31, 6 ; bam
+        db      133, 0, 7, 38,  136, 15, 12, 6
+        db      118, 43, 38, 6,  118, 61, 38, 6,  118, 43, 7, 24,  133, 43, 7, 24
+        dw      -1
+
+seed_scenery:   dw 1941

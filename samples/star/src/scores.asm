@@ -1,0 +1,6 @@
+LoadScores:
+        ret
+EnterScore:
+        ret
+ShowScores:
+        ret

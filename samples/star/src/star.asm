@@ -1,0 +1,117 @@
+; Counting Stars at Night (Star): a game for DOS.
+;
+; Needs a 386, VGA and about 200 KB of memory; speaks through the PC speaker. All files that it
+; reads and writes lie in the current directory:
+;   READY.TXT   written when the title stands on the screen for the first time
+;   LAST.TXT    what happened in the last game, a line for each level done and one for the end
+;   SCORES.DAT  the five best, a line each: initials, score, level
+;
+; This file: start, end, the road from the title to the play and back.
+
+        cpu     386
+        org     100h
+
+start:
+        cld
+        mov     sp, stack_top
+        mov     bx, stack_top + 15
+        shr     bx, 4
+        mov     ah, 4Ah                 ; give back what lies behind the program
+        int     21h
+        jc      NoMemory
+        call    AllocatePictures
+        jc      NoMemory
+        call    ClearVariables
+        call    GuardAgainstDos
+        call    LoadScores
+        mov     dx, name_ready
+        call    RemoveFile
+        call    EnterGraphics
+        call    TakeTimer
+        call    TakeKeyboard
+        call    MainLoop
+        call    FadeOut
+        call    ReleaseKeyboard
+        call    ReleaseTimer
+        call    LeaveGraphics
+        mov     ax, 4C00h
+        int     21h
+
+NoMemory:
+        mov     dx, text_no_memory
+        mov     ah, 9
+        int     21h
+        mov     ax, 4C01h
+        int     21h
+
+; What is reserved behind the program's end has no content of its own in a .COM file.
+ClearVariables:
+        push    word [picture]
+        push    word [frame]
+        push    ds
+        pop     es
+        mov     di, variables
+        mov     cx, variables_end - variables
+        xor     al, al
+        rep     stosb
+        pop     word [frame]
+        pop     word [picture]
+        ret
+
+; Ctrl-C must not end the program with our interrupts in place, and a disk that fails must give an
+; error, not a question. DOS puts both vectors back at the end.
+GuardAgainstDos:
+        mov     dx, IgnoreBreak
+        mov     ax, 2523h
+        int     21h
+        mov     dx, FailDisk
+        mov     ax, 2524h
+        int     21h
+        ret
+FailDisk:
+        mov     al, 3
+IgnoreBreak:
+        iret
+
+; Title, play, initials, scores; until Esc at the title.
+MainLoop:
+        call    RunTitle
+        jc      .leave
+        call    PlayGame
+        call    EnterScore
+        call    ShowScores
+        jmp     MainLoop
+.leave: ret
+
+%include "video.asm"
+%include "timer.asm"
+%include "keyboard.asm"
+%include "sound.asm"
+%include "scenery.asm"
+%include "sprites.asm"
+%include "title.asm"
+%include "play.asm"
+%include "files.asm"
+%include "scores.asm"
+
+text_no_memory: db "Counting Stars at Night needs 200 KB of free memory.", 13, 10, "$"
+
+; Variables without content at the start; they lie behind the program in memory only.
+section .bss
+variables:
+picture:        resw 1
+frame:          resw 1
+font:           resw 2
+palette:        resb kPaletteBytes
+sprite_x:       resw 1
+rows_left:      resb 1
+stroke_shading: resb 1
+stroke_growth:  resw 1
+stroke_colour:  resb 1
+ring_x:         resw 1
+ring_y:         resw 1
+ring_inner:     resw 1
+ring_outer:     resw 1
+variables_end:
+                resb 1024
+stack_top:

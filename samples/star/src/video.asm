@@ -1,0 +1,401 @@
+; Screen: VGA mode 13h, 320 by 200 in 256 colours. Nothing is drawn on the visible screen itself.
+; Pictures are composed in two segments of our own: `picture`, the scenery, and `frame`, one frame
+; to be shown. All drawing procedures draw into the segment that ES holds.
+
+kWidth          equ 320
+kHeight         equ 200
+kScreenBytes    equ kWidth * kHeight
+kVgaSegment     equ 0A000h
+kPaletteBytes   equ 256 * 3
+kFullLight      equ 32                  ; of the palette: 0 is black
+
+; Ramps of the palette; each names its darkest colour.
+kSky            equ 16                  ; 64 colours from the zenith to the horizon
+kSkyColours     equ 64
+kHill           equ 80                  ; 16
+kSilver         equ 96                  ; 16 each from here on
+kGold           equ 112
+kBlue           equ 128
+kEmber          equ 144
+kWood           equ 160
+kMoon           equ 176
+kRose           equ 192
+kGrey           equ 208
+kRamp           equ 16
+kWhite          equ kSilver + 15
+
+; Takes the memory for both pictures. Carry: there is not enough.
+AllocatePictures:
+        mov     bx, kScreenBytes / 16
+        mov     ah, 48h
+        int     21h
+        jc      .done
+        mov     [picture], ax
+        mov     bx, kScreenBytes / 16
+        mov     ah, 48h
+        int     21h
+        jc      .done
+        mov     [frame], ax
+.done:  ret
+
+EnterGraphics:
+        mov     ax, 13h
+        int     10h
+        mov     ax, 1130h               ; where the BIOS keeps its 8 by 8 letters
+        mov     bh, 3
+        push    es
+        int     10h
+        mov     [font], bp
+        mov     [font + 2], es
+        pop     es
+        call    BuildPalette
+        xor     ax, ax
+        jmp     SetLight
+
+LeaveGraphics:
+        mov     ax, 3
+        int     10h
+        ret
+
+; Fills `palette` from the ramps.
+BuildPalette:
+        push    es
+        push    ds
+        pop     es
+        mov     si, palette_ramps
+.ramp:  movzx   di, byte [si]           ; first colour
+        movzx   cx, byte [si + 1]       ; count, 0 ends the table
+        jcxz    .done
+        imul    di, di, 3
+        add     di, palette
+        xor     bp, bp                  ; place on the ramp
+.colour:
+        xor     bx, bx                  ; red, green, blue
+.part:  movzx   ax, byte [si + bx + 5]
+        movzx   dx, byte [si + bx + 2]
+        sub     ax, dx
+        imul    bp
+        push    cx
+        movzx   cx, byte [si + 1]
+        dec     cx
+        idiv    cx
+        pop     cx
+        add     al, [si + bx + 2]
+        stosb
+        inc     bx
+        cmp     bx, 3
+        jb      .part
+        inc     bp
+        loop    .colour
+        add     si, 8
+        jmp     .ramp
+.done:  pop     es
+        ret
+
+; Puts the palette at the light AX, 0 (black) to kFullLight.
+SetLight:
+        pusha
+        mov     bx, ax
+        mov     dx, 3C8h
+        xor     al, al
+        out     dx, al
+        inc     dx
+        mov     si, palette
+        mov     cx, kPaletteBytes
+.next:  lodsb
+        mul     bl
+        shr     ax, 5
+        out     dx, al
+        loop    .next
+        popa
+        ret
+
+FadeIn:
+        mov     bx, 0
+.next:  call    WaitRetrace
+        mov     ax, bx
+        call    SetLight
+        add     bx, 2
+        cmp     bx, kFullLight
+        jbe     .next
+        ret
+
+FadeOut:
+        mov     bx, kFullLight
+.next:  call    WaitRetrace
+        mov     ax, bx
+        call    SetLight
+        sub     bx, 2
+        jns     .next
+        ret
+
+; Waits for the beginning of a vertical retrace.
+WaitRetrace:
+        push    ax
+        push    dx
+        mov     dx, 3DAh
+.in:    in      al, dx
+        test    al, 8
+        jnz     .in
+.out:   in      al, dx
+        test    al, 8
+        jz      .out
+        pop     dx
+        pop     ax
+        ret
+
+; Begins a frame with a copy of the scenery; ES = the frame from here on.
+BeginFrame:
+        mov     es, [frame]
+        push    ds
+        mov     ds, [picture]
+        call    CopyScreen
+        pop     ds
+        ret
+
+; Shows the frame.
+ShowFrame:
+        pusha
+        push    es
+        call    WaitRetrace
+        mov     ax, kVgaSegment
+        mov     es, ax
+        push    ds
+        mov     ds, [frame]
+        call    CopyScreen
+        pop     ds
+        pop     es
+        popa
+        ret
+
+; Copies a whole screen from DS to ES.
+CopyScreen:
+        pusha
+        xor     si, si
+        xor     di, di
+        mov     cx, kScreenBytes / 4
+        rep     movsd
+        popa
+        ret
+
+; AX = x, DX = y, BL = colour. Outside of the screen: nothing.
+PutPixel:
+        cmp     ax, kWidth
+        jae     .done
+        cmp     dx, kHeight
+        jae     .done
+        push    di
+        imul    di, dx, kWidth
+        add     di, ax
+        mov     [es:di], bl
+        pop     di
+.done:  ret
+
+; A filled rectangle that lies on the screen. AX = x, DX = y, CX = width, BP = height, BL = colour.
+FillRect:
+        pusha
+        imul    di, dx, kWidth
+        add     di, ax
+        mov     al, bl
+.row:   push    cx
+        push    di
+        rep     stosb
+        pop     di
+        pop     cx
+        add     di, kWidth
+        dec     bp
+        jnz     .row
+        popa
+        ret
+
+; A sprite is a byte for its width, one for its height, and a letter a pixel; `colour_of_letter`
+; tells the colours. SI = sprite, AX = x, DX = y of its upper left corner, which may lie outside.
+DrawSprite:
+        pusha
+        mov     [sprite_x], ax
+        lodsb
+        xor     ah, ah
+        mov     bp, ax                  ; width
+        lodsb
+        mov     [rows_left], al
+        mov     bx, colour_of_letter
+.row:   mov     cx, [sprite_x]
+        imul    di, dx, kWidth
+        add     di, cx
+        push    bp
+.pixel: lodsb
+        xlatb
+        test    al, al
+        jz      .clear
+        cmp     cx, kWidth
+        jae     .clear
+        cmp     dx, kHeight
+        jae     .clear
+        mov     [es:di], al
+.clear: inc     cx
+        inc     di
+        dec     bp
+        jnz     .pixel
+        pop     bp
+        inc     dx
+        dec     byte [rows_left]
+        jnz     .row
+        popa
+        ret
+
+; Text with a shadow. SI = text ended by 0, AX = x, DX = y, BL = colour. `text_scale` is the size of
+; a letter's pixel; with `text_shading` 1 each row of a letter is a colour brighter than the last.
+; The text must lie on the screen. AX = x behind the text.
+DrawText:
+        push    si
+        push    dx
+        push    cx
+.next:  mov     cl, [si]
+        inc     si
+        test    cl, cl
+        jz      .done
+        call    DrawShadedLetter
+        mov     cx, [text_scale]
+        shl     cx, 3
+        add     ax, cx
+        jmp     .next
+.done:  pop     cx
+        pop     dx
+        pop     si
+        ret
+
+; Text in the middle of the screen: as DrawText, without AX.
+DrawCentred:
+        call    TextWidth
+        neg     ax
+        add     ax, kWidth
+        shr     ax, 1
+        jmp     DrawText
+
+; AX = width of the text SI in pixels.
+TextWidth:
+        push    si
+        mov     ax, -1
+.count: inc     ax
+        cmp     byte [si], 0
+        lea     si, [si + 1]
+        jne     .count
+        shl     ax, 3
+        imul    ax, [text_scale]
+        pop     si
+        ret
+
+; CL = letter, AX = x, DX = y, BL = colour.
+DrawShadedLetter:
+        pusha
+        push    word [text_shading]
+        mov     word [text_shading], 0
+        push    bx
+        inc     ax
+        inc     dx
+        mov     bl, 0
+        call    DrawLetter
+        pop     bx
+        pop     word [text_shading]
+        dec     ax
+        dec     dx
+        call    DrawLetter
+        popa
+        ret
+
+; The same without a shadow.
+DrawLetter:
+        pusha
+        push    fs
+        lfs     si, [font]
+        movzx   cx, cl
+        shl     cx, 3
+        add     si, cx
+        imul    di, dx, kWidth
+        add     di, ax
+        mov     dh, 8
+.row:   mov     dl, [fs:si]
+        inc     si
+        push    di
+        mov     cx, 8
+.dot:   shl     dl, 1
+        jnc     .clear
+        call    DrawDot
+.clear: add     di, [text_scale]
+        loop    .dot
+        pop     di
+        imul    ax, word [text_scale], kWidth
+        add     di, ax
+        add     bl, [text_shading]
+        dec     dh
+        jnz     .row
+        pop     fs
+        popa
+        ret
+
+; One pixel of a letter at ES:DI, `text_scale` wide and high, in the colour BL.
+DrawDot:
+        pusha
+        mov     bp, [text_scale]
+        mov     dx, bp
+        mov     al, bl
+.row:   mov     cx, bp
+        push    di
+        rep     stosb
+        pop     di
+        add     di, kWidth
+        dec     dx
+        jnz     .row
+        popa
+        ret
+
+; AX = sine of the angle AL, a full turn being 256; -64 to 64. Close enough for hills and waves.
+Sine:
+        push    bx
+        push    dx
+        mov     bl, al
+        and     ax, 127
+        mov     dx, 128
+        sub     dx, ax
+        mul     dx
+        shr     ax, 6
+        test    bl, bl
+        jns     .done
+        neg     ax
+.done:  pop     dx
+        pop     bx
+        ret
+
+; AX = a number from 0 to BX - 1 from the row of numbers whose seed lies at DI.
+RandomBelow:
+        push    dx
+        mov     ax, [di]
+        mov     dx, 25173
+        mul     dx
+        add     ax, 13849
+        mov     [di], ax
+        mul     bx
+        mov     ax, dx
+        pop     dx
+        ret
+
+; First colour, count, then red, green and blue of the first and of the last colour, 0 to 63.
+palette_ramps:
+        db      1, 15,  63, 63, 63,  63, 63, 63
+        db      kSky, 16,  1, 2, 9,  4, 5, 19
+        db      kSky + 16, 16,  4, 5, 20,  11, 9, 29
+        db      kSky + 32, 16,  12, 9, 30,  26, 15, 36
+        db      kSky + 48, 16,  27, 16, 36,  52, 32, 34
+        db      kHill, 16,  1, 3, 7,  8, 16, 21
+        db      kSilver, 16,  12, 13, 26,  63, 63, 63
+        db      kGold, 16,  22, 10, 4,  63, 61, 38
+        db      kBlue, 16,  4, 8, 24,  46, 60, 63
+        db      kEmber, 16,  14, 2, 3,  63, 36, 12
+        db      kWood, 16,  10, 5, 4,  52, 36, 20
+        db      kMoon, 16,  34, 31, 30,  63, 62, 52
+        db      kRose, 16,  20, 4, 12,  63, 40, 48
+        db      kGrey, 16,  6, 7, 14,  50, 52, 60
+        db      0, 0
+
+text_scale:     dw 1
+text_shading:   dw 0
