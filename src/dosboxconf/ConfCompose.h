@@ -1,0 +1,27 @@
+#pragma once
+
+#include "dosboxconf/OptionGrid.h"
+#include "dosboxconf/RunFacts.h"
+#include "platform/HostText.h"
+
+#include <QString>
+
+namespace pelorin::dosboxconf {
+
+/// The text of dosbox.conf from its first section to the mounts and the network line of
+/// [autoexec]. The start commands and the last line end are the run mode's (FinishRunText).
+struct ConfText {
+    platform::HostText text;
+    QString mixerLine;    // also a line of the text
+    bool glideOn = false; // glide.ini is to be rewritten before the start
+    bool logging = false; // the log option is on, so waitonerror is on in the text
+};
+
+/// Pure: the grid's selection is the configuration of the run. One text serves all builds, which
+/// pass over the keys that they don't know; CR LF throughout.
+ConfText ComposeDosboxConf(const RunFacts& facts, const OptionGrid& grid);
+
+/// The builds that boot Windows 98 and keep D: for it: "Win98" and "Win98_LCD".
+bool IsWin98Family(const QString& build);
+
+} // namespace pelorin::dosboxconf

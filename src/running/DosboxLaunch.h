@@ -1,0 +1,35 @@
+#pragma once
+
+#include "dosboxconf/RunFacts.h"
+#include "platform/HostText.h"
+#include "platform/Outcome.h"
+#include "running/RunRequest.h"
+
+#include <QString>
+#include <QStringList>
+
+// What is known to stop DOSBox 0.74-3 or to leave a game behind in silence, told before the start.
+
+namespace pelorin::running {
+
+/// A mounted path of this many bytes and more aborts the emulator.
+inline constexpr qsizetype kMountPathBytes = 239;
+/// An [autoexec] section of more bytes stops it.
+inline constexpr qsizetype kAutoexecBytes = 4096;
+
+/// Before anything is composed: no name of a build (Refused), or a folder name that would break
+/// out of its line of dosbox.conf (a quotation mark or a line break).
+platform::Done CheckRequest(const RunRequest& request, const QString& build);
+
+/// Before the text is written: the mounted path and the size of [autoexec] as printed in `form`.
+/// The limits are those of a native DOSBox, so the Windows form always passes. Error Refused.
+platform::Done CheckLaunch(
+    const dosboxconf::RunFacts& facts, const platform::HostText& finished, platform::PathForm form);
+
+/// What the user should know and what does not hold back the start, one text each: a start command
+/// whose file name a native DOSBox can't open, characters that the guest's code page can't keep,
+/// a server that listens on another port than 213.
+QStringList LaunchNotes(
+    const RunRequest& request, const platform::HostText& finished, platform::PathForm form);
+
+} // namespace pelorin::running
