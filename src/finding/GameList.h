@@ -23,6 +23,12 @@ struct GameItem {
 
 enum class View { LargeIcons = 0, SmallIcons = 1, List = 2, Details = 3 };
 
+/// How the list is sorted: by title at the start, else by the column whose header was clicked.
+struct ListSort {
+    int column = 0;
+    bool descending = false;
+};
+
 /// What LVGamelist holds: rows, selection, view. The form's two views show it through one adapter.
 struct GameList {
     enum Changed : std::uint32_t {
@@ -39,6 +45,7 @@ struct GameList {
     int selected = -1;             // the row that the commands work on; -1 none
     std::vector<int> selectedRows; // all selected rows, ascending; holds `selected`
     View view = View::SmallIcons;
+    ListSort sort;
     std::array<double, kColumns> columnWidths{}; // form units, 15 a pixel
     std::array<QString, kColumns> columnCaptions;
     bool visible = false; // written by the form

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "finding/FilterTree.h"
+#include "library/GameEntry.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace pelorin::shell {
+class LangTable;
+}
+
+namespace pelorin::finding {
+
+/// The ten roots and their fixed children, one for each build name up to the first blank one among
+/// them. All check marks are lost; which roots stand open is kept. Tells Nodes.
+void BuildTreeSkeleton(
+    FilterTree& tree, const shell::LangTable& lang, const QStringList& buildNames);
+
+/// Makes the children of the six categories by value anew, unchecked: each distinct value once,
+/// ascending by 16-bit code; values of blanks only are left out. Tells Nodes once.
+void RefillValueNodes(FilterTree& tree, const library::Catalogue& catalogue);
+
+/// The texts of a category's children, in order. Empty for an unknown key.
+QStringList ChildTexts(const FilterTree& tree, const QString& rootKey);
+
+} // namespace pelorin::finding

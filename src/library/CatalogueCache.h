@@ -1,0 +1,63 @@
+#pragma once
+
+#include "library/GameEntry.h"
+#include "library/IconSheet.h"
+#include "library/ScanProgress.h"
+#include "platform/Outcome.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+// The cache of the Catalogue between two runs, in AppDir:
+//   Gamelist.lst  one line in code page 949 ended by CR LF: records separated by U+0002, their nine
+//                 fields by U+0001, the two titles in field 1 by U+0003
+//   IconList.bmp  a sheet of the games' icons, see IconSheetFile.h
+// What is damaged is refused whole; the caller scans then, and the next save heals it.
+
+namespace pelorin::shell {
+struct Places;
+}
+
+namespace pelorin::library {
+
+struct CachedCatalogue {
+    Catalogue catalogue;
+    IconSheet icons; // as many as games
+};
+
+/// Both files are there.
+bool HasCatalogueCache(const shell::Places& places);
+
+/// Error NotFound or Unreadable; Malformed when a field is missing, a folder is no plain name or
+/// stands twice, or the sheet's size is not that of the records; Abandoned when `progress` says so.
+platform::Outcome<CachedCatalogue> ReadCatalogueCache(
+    const shell::Places& places, ScanProgress& progress);
+
+struct CacheReport {
+    QStringList
+        leftOut;        // folders whose names the file can't hold; read from disk at the next start
+    QStringList maimed; // folders of which another text lost characters
+};
+
+/// Writes the sheet, then the list, each through a temporary file, and deletes the former forms
+/// IconList.jpg and SmallIconList.jpg. A sheet that already holds these icons is not written again;
+/// where one is, the old list goes first, so that no list ever stands beside another one's icons.
+/// Without a game the list is deleted and the sheet left alone. Error: Unwritable.
+platform::Outcome<CacheReport> SaveCatalogueCache(
+    const shell::Places& places,
+    const Catalogue& catalogue,
+    const IconSheet& icons,
+    ScanProgress& progress);
+
+/// Deletes both files. Missing ones are a success.
+platform::Done DeleteCatalogueCache(const shell::Places& places);
+
+/// The list's line without its end.
+QString CatalogueLine(const Catalogue& catalogue, const std::vector<int>& positions);
+/// Error: Malformed, with the number of the record.
+platform::Outcome<Catalogue> CatalogueFromLine(const QString& line);
+
+} // namespace pelorin::library

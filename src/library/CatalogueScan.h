@@ -1,0 +1,52 @@
+#pragma once
+
+#include "library/GameEntry.h"
+#include "library/GameFiles.h"
+#include "library/IconSheet.h"
+#include "library/ScanProgress.h"
+#include "library/TitleMarks.h"
+
+#include <QStringList>
+
+namespace pelorin::shell {
+struct Places;
+}
+
+namespace pelorin::library {
+
+struct ScanResult {
+    Catalogue catalogue;
+    IconSheet icons;        // as many as games
+    int beyondBound = 0;    // folders left out behind the first kMostGames
+    QStringList refused;    // names of folders that can't be games: links to where the games lie,
+                            // names with a backslash or in another encoding
+    bool abandoned = false; // the program is ending: the rest is not to be used
+    Troubles troubles;
+};
+
+/// Reads GamesRoot anew: a first pass prepares each folder and takes its icon, a second one reads
+/// it. Each folder is listed once and each file read once. Folders come in the order of their
+/// lower-case names, hidden ones left out. A folder that vanishes before it is prepared is left
+/// out; one that can't be read becomes a game that has its name only. `places`, `rules` and
+/// `defaultIcon` must outlive the call.
+ScanResult ScanCatalogue(
+    const shell::Places& places,
+    const ReadingRules& rules,
+    const IconPixels& defaultIcon,
+    ScanProgress& progress);
+
+/// The sub-folders of GamesRoot that the cache could not keep, that is whose names code page 949
+/// has no characters for, and that `catalogue` does not hold. Lists GamesRoot, opens no game.
+QStringList FoldersWithoutCache(const shell::Places& places, const Catalogue& catalogue);
+
+/// Prepares and reads one more folder and puts it at the end. False, with nothing changed, when
+/// the Catalogue is full.
+bool AddGame(
+    GameFiles& files,
+    const ReadingRules& rules,
+    const IconPixels& defaultIcon,
+    Catalogue& catalogue,
+    IconSheet& icons,
+    Troubles& troubles);
+
+} // namespace pelorin::library

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "platform/Outcome.h"
+#include "platform/Paths.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace pelorin::shell {
+struct Places;
+}
+
+namespace pelorin::library {
+
+/// What went wrong on the way of a job that goes on all the same. Only the first ones are kept in
+/// words, so that a library on a read-only disk does not fill the memory.
+struct Troubles {
+    static constexpr int kMostKept = 200;
+
+    std::vector<platform::Error> kept;
+    int count = 0; // all of them
+
+    void Add(const platform::Error& error);
+    void AddIfFailed(const platform::Done& done);
+};
+
+/// A game's two folders as they were listed, once. Whoever makes or deletes a file of them says so
+/// through the Note... procedures; nobody lists them again.
+struct GameFiles {
+    QString folder;  // name below GamesRoot
+    QString gameDir; // native path
+    QString metaDir; // native path in its spelling on disk; gameDir/DosBox while there is none
+    platform::Listing game;
+    platform::Listing
+        meta; // exists is false while there is no metadata folder, or it is unreadable
+
+    bool HasGameFile(const QString& name) const { return game.HasFile(name); }
+    bool HasMetaFile(const QString& name) const { return meta.HasFile(name); }
+    /// The path of an entry in its spelling on disk, or as given when there is none.
+    QString GamePath(const QString& name) const;
+    QString MetaPath(const QString& name) const;
+
+    /// An entry of the metadata folder was made or is gone. Known ones may be noted again.
+    void NoteMetaFile(const QString& name);
+    void NoteMetaFolder(const QString& name);
+    void ForgetMetaFile(const QString& name);
+    /// As above, for the metadata folder itself, which is then taken as empty.
+    void NoteMetaDir(const QString& name);
+};
+
+/// Lists the game's folder and its metadata folder, whatever case that is written in. A folder that
+/// is missing or can't be read gives empty listings. `folder` must be a plain name.
+GameFiles ListGame(const shell::Places& places, const QString& folder);
+
+/// The game's files lie in its store archive.
+bool IsGameStored(const GameFiles& files);
+
+/// Names in GameDir that DOS can run (*.exe, *.com, *.bat), by name.
+QStringList RunnableFiles(const GameFiles& files);
+/// Names in MetaDir that are pictures (*.jpg, *.jpeg, *.png, *.gif, *.bmp), by name; the game's own
+/// icon file comes last, so that it is not what the details show first.
+QStringList Pictures(const GameFiles& files);
+/// Names in MetaDir that are recordings (*.avi, *.wav, *.vgm), by name.
+QStringList Recordings(const GameFiles& files);
+/// Names in the folder Manual of MetaDir, listed at each call.
+QStringList Manuals(const GameFiles& files);
+
+} // namespace pelorin::library

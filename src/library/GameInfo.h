@@ -1,0 +1,89 @@
+#pragma once
+
+#include "library/GameFiles.h"
+#include "platform/Outcome.h"
+
+#include <QString>
+
+#include <cstdint>
+
+// The texts of a game's metadata folder, all in code page 949 with CR LF:
+//   info.txt       line 1 first title, U+0003, second title; then the description
+//   ExtraInfo.txt  four lines: maker, release, language, country
+//   GenreK.dat     one line; GenreE.dat likewise
+//   Extra.dat      one line, a genre code of old folders; replaced by the two above when found
+
+namespace pelorin::library {
+
+struct Titles {
+    QString first;  // Korean, by habit
+    QString second; // English
+};
+
+/// What the title and description boxes show.
+struct InfoText {
+    Titles titles;       // empty if there is no info.txt; one title alone stands in both, trimmed
+    QString description; // lines joined by CR LF
+};
+
+struct Facts {
+    QString Maker;
+    QString Release;
+    QString GameLanguage;
+    QString Country;
+};
+
+struct Genres {
+    QString korean;
+    QString english;
+};
+
+/// The same code of an old folder has two English words: "@SHT" is "Shooter" to a scan and
+/// "Shooting" to the details panel.
+enum class GenreForm { Scan, Panel };
+
+enum class GenreFile { Korean, English };
+
+enum class Loss { Refuse, Accept };
+
+/// U+0001 to U+0003 separate the fields of the catalogue's file and line ends its lines, so no
+/// field may hold one: they are dropped.
+QString CleanField(const QString& text);
+
+/// The titles of a title line. A line with nothing but blanks and U+0003 gives the folder's name
+/// twice; a line without U+0003 gives the same title twice; what follows a second U+0003 is
+/// ignored. Both titles are clean fields.
+Titles SplitTitleLine(const QString& line, const QString& folder);
+
+/// The titles for the Catalogue: reads only the first line of info.txt. Without a readable one the
+/// folder's name.
+Titles ReadTitles(const GameFiles& files);
+
+/// info.txt whole, for the boxes. Missing or unreadable: empty.
+InfoText ReadInfo(const GameFiles& files);
+
+/// What code page 949 can't keep of these texts, each character once; empty if all is well.
+QString LostInInfo(const InfoText& info);
+
+/// Replaces info.txt; makes the metadata folder if it is missing. Line ends of the description
+/// become CR LF; control characters 1 to 3 and line ends in titles are dropped. Error Unencodable,
+/// with nothing written, if characters would be lost and `loss` refuses that.
+platform::Done WriteInfo(GameFiles& files, const InfoText& info, Loss loss = Loss::Refuse);
+
+/// Missing lines, or no file, read as empty.
+Facts ReadFacts(const GameFiles& files);
+platform::Done WriteFacts(GameFiles& files, const Facts& facts);
+/// No file is a success.
+platform::Done DeleteFacts(GameFiles& files);
+
+/// Reads the genres. A missing file is written with the word for "other", and an old folder's code
+/// is turned into both files. Nothing is written when the metadata folder could not be listed. The
+/// old file goes only when both new ones stand.
+Genres ReadGenres(GameFiles& files, GenreForm form, Troubles& troubles);
+platform::Done WriteGenre(GameFiles& files, GenreFile which, const QString& genre);
+
+/// Line 2 of edit.conf as a number, which is the index of the game's build; `defaultBuild` without
+/// a readable edit.conf. A missing line counts as 0; beyond 16 bits the value is clamped.
+std::int16_t ReadBuild(const GameFiles& files, std::int16_t defaultBuild);
+
+} // namespace pelorin::library

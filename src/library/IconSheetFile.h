@@ -1,0 +1,40 @@
+#pragma once
+
+#include "library/IconSheet.h"
+#include "library/ScanProgress.h"
+#include "platform/Outcome.h"
+
+#include <QString>
+
+#include <vector>
+
+// The sheet of icons: a Windows bitmap of 24 bits a pixel, not compressed, rows from the bottom.
+// Icon n stands in cell (n mod 512, n div 512) of 32 x 32 pixels. The bytes are those that
+// FreeImage writes for the same picture. Read and written row of cells by row of cells, so that a
+// sheet of 100 MB needs 1.5 MB of memory.
+
+namespace pelorin::library {
+
+inline constexpr int kSheetColumns = 512;
+
+struct SheetSize {
+    int width = 0; // pixels
+    int height = 0;
+};
+
+/// The sheet of `count` icons, which is at least 1.
+SheetSize SheetSizeOf(int count);
+
+/// Error Malformed when the file is not a sheet of exactly that many icons' size. Tells the
+/// progress of LoadingIcons; Abandoned when it says so.
+platform::Outcome<IconSheet> ReadIconSheet(const QString& path, int count, ScanProgress& progress);
+
+/// Whether the file already holds just these icons; `positions` are indices into `icons`.
+bool IconSheetIsCurrent(
+    const QString& path, const IconSheet& icons, const std::vector<int>& positions);
+
+/// `positions` must not be empty. Cells behind the last icon are black.
+platform::Done WriteIconSheet(
+    const QString& path, const IconSheet& icons, const std::vector<int>& positions);
+
+} // namespace pelorin::library
