@@ -1,0 +1,162 @@
+#!/usr/bin/env python3
+"""Stages a build as `cmake --install` does and looks at what lies there, first and after changes.
+
+    tests/staging_test.py BUILD CMAKE    the build folder, whose "all" is built; the cmake to call
+"""
+
+import os
+import pathlib
+import stat
+import subprocess
+import sys
+import tempfile
+import unittest
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+STAR = (ROOT / "samples/star/folder.txt").read_text(encoding="utf-8").strip()
+
+
+class Staging(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        # Blanks, brackets and Hangul are what a user's folder may be called.
+        self.app = pathlib.Path(folder.name, "내 게임 [Pelorin] {1}")
+        self.game = self.app / "Games" / STAR
+
+    def stage(self):
+        done = subprocess.run(
+            [CMAKE, "--install", BUILD, "--prefix", self.app],
+            stdout=subprocess.PIPE,
+            stderr=subprocess.STDOUT,
+            env={**os.environ, "LC_ALL": "C"},
+        )
+        self.assertEqual(done.returncode, 0, done.stdout.decode(errors="replace"))
+
+    def snapshot(self):
+        """Everything below the AppDir: what a name is, and what it holds."""
+        found = {}
+        for path in self.app.rglob("*"):
+            name = str(path.relative_to(self.app))
+            if path.is_symlink():
+                found[name] = "-> " + os.readlink(path)
+            else:
+                found[name] = path.read_bytes() if path.is_file() else "folder"
+        return found
+
+    def write(self, name, data):
+        path = self.app / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_bytes(data)
+
+    def test_a_new_installation_is_whole(self):
+        self.stage()
+        self.assertTrue(os.access(self.app / "Pelorin", os.X_OK))
+        for build in ("0.74", "0.74_SVN"):
+            folder = self.app / "DOSBox" / build
+            self.assertFalse(folder.is_symlink(), "a linked folder would break ..\\..\\Dos")
+            self.assertEqual(os.readlink(folder / "dosbox"), "/usr/bin/dosbox")
+            self.assertEqual(os.readlink(folder / "dosbox_debug"), "/usr/bin/dosbox-debug")
+        language = (self.app / "Language.dat").read_bytes()
+        self.assertTrue(language.startswith("펠로린\r\n".encode("cp949")))
+        self.assertEqual(language.count(b"\n"), language.count(b"\r\n"))
+        for name in ("Dos/Util/SB16/MIXERSET.COM", "mapper/mapper_default.txt", "option.dat"):
+            self.assertGreater((self.app / name).stat().st_size, 0, name)
+        self.assertGreater((self.game / "GAME.COM").stat().st_size, 0)
+        info = next(self.game.glob("*/info.txt")).read_bytes()
+        self.assertIn("별".encode("cp949"), info)
+        self.assertIn(b"\r\n", info)
+
+    def test_the_second_staging_changes_nothing(self):
+        self.stage()
+        before = self.snapshot()
+        self.stage()
+        self.assertEqual(self.snapshot(), before)
+
+    def test_what_the_user_changed_and_made_stays(self):
+        self.stage()
+        metadata = next(self.game.glob("*/info.txt")).parent.relative_to(self.app)
+        for name in (
+            f"{metadata}/info.txt",
+            f"Games/{STAR}/SCORES.DAT",
+            f"Games/{STAR}/GAME.COM",
+            "Games/옛 게임 [2]/GAME.EXE",
+            "Dos/Util/SB16/MIXERSET.COM",
+            "mapper/mapper_default.txt",
+            "mapper/mine.txt",
+            "DOSBox/0.74/dosbox.conf",
+            "Launcher.cfg",
+            "Default.conf",
+            "Gamelist.lst",
+            "IconList.bmp",
+            "recent.sav",
+            "noupdate",
+            "preset/fast.conf",
+        ):
+            self.write(name, b"the user's " + name.encode())
+        link = self.app / "DOSBox/0.74/dosbox"
+        link.unlink()
+        link.symlink_to("/opt/not/there/dosbox")
+        (self.app / "DOSBox/0.74_SVN/dosbox").unlink()
+        self.write("DOSBox/0.74_SVN/dosbox", b"a program of its own")
+        self.app.chmod(0o700)
+        before = self.snapshot()
+        self.stage()
+        self.assertEqual(self.snapshot(), before)
+        self.assertEqual(stat.S_IMODE(self.app.stat().st_mode), 0o700)
+
+    def test_program_and_data_are_replaced(self):
+        self.stage()
+        before = self.snapshot()
+        for name in ("Pelorin", "Language.dat", "option.dat"):
+            self.write(name, b"of another version")
+        self.stage()
+        self.assertEqual(self.snapshot(), before)
+        self.assertTrue(os.access(self.app / "Pelorin", os.X_OK))
+
+    def test_what_is_missing_comes_back(self):
+        self.stage()
+        before = self.snapshot()
+        for name in (
+            f"Games/{STAR}/GAME.COM",
+            "Dos/Util/SB16/MIXERSET.COM",
+            "mapper/mapper_default.txt",
+            "DOSBox/0.74/dosbox_debug",
+            "Language.dat",
+        ):
+            (self.app / name).unlink()
+        self.stage()
+        self.assertEqual(self.snapshot(), before)
+
+    def test_names_that_differ_by_case_are_there_already(self):
+        self.stage()
+        (self.game / "GAME.COM").rename(self.game / "game.com")
+        (self.app / "Games").rename(self.app / "GAMES")
+        (self.app / "Dos").rename(self.app / "DOS")
+        (self.app / "DOSBox").rename(self.app / "dosbox")
+        before = self.snapshot()
+        self.stage()
+        self.assertEqual(self.snapshot(), before)
+
+    def test_a_packed_sample_is_left_alone(self):
+        self.stage()
+        (self.game / "GAME.COM").unlink()
+        (self.game / "store.7z").write_bytes(b"7z")
+        before = self.snapshot()
+        self.stage()
+        self.assertEqual(self.snapshot(), before)
+
+    def test_another_language_drops_the_cached_titles(self):
+        self.stage()
+        self.write("Gamelist.lst", b"titles with Korean marks")
+        self.write("IconList.bmp", b"icons")
+        before = self.snapshot()
+        self.write("Language.dat", b"Pelorin\r\n")
+        self.stage()
+        del before["Gamelist.lst"]
+        self.assertEqual(self.snapshot(), before)
+
+
+if __name__ == "__main__":
+    BUILD, CMAKE = sys.argv[1:3]
+    unittest.main(argv=sys.argv[:1])
