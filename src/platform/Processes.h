@@ -24,8 +24,10 @@ struct ProcessRequest {
 };
 
 struct ProcessEnd {
-    qint64 runMs = 0;  // from the start to the end
-    QByteArray output; // the last 64 KiB of what it printed on both streams
+    qint64 runMs = 0;   // from the start to the end
+    QByteArray output;  // the last 64 KiB of what it printed on both streams
+    int exitStatus = 0; // as a shell would tell it: 128 + signal when one ended it. Many programs
+                        // end with 0 after a failure, some with another number after a success
 };
 
 /// Starts programs.
