@@ -1,0 +1,64 @@
+#include "platform/DesktopShellVerbs.h"
+
+#include "platform/Processes.h"
+#include "platform/ProgramHost.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::platform {
+
+namespace {
+
+Q_LOGGING_CATEGORY(logPlatform, "pelorin.platform")
+
+} // namespace
+
+DesktopShellVerbs::DesktopShellVerbs(Processes& processes, QStringList searchPath)
+    : m_processes(processes)
+    , m_searchPath(std::move(searchPath))
+{}
+
+Done DesktopShellVerbs::Start(const QString& what, const QString& workingFolder)
+{
+    const QString opener = FindExecutable(m_searchPath, {u"xdg-open"_s});
+    if (opener.isEmpty()) {
+        return Error{
+            ErrorKind::NotFound, u"%1 can't be opened: xdg-open is not installed"_s.arg(what)};
+    }
+    ProcessRequest request;
+    request.program = opener;
+    request.arguments = QStringList{what};
+    request.workingFolder = workingFolder;
+    return m_processes.StartDetached(request, [what](const ProcessEnd& end) {
+        if (end.exitStatus != 0) {
+            qCWarning(logPlatform).noquote()
+                << what << "could not be opened:" << QString::fromLocal8Bit(end.output).trimmed();
+        }
+    });
+}
+
+Done DesktopShellVerbs::Open(const QString& path)
+{
+    const QFileInfo info(path);
+    if (!info.isAbsolute() || !info.exists()) {
+        return Error{ErrorKind::NotFound, u"%1 is not there"_s.arg(path)};
+    }
+    return Start(path, info.isDir() ? path : info.path());
+}
+
+Done DesktopShellVerbs::OpenUrl(const QString& url)
+{
+    const QUrl address(url.trimmed());
+    const bool isWeb = address.scheme() == u"http" || address.scheme() == u"https";
+    if (!isWeb || address.host().isEmpty()) {
+        return Error{ErrorKind::Refused, u"%1 is no address of the web"_s.arg(url)};
+    }
+    return Start(QString::fromLatin1(address.toEncoded()), QDir::rootPath());
+}
+
+} // namespace pelorin::platform
