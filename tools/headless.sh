@@ -1,0 +1,127 @@
+# Driving Pelorin on a machine without a display. Meant to be sourced by bash.
+#   start_display            an X server of our own with a window manager; sets DISPLAY
+#   play_sample APP FOLDER   starts Pelorin in APP, starts the game in APP/Games/FOLDER by keys,
+#                            and leaves the picture of the whole screen in dist/run.png
+# Every wait has a limit; what fails says so and ends the script. What was started ends with it.
+
+started=()
+
+stop_started() {
+    local index pid
+    # Backwards: windows first, the display last, which takes with it what still hangs on it.
+    for ((index = ${#started[@]} - 1; index >= 0; index--)); do
+        pid=${started[index]}
+        kill "$pid" 2>/dev/null || continue
+        for _ in $(seq 25); do
+            is_running "$pid" || break
+            sleep 0.2
+        done
+        kill -KILL "$pid" 2>/dev/null || true
+    done
+}
+trap stop_started EXIT
+
+fail() {
+    echo "run.sh: $*" >&2
+    exit 1
+}
+
+# wait_for SECONDS WHAT COMMAND...: runs the command until it succeeds.
+wait_for() {
+    local limit=$((SECONDS + $1)) what=$2
+    shift 2
+    until "$@" >/dev/null 2>&1; do
+        [ $SECONDS -lt $limit ] || fail "waited in vain for $what"
+        sleep 0.2
+    done
+}
+
+start_display() {
+    local folder
+    folder=$(mktemp -d)
+    # The server picks a free number and tells it when it is ready.
+    Xvfb -displayfd 3 -screen 0 1280x960x24 -nolisten tcp -noreset \
+        3>"$folder/number" >"$folder/log" 2>&1 &
+    started+=($!)
+    wait_for 30 "the display" test -s "$folder/number"
+    export DISPLAY=:$(cat "$folder/number")
+    rm -rf "$folder"
+    unset WAYLAND_DISPLAY
+    openbox >/dev/null 2>&1 &
+    started+=($!)
+    wait_for 30 "the window manager" is_managed
+}
+
+is_managed() { xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; }
+
+is_running() { kill -0 "$1" 2>/dev/null; }
+is_gone() { ! is_running "$1"; }
+
+pelorin_window() { xdotool search --onlyvisible --name 'Ver[.][0-9]+[.]' | head -n 1; }
+dosbox_window() { xdotool search --onlyvisible --name '^DOSBox ' | head -n 1; }
+has_pelorin_window() { [ -n "$(pelorin_window)" ]; }
+has_dosbox_window() { [ -n "$(dosbox_window)" ]; }
+has_no_dosbox_window() { ! has_dosbox_window; }
+
+# Until two pictures of the screen in a row are equal, or for so many seconds.
+let_settle() {
+    local limit=$((SECONDS + $1)) before="" now
+    while [ $SECONDS -lt $limit ]; do
+        now=$(import -window root rgb:- | sha256sum)
+        [ "$now" != "$before" ] || return 0
+        before=$now
+        sleep 0.5
+    done
+}
+
+# Presses Enter on the first game of the list until DOSBox shows a window.
+start_game_by_keys() {
+    local attempt
+    for attempt in 1 2 3; do
+        xdotool windowactivate --sync "$(pelorin_window)" key --clearmodifiers Home Return
+        for _ in $(seq 75); do
+            has_dosbox_window && return 0
+            sleep 0.2
+        done
+    done
+    import -window root dist/run.png
+    fail "DOSBox did not open a window; the screen is in dist/run.png, the program's words in dist/run.log"
+}
+
+# How many colours besides black the window shows in a picture of the screen.
+colours_of_window() {
+    local picture=$1 X Y WIDTH HEIGHT SCREEN WINDOW
+    eval "$(xdotool getwindowgeometry --shell "$2")"
+    convert "$picture" -crop "${WIDTH}x${HEIGHT}+${X}+${Y}" +repage \
+        -unique-colors -depth 8 txt:- | grep -v '^#' | grep -vc '#000000' || true
+}
+
+play_sample() {
+    local app=$1 folder=$2 ready=$1/Games/$2/READY.TXT pelorin colours
+    rm -f "$ready"
+    (cd "$app" && SDL_AUDIODRIVER=dummy QT_QPA_PLATFORM=xcb exec ./Pelorin) >dist/run.log 2>&1 &
+    pelorin=$!
+    started+=("$pelorin")
+
+    SECONDS=0
+    until has_pelorin_window; do
+        is_running "$pelorin" || fail "Pelorin ended at once: $(tail -n 5 dist/run.log)"
+        [ $SECONDS -lt 60 ] || fail "Pelorin did not open its window"
+        sleep 0.2
+    done
+    let_settle 10
+    start_game_by_keys
+    wait_for 60 "the game to say that it is up ($ready)" test -e "$ready"
+    let_settle 10
+    import -window root dist/run.png
+    colours=$(colours_of_window dist/run.png "$(dosbox_window)")
+    [ "$colours" -ge 8 ] || fail "the game's window shows $colours colours besides black; see dist/run.png"
+
+    xdotool windowactivate --sync "$(dosbox_window)" key --clearmodifiers ctrl+F9
+    wait_for 20 "DOSBox to end" has_no_dosbox_window
+    xdotool windowactivate --sync "$(pelorin_window)" key --clearmodifiers alt+F4
+    wait_for 20 "Pelorin to end" is_gone "$pelorin"
+    wait "$pelorin" || fail "Pelorin ended with status $?: $(tail -n 5 dist/run.log)"
+    [ -s "$app/Launcher.cfg" ] || fail "Pelorin did not save its settings"
+    echo "The game ran and showed $colours colours. The picture: $PWD/dist/run.png"
+}
