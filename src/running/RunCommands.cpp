@@ -1,0 +1,292 @@
+#include "running/RunCommands.h"
+
+#include "archives/FileOperations.h"
+#include "dosboxconf/ConfFiles.h"
+#include "dosboxconf/ConfReportCommands.h"
+#include "library/CatalogueCommands.h"
+#include "library/GameFiles.h"
+#include "library/ShowinfoCommands.h"
+#include "platform/Paths.h"
+#include "platform/ProgramHost.h"
+#include "platform/Prompts.h"
+#include "platform/TextFile.h"
+#include "running/DosboxLaunch.h"
+#include "running/LaunchStory.h"
+#include "running/RunPlan.h"
+#include "shell/JobCommands.h"
+#include "shell/Launcher.h"
+#include "shell/RecentFile.h"
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::running {
+
+using platform::Outcome;
+using shell::Launcher;
+
+namespace {
+
+constexpr auto kCategory = "pelorin.running";
+constexpr int kStartPage = 2;
+constexpr int kFirstRecent = 10; // of mnuRun's indexes
+
+RunRequest RequestOf(const Launcher& launcher, RunMode mode)
+{
+    RunRequest request;
+    request.mode = mode;
+    request.folder = launcher.current.CurrentFolder;
+    request.title = launcher.current.CurrentTitle;
+    request.startCommands = launcher.screens.start.lstAutoexec;
+    request.cd = dosboxconf::ChoiceOf(launcher.screens.cd);
+    return request;
+}
+
+void TellFailure(Launcher& launcher, const platform::Error& error)
+{
+    shell::TellNote(launcher, kCategory, error.text);
+}
+
+/// A start ready to go: what to run, and the text that lies in its folder as dosbox.conf.
+struct Launch {
+    platform::ProcessRequest request;
+    QString confPath;
+    QByteArray confBytes;
+    QString confShown;
+    QStringList notes;
+};
+
+/// Composes and checks without writing anything.
+Outcome<Launch> PrepareLaunch(Launcher& launcher, const RunRequest& request, const QString& build)
+{
+    const Outcome<dosboxconf::ConfText> composed = BuildDosboxConf(launcher, request, build);
+    if (!composed) {
+        return composed.Failure();
+    }
+    const CommandLine command = DosboxCommandLine(launcher.options);
+    const QString folder = u"DOSBox/"_s + ConfigFolder(request.mode, build);
+    const platform::ProgramHost host(launcher.places.appDir, launcher.searchPath);
+    const Outcome<platform::HostProgram> found = host.Find(folder + u'/' + command.program);
+    if (!found) {
+        return found.Failure();
+    }
+    const platform::HostProgram& program = found.Value();
+
+    const RunEnding ending{request.mode, request.startCommands, request.typedLine, false, {}};
+    const platform::HostText text = FinishRunText(composed.Value().text, ending);
+    const dosboxconf::RunFacts facts =
+        dosboxconf::LoadRunFacts(launcher.places, ConfRequestOf(request, build));
+    if (const platform::Done fits = CheckLaunch(facts, text, program.pathForm); !fits) {
+        return fits.Failure();
+    }
+    const QString workingFolder = launcher.places.InAppDir(folder);
+    return Launch{
+        program.Request(command.arguments, workingFolder, ShowStateOf(request.mode)),
+        platform::ResolvePath(workingFolder, u"dosbox.conf"_s),
+        text.Print(program.pathForm),
+        text.Preview(program.pathForm),
+        LaunchNotes(request, text, program.pathForm)};
+}
+
+void TellEnd(
+    Launcher& launcher, const QString& title, const Launch& launch, const platform::ProcessEnd& end)
+{
+    if (end.runMs >= kTooShortMs) {
+        return;
+    }
+    const QString headline =
+        launcher.lang.OwnText(340, u"%1: DOSBox ended after %2 s."_s)
+            .arg(title, QString::number(static_cast<double>(end.runMs) / 1000.0, 'f', 1));
+    const QString output = QString::fromLocal8Bit(end.output);
+    shell::TellNote(
+        launcher,
+        kCategory,
+        headline,
+        LaunchStory(headline, launch.request, launch.confShown, output));
+}
+
+/// Writes dosbox.conf and starts the emulator; it is not waited for.
+platform::Done StartLaunch(Launcher& launcher, const QString& title, const Launch& launch)
+{
+    if (const platform::Done written = platform::WriteBytes(launch.confPath, launch.confBytes);
+        !written) {
+        return written;
+    }
+    return launcher.ports.processes.StartDetached(
+        launch.request, [&launcher, title, launch](const platform::ProcessEnd& end) {
+            TellEnd(launcher, title, launch, end);
+        });
+}
+
+void LaunchDosbox(Launcher& launcher, const RunRequest& request, const QString& build)
+{
+    const Outcome<Launch> launch = PrepareLaunch(launcher, request, build);
+    if (!launch) {
+        TellFailure(launcher, launch.Failure());
+        return;
+    }
+    for (const QString& note : launch.Value().notes) {
+        shell::TellNote(launcher, kCategory, note);
+    }
+    const platform::Done started = StartLaunch(launcher, request.title, launch.Value());
+    if (!started) {
+        const QString& reason = started.Failure().text;
+        shell::TellNote(
+            launcher,
+            kCategory,
+            reason,
+            LaunchStory(reason, launch.Value().request, launch.Value().confShown, QString()));
+        return;
+    }
+    if (EntersRecentList(request.mode)) {
+        shell::AddRecent(launcher.recent, request.folder, request.title);
+    }
+}
+
+/// A game without start commands: shows the start page and offers the bare DOS prompt.
+void OfferDosPrompt(Launcher& launcher)
+{
+    launcher.screens.frame.tabInfo = kStartPage;
+    launcher.screens.frame.changed.Tell(shell::MainFrame::Tab);
+    const QStringList paragraphs{launcher.lang[177], launcher.lang[178], launcher.lang[179]};
+    const platform::Answer answer = launcher.ports.prompts.Ask(platform::MessageBox{
+        paragraphs.join(u"\r\n\r\n"_s),
+        launcher.lang[149],
+        platform::Buttons::YesNo,
+        platform::BoxIcon::Question});
+    if (answer == platform::Answer::Yes) {
+        shell::TellNote(
+            launcher,
+            kCategory,
+            launcher.lang.OwnText(341, u"The DOS prompt can't be started yet."_s));
+    }
+}
+
+bool IsThere(Launcher& launcher, const QString& folder)
+{
+    if (archives::FolderExists(launcher.places.GameDir(folder))) {
+        return true;
+    }
+    shell::TellNote(
+        launcher,
+        kCategory,
+        launcher.lang.OwnText(342, u"%1: the game's folder is gone."_s).arg(folder));
+    return false;
+}
+
+bool IsPacked(Launcher& launcher, const QString& folder)
+{
+    if (!library::IsGameStored(library::ListGame(launcher.places, folder))) {
+        return false;
+    }
+    shell::TellNote(
+        launcher,
+        kCategory,
+        launcher.lang.OwnText(343, u"%1: packed games can't be started yet."_s).arg(folder));
+    return true;
+}
+
+} // namespace
+
+Outcome<dosboxconf::ConfText> BuildDosboxConf(
+    Launcher& launcher, const RunRequest& request, const QString& build)
+{
+    if (const platform::Done possible = CheckRequest(request, build); !possible) {
+        return possible.Failure();
+    }
+    const bool hasOwn = dosboxconf::HasGameConf(launcher.places, request.folder);
+    if (UsesGlobalConf(request.mode, hasOwn)) {
+        dosboxconf::TellReport(
+            launcher, dosboxconf::ReadDefaultConf(launcher.places, launcher.options));
+    } else {
+        dosboxconf::TellReport(
+            launcher,
+            dosboxconf::LoadGameConf(launcher.places, request.folder, launcher.options).report);
+    }
+    const dosboxconf::RunFacts facts =
+        dosboxconf::LoadRunFacts(launcher.places, ConfRequestOf(request, build));
+    return dosboxconf::ComposeDosboxConf(facts, launcher.options);
+}
+
+void RunGame(Launcher& launcher)
+{
+    const QString folder = launcher.current.CurrentFolder;
+    if (launcher.flags.JobHeld || !platform::IsPlainName(folder)) {
+        return;
+    }
+    if (!IsThere(launcher, folder) || IsPacked(launcher, folder)) {
+        return;
+    }
+    const RunRequest request = RequestOf(launcher, RunMode::Game);
+    const QString build = dosboxconf::ReadGameBuild(launcher.places, folder, launcher.options);
+    switch (BranchOf(request.mode, build, request.startCommands.size())) {
+    case RunBranch::Dos: LaunchDosbox(launcher, request, build); break;
+    case RunBranch::AskForPrompt: OfferDosPrompt(launcher); break;
+    case RunBranch::NoSuchBuild:
+        shell::TellNote(
+            launcher,
+            kCategory,
+            launcher.lang.OwnText(344, u"%1: its settings name a build that is not in the list."_s)
+                .arg(folder));
+        break;
+    default:
+        shell::TellNote(
+            launcher,
+            kCategory,
+            launcher.lang.OwnText(345, u"%1: games of %2 can't be started yet."_s)
+                .arg(folder, build));
+    }
+}
+
+shell::MenuModel RunMenu(const Launcher& launcher)
+{
+    const QStringList title{shell::MenuTitle(launcher.current.CurrentTitle)};
+    const bool windowsGame =
+        launcher.options.SelectedText(dosboxconf::kDirectXCell) == u"Windows"_s;
+    const bool hasGame = !launcher.current.CurrentFolder.isEmpty();
+    // What can't be started yet is shown, so that the menu keeps its places.
+    shell::MenuModel menu{
+        {0, launcher.lang.OwnText(346, u"Run a random game"_s), false},
+        {1, QString(), false, true},
+        {2, launcher.lang.Text(140, title), hasGame},
+        {3, launcher.lang.Text(windowsGame ? 255 : 141, title), false},
+        {4, QString(), false, true},
+        {5, launcher.lang.Text(142, title), false},
+        {6, launcher.lang.Text(143, title), false},
+        {7, QString(), false, true},
+        {8, launcher.lang.OwnText(347, u"DOS prompt over all games"_s), false},
+        {9, QString(), false, true},
+    };
+    for (int i = 0; i < shell::kRecentGames; ++i) {
+        const auto slot = static_cast<std::size_t>(i);
+        if (launcher.recent.RecentFolders[slot].isEmpty()) {
+            break;
+        }
+        menu.push_back({kFirstRecent + i, shell::MenuTitle(launcher.recent.RecentTitles[slot])});
+    }
+    return menu;
+}
+
+void mnuRun_Click(Launcher& launcher, int index)
+{
+    constexpr int kRunGame = 2;
+    if (index == kRunGame) {
+        RunGame(launcher);
+        return;
+    }
+    if (index < kFirstRecent || index >= kFirstRecent + shell::kRecentGames) {
+        return;
+    }
+    const auto slot = static_cast<std::size_t>(index - kFirstRecent);
+    const QString folder = launcher.recent.RecentFolders[slot];
+    const QString title = launcher.recent.RecentTitles[slot];
+    if (!platform::IsPlainName(folder) ||
+        !archives::FolderExists(launcher.places.GameDir(folder))) {
+        return;
+    }
+    launcher.current.CurrentFolder = folder;
+    launcher.current.CurrentTitle = title;
+    library::ShowinfoProcess(launcher);
+    RunGame(launcher);
+}
+
+} // namespace pelorin::running
