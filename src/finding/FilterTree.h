@@ -38,6 +38,8 @@ struct FilterTree {
 
 /// The search box beside it.
 struct SearchBox {
+    enum Changed : std::uint32_t { Text = 1, Focus = 2 };
+
     QString txtFind;
 
     platform::Notifier changed;

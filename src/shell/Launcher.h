@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dosboxconf/OptionGrid.h"
+#include "finding/TitleOrder.h"
 #include "library/GameEntry.h"
 #include "library/IconSheet.h"
 #include "platform/Ports.h"
@@ -10,6 +11,10 @@
 #include "shell/RecentList.h"
 #include "shell/Screens.h"
 #include "shell/Settings.h"
+
+#include <QStringList>
+
+#include <optional>
 
 namespace pelorin::shell {
 
@@ -31,6 +36,8 @@ struct Launcher {
     Current current;
     Flags flags;
     Screens screens;
+    std::optional<finding::TitleOrder> titleOrder; // of the title language in use; made when needed
+    QStringList searchPath; // where programs that don't lie in AppDir are looked for
     QString BuildStamp;
     QString WindowTitle;
 };

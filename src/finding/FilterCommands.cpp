@@ -1,0 +1,65 @@
+#include "finding/FilterCommands.h"
+
+#include "finding/BuildGameList.h"
+#include "platform/Timers.h"
+#include "shell/Launcher.h"
+
+#include <QLocale>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::finding {
+
+using shell::Launcher;
+
+namespace {
+
+TitleOrder& OrderOf(Launcher& launcher)
+{
+    if (!launcher.titleOrder) {
+        const bool korean = launcher.lang.IsKorean();
+        launcher.titleOrder.emplace(
+            QLocale(korean ? QLocale::Korean : QLocale::English),
+            launcher.settings.TitleLanguageKorean);
+    }
+    return *launcher.titleOrder;
+}
+
+void ShowCount(Launcher& launcher)
+{
+    launcher.ports.timers.RunPendingEvents();
+    launcher.screens.status.count = launcher.lang.Text(3, {u"게임"_s}) +
+                                    QString::number(launcher.screens.list.items.size()) + u" / "_s +
+                                    QString::number(launcher.icons.Count());
+    launcher.screens.status.changed.Tell(shell::StatusBar::Texts);
+}
+
+} // namespace
+
+void RefreshGameList(Launcher& launcher)
+{
+    const QStringList buildNames = launcher.options.BuildNames();
+    const ListSource source{
+        launcher.catalogue,
+        buildNames,
+        launcher.settings.TitleLanguageKorean,
+        launcher.screens.search.txtFind};
+    GameList& list = launcher.screens.list;
+    const ListOutcome outcome =
+        BuildGameList(list, OrderOf(launcher), source, WholeIndex(launcher.catalogue));
+    if (outcome == ListOutcome::NoFilterHit) {
+        return;
+    }
+    if (outcome == ListOutcome::NoItem) {
+        launcher.screens.frame.caption = launcher.WindowTitle;
+        launcher.screens.frame.changed.Tell(shell::MainFrame::Caption);
+    }
+    ShowCount(launcher);
+    if (list.visible) {
+        list.changed.Tell(GameList::Focus);
+    } else if (!list.items.empty()) {
+        launcher.screens.search.changed.Tell(SearchBox::Focus);
+    }
+}
+
+} // namespace pelorin::finding

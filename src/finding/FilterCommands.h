@@ -1,0 +1,13 @@
+#pragma once
+
+namespace pelorin::shell {
+struct Launcher;
+}
+
+namespace pelorin::finding {
+
+/// Rebuilds the list out of the Catalogue and gives it the keyboard with its first row selected;
+/// the search box gets it while the list is hidden. Everybody calls this one.
+void RefreshGameList(shell::Launcher& launcher);
+
+} // namespace pelorin::finding

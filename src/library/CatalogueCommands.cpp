@@ -1,0 +1,275 @@
+#include "library/CatalogueCommands.h"
+
+#include "dosboxconf/ConfFiles.h"
+#include "finding/BuildGameList.h"
+#include "finding/FilterCommands.h"
+#include "finding/TreeNodes.h"
+#include "library/CatalogueCache.h"
+#include "library/CatalogueEdits.h"
+#include "library/CatalogueScan.h"
+#include "library/ShowinfoCommands.h"
+#include "platform/Bin.h"
+#include "platform/Paths.h"
+#include "platform/Prompts.h"
+#include "platform/Timers.h"
+#include "shell/JobCommands.h"
+#include "shell/Launcher.h"
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::library {
+
+using platform::Done;
+using platform::Outcome;
+using shell::Launcher;
+
+namespace {
+
+constexpr auto kCategory = "pelorin.library";
+
+ReadingRules RulesOf(const Launcher& launcher)
+{
+    const int build = dosboxconf::ReadBuildIndex(launcher.places, QString(), launcher.options);
+    return ReadingRules{launcher.lang, static_cast<std::int16_t>(build)};
+}
+
+void TellTroubles(Launcher& launcher, const Troubles& troubles)
+{
+    if (troubles.count == 0) {
+        return;
+    }
+    QStringList story;
+    for (const platform::Error& error : troubles.kept) {
+        story << error.text;
+    }
+    const QString text =
+        troubles.count == 1
+            ? story.first()
+            : launcher.lang.OwnText(351, u"%1 files could not be read or written."_s)
+                  .arg(troubles.count);
+    shell::TellNote(launcher, kCategory, text, story.join(u'\n'));
+}
+
+void TellLeftOut(Launcher& launcher, const ScanResult& scan)
+{
+    if (scan.beyondBound > 0) {
+        const QString text =
+            launcher.lang.OwnText(352, u"%1 folders are left out: a library holds 32,767 games."_s);
+        shell::TellNote(launcher, kCategory, text.arg(scan.beyondBound));
+    }
+    if (!scan.refused.isEmpty()) {
+        const QString text = launcher.lang.OwnText(353, u"%1 folders can't be games."_s);
+        shell::TellNote(
+            launcher, kCategory, text.arg(scan.refused.size()), scan.refused.join(u'\n'));
+    }
+}
+
+/// The list in view of large icons is slow to fill: it is filled as a plain list.
+void FillTreeAndList(Launcher& launcher)
+{
+    finding::RefillValueNodes(launcher.screens.tree, launcher.catalogue);
+    launcher.screens.list.changed.Tell(finding::GameList::Icons);
+    finding::RefreshGameList(launcher);
+}
+
+/// The scan itself, as a part of the caller's job. False: GamesRoot holds no game.
+bool FillByScan(Launcher& launcher, shell::Job& job)
+{
+    ShownProgress progress(launcher);
+    const ReadingRules rules = RulesOf(launcher);
+    ScanResult scan = ScanCatalogue(launcher.places, rules, launcher.defaultIcon, progress);
+    if (scan.abandoned) {
+        return true;
+    }
+    launcher.catalogue = std::move(scan.catalogue);
+    launcher.icons = std::move(scan.icons);
+    launcher.settings.rootsChanged = false;
+    TellTroubles(launcher, scan.troubles);
+    TellLeftOut(launcher, scan);
+    FillTreeAndList(launcher);
+    job.SetPanelsEnabledAtEnd(!launcher.catalogue.empty());
+    return !launcher.catalogue.empty();
+}
+
+/// Games that the cache files could not hold are read from their folders, behind the others.
+void AddGamesWithoutCache(Launcher& launcher)
+{
+    const QStringList folders = FoldersWithoutCache(launcher.places, launcher.catalogue);
+    if (folders.isEmpty()) {
+        return;
+    }
+    const ReadingRules rules = RulesOf(launcher);
+    Troubles troubles;
+    for (const QString& folder : folders) {
+        GameFiles files = ListGame(launcher.places, folder);
+        AddGame(files, rules, launcher.defaultIcon, launcher.catalogue, launcher.icons, troubles);
+    }
+    TellTroubles(launcher, troubles);
+}
+
+/// False: the cache is missing or damaged, nothing has changed.
+bool FillByCache(Launcher& launcher, shell::Job& job)
+{
+    if (!HasCatalogueCache(launcher.places)) {
+        return false;
+    }
+    ShownProgress progress(launcher);
+    Outcome<CachedCatalogue> cached = ReadCatalogueCache(launcher.places, progress);
+    if (!cached) {
+        qWarning().noquote() << cached.Failure().text;
+        return false;
+    }
+    launcher.catalogue = std::move(cached.Value().catalogue);
+    launcher.icons = std::move(cached.Value().icons);
+    AddGamesWithoutCache(launcher);
+    FillTreeAndList(launcher);
+    job.SetPanelsEnabledAtEnd(true);
+    return true;
+}
+
+/// What an empty library leaves behind, and how the user learns of it. Outside any redraw lock.
+void TellEmptyLibrary(Launcher& launcher)
+{
+    if (const Done deleted = DeleteCatalogueCache(launcher.places); !deleted) {
+        shell::TellNote(launcher, kCategory, deleted.Failure().text);
+    }
+    launcher.ports.prompts.Ask(platform::MessageBox{
+        launcher.lang[135] + u"\r\n\r\n"_s + launcher.lang[134],
+        launcher.lang[1],
+        platform::Buttons::Ok,
+        platform::BoxIcon::Information});
+}
+
+} // namespace
+
+ShownProgress::~ShownProgress()
+{
+    m_launcher.screens.progress.visible = false;
+    m_launcher.screens.progress.changed.Tell(shell::ProgressPanel::All);
+}
+
+void ShownProgress::Begin(Phase phase, int maximum)
+{
+    shell::ProgressPanel& panel = m_launcher.screens.progress;
+    panel.maximum = maximum;
+    panel.value = 0;
+    panel.text = phase == Phase::SavingList ? SavingText(m_launcher.lang, maximum)
+                                            : ProgressText(m_launcher.lang, phase, 0);
+    panel.visible = true;
+    panel.changed.Tell(shell::ProgressPanel::All);
+}
+
+bool ShownProgress::Step(Phase phase, int value, int percent)
+{
+    shell::ProgressPanel& panel = m_launcher.screens.progress;
+    panel.value = value;
+    panel.text = ProgressText(m_launcher.lang, phase, percent);
+    panel.changed.Tell(shell::ProgressPanel::All);
+    m_launcher.ports.timers.RunPendingEvents();
+    return !m_launcher.flags.Ending;
+}
+
+void ReadGameList(Launcher& launcher)
+{
+    bool hasGames = true;
+    {
+        const platform::RedrawLock lock(launcher.screens.gate);
+        shell::Job job(launcher);
+        hasGames = FillByCache(launcher, job) || FillByScan(launcher, job);
+    }
+    if (!hasGames) {
+        TellEmptyLibrary(launcher);
+    }
+}
+
+void ScanGames(Launcher& launcher)
+{
+    bool hasGames = true;
+    {
+        const platform::RedrawLock lock(launcher.screens.gate);
+        shell::Job job(launcher);
+        if (!job.Held()) {
+            return;
+        }
+        hasGames = FillByScan(launcher, job);
+    }
+    if (!hasGames) {
+        TellEmptyLibrary(launcher);
+    }
+}
+
+void cmdRefresh_Click(Launcher& launcher)
+{
+    if (launcher.flags.JobHeld) {
+        return;
+    }
+    launcher.flags.ListRefreshReady = false;
+    ScanGames(launcher);
+    launcher.flags.ListRefreshReady = true;
+    launcher.screens.frame.changed.Tell(shell::MainFrame::Front);
+    LVGamelist_ItemClick(launcher);
+    ShowinfoProcess(launcher);
+}
+
+void RefreshGameEntry(Launcher& launcher, const QString& folder)
+{
+    const int position = PositionOf(launcher.catalogue, folder);
+    if (position < 0) {
+        return;
+    }
+    GameEntry& entry = launcher.catalogue[static_cast<std::size_t>(position)];
+    RefreshEntry(entry, ListGame(launcher.places, folder), RulesOf(launcher));
+
+    finding::GameList& list = launcher.screens.list;
+    const int row = list.RowOf(folder);
+    if (row >= 0) {
+        list.items[static_cast<std::size_t>(row)] = finding::ItemOf(
+            entry, launcher.options.BuildNames(), launcher.settings.TitleLanguageKorean);
+        list.changed.Tell(finding::GameList::Rows);
+        if (folder == launcher.current.CurrentFolder) {
+            launcher.current.CurrentTitle = list.items[static_cast<std::size_t>(row)].text[0];
+        }
+    }
+    ShowinfoProcess(launcher);
+}
+
+Done RemoveGameEntry(Launcher& launcher, const QString& folder)
+{
+    if (!platform::IsPlainName(folder)) {
+        return platform::Error{platform::ErrorKind::Refused, folder};
+    }
+    const Done binned = launcher.ports.bin.MoveToBin(launcher.places.GameDir(folder));
+    if (!binned) {
+        return binned;
+    }
+    RemoveFromCatalogue(launcher.catalogue, launcher.icons, folder);
+    launcher.screens.list.changed.Tell(finding::GameList::Icons);
+    shell::SetPanelsEnabled(launcher, !launcher.catalogue.empty());
+    if (launcher.catalogue.empty()) {
+        TellEmptyLibrary(launcher);
+    }
+    return platform::Success();
+}
+
+Done SaveCatalogue(Launcher& launcher)
+{
+    if (launcher.settings.rootsChanged) {
+        return DeleteCatalogueCache(launcher.places);
+    }
+    ShownProgress progress(launcher);
+    const Outcome<CacheReport> saved =
+        SaveCatalogueCache(launcher.places, launcher.catalogue, launcher.icons, progress);
+    if (!saved) {
+        return saved.Failure();
+    }
+    for (const QStringList& folders : {saved.Value().leftOut, saved.Value().maimed}) {
+        if (!folders.isEmpty()) {
+            const QString text = launcher.lang.OwnText(
+                354, u"%1 games hold characters that the list's file can't keep."_s);
+            shell::TellNote(launcher, kCategory, text.arg(folders.size()), folders.join(u'\n'));
+        }
+    }
+    return platform::Success();
+}
+
+} // namespace pelorin::library

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "library/ScanProgress.h"
+#include "platform/Outcome.h"
+
+#include <QString>
+
+namespace pelorin::shell {
+struct Launcher;
+}
+
+namespace pelorin::library {
+
+/// Fills Catalogue, icons, tree and list out of the cache files, or by a scan when one is missing
+/// or damaged. At the start of the program.
+void ReadGameList(shell::Launcher& launcher);
+
+/// Reads all game folders anew. An empty library loses its cache files and is told so in a box.
+void ScanGames(shell::Launcher& launcher);
+
+/// F5: a scan, and the selection taken over anew. Nothing while a job stands.
+void cmdRefresh_Click(shell::Launcher& launcher);
+
+/// Reads one game's titles, build and marks again, and shows them in its row and in the details.
+void RefreshGameEntry(shell::Launcher& launcher, const QString& folder);
+
+/// Moves the game's folder to the recycle bin and takes the game out of the Catalogue. On an error
+/// the game stays as it is. The caller refreshes the list. A library that is empty then loses its
+/// cache files and is told so in a box.
+platform::Done RemoveGameEntry(shell::Launcher& launcher, const QString& folder);
+
+/// Writes IconList.bmp and Gamelist.lst, or deletes both when the roots have changed since they
+/// were filled, so that the next start scans. Games that the files can't hold are told.
+platform::Done SaveCatalogue(shell::Launcher& launcher);
+
+/// Shows a long job's progress in picProgress and lets window events run at each step.
+class ShownProgress : public ScanProgress {
+public:
+    explicit ShownProgress(shell::Launcher& launcher)
+        : m_launcher(launcher)
+    {}
+    ~ShownProgress() override;
+
+    void Begin(Phase phase, int maximum) override;
+    bool Step(Phase phase, int value, int percent) override;
+
+private:
+    shell::Launcher& m_launcher;
+};
+
+} // namespace pelorin::library

@@ -1,0 +1,23 @@
+#pragma once
+
+namespace pelorin::shell {
+struct Launcher;
+}
+
+namespace pelorin::library {
+
+/// Brings everything that shows the current game up to date: details, start commands, runnable
+/// files, CD, caption and status bar. What fails leaves the rest as it stands.
+void ShowinfoProcess(shell::Launcher& launcher);
+
+/// Takes the selected row over as the current game. Without one, or while the list is being built,
+/// the current game stays.
+void LVGamelist_ItemClick(shell::Launcher& launcher);
+
+/// The user has moved the selection, by mouse or key: taken over and shown.
+void LVGamelist_SelectionMoved(shell::Launcher& launcher);
+
+/// A double click, or Enter: taken over and started.
+void LVGamelist_DblClick(shell::Launcher& launcher);
+
+} // namespace pelorin::library
