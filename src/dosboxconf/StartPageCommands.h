@@ -1,0 +1,25 @@
+#pragma once
+
+namespace pelorin::shell {
+struct Launcher;
+}
+
+// What the start page's buttons do beyond the lists in memory (StartCommandsFile.h, CdFile.h).
+
+namespace pelorin::dosboxconf {
+
+/// Asks for the text of a line of lstAutoexec; a reply of blanks leaves it.
+void lstAutoexec_DblClick(shell::Launcher& launcher, int row);
+/// cmdSaveExec: writes the list as the game's autoexec.conf.
+void WriteAutoexecConf(shell::Launcher& launcher);
+
+/// Shows how the game on hand gets its CD; nothing of the former game stays.
+void FillCdList(shell::Launcher& launcher);
+void chkCD_Click(shell::Launcher& launcher, bool checked);
+void chkMountCD_Click(shell::Launcher& launcher, bool checked);
+/// The popup of cmdCD: 0 the game's folder, 1 images.
+void mnuCD_Click(shell::Launcher& launcher, int index);
+/// Writes or deletes CD.conf and refreshes the game's entry.
+void cmdSaveCD_Click(shell::Launcher& launcher);
+
+} // namespace pelorin::dosboxconf
