@@ -2,13 +2,15 @@
 
 kHorizon        equ 162                 ; the sky's last line
 kGround         equ 176                 ; the ground where the children run
-kMoonX          equ 284
-kMoonY          equ 24
-kMoonRadius     equ 14
+kMoonX          equ 298
+kMoonY          equ 20
+kMoonRadius     equ 13
 kHalo           equ 40
+kLastStar       equ 118                 ; no star of the sky stands lower
 
 ; Draws the whole scenery into ES.
 DrawScenery:
+        mov     word [seed_scenery], 1941
         call    DrawSky
         call    DrawMilkyWay
         call    DrawMoon
@@ -69,29 +71,39 @@ DrawMilkyWay:
         add     dx, 62
         mov     bx, 5
         call    RandomBelow
-        mov     bx, ax
-        add     bl, kSilver
-        mov     ax, si
-        cmp     dx, kHorizon - 20
-        jae     .skip
-        call    PutPixel
-.skip:  loop    .band
+        call    PutFaintStar
+        loop    .band
         mov     cx, 110
 .strew: mov     di, seed_scenery
         mov     bx, kWidth
         call    RandomBelow
         mov     si, ax
-        mov     bx, kHorizon - 12
+        mov     bx, kLastStar
         call    RandomBelow
         mov     dx, ax
         mov     bx, 9
         call    RandomBelow
-        mov     bx, ax
-        add     bl, kSilver + 4
-        mov     ax, si
-        call    PutPixel
+        add     ax, 4
+        call    PutFaintStar
         loop    .strew
         ret
+
+; SI = x, DX = y, AX = light, 0 to 12. The sky is brighter further down, and so is a star that can be
+; seen there.
+PutFaintStar:
+        cmp     dx, kLastStar
+        jae     .done
+        mov     bx, dx
+        shr     bx, 4
+        sub     bx, 2
+        cmp     ax, bx
+        jge     .seen
+        mov     ax, bx
+.seen:  mov     bx, ax
+        add     bl, kSilver
+        mov     ax, si
+        call    PutPixel
+.done:  ret
 
 ; A crescent: the part of one disc that another does not cover; and the glow around it.
 DrawMoon:
@@ -294,7 +306,7 @@ DrawGround:
 ; The title "Byeol heneun bam" (Counting Stars at Night) in Hangul of our own drawing. A syllable is
 ; made of bars and of rings.
 kTitleX         equ 18
-kTitleY         equ 36
+kTitleY         equ 41
 
 DrawHangulTitle:
         mov     word [stroke_growth], 3
@@ -446,4 +458,3 @@ title_strokes:
         db      118, 43, 38, 6,  118, 61, 38, 6,  118, 43, 7, 24,  133, 43, 7, 24
         dw      -1
 
-seed_scenery:   dw 1941
