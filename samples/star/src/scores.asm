@@ -90,6 +90,8 @@ MakeLine:
 
 ; BX = place of `own_line` in the table: behind those that are as good.
 FindPlace:
+        push    ds
+        pop     es
         xor     bx, bx
         mov     eax, [score]
         test    eax, eax

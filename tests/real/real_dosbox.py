@@ -1,0 +1,125 @@
+"""A screen of its own, and the real DOSBox on it, for the tests beside this file.
+
+Nothing here touches the user's files: every program gets a home in the temporary folder, and of the
+environment only PATH.
+"""
+
+import os
+import pathlib
+import struct
+import subprocess
+import time
+
+REPOSITORY = pathlib.Path(__file__).resolve().parents[2]
+
+
+def wait_until(condition, seconds, what):
+    """Polls until the condition gives something, and returns that."""
+    end = time.monotonic() + seconds
+    while True:
+        result = condition()
+        if result:
+            return result
+        if time.monotonic() > end:
+            raise AssertionError(f"not within {seconds} s: {what}")
+        time.sleep(0.05)
+
+
+class Screen:
+    """Xvfb on the first free display, and openbox. To be used as a context."""
+
+    def __init__(self, folder):
+        home, runtime = folder / "home", folder / "run"
+        home.mkdir()
+        runtime.mkdir(mode=0o700)
+        self.env = {
+            "PATH": os.environ["PATH"],
+            "HOME": str(home),
+            "XDG_RUNTIME_DIR": str(runtime),
+            "SDL_AUDIODRIVER": "dummy",
+        }
+        self.programs = []
+
+    def __enter__(self):
+        try:
+            self._start()
+        except BaseException:
+            self.__exit__()
+            raise
+        return self
+
+    def __exit__(self, *unused):
+        for program in reversed(self.programs):
+            if program.poll() is None:
+                program.terminate()
+            try:
+                program.wait(5)
+            except subprocess.TimeoutExpired:
+                program.kill()
+                program.wait()
+
+    def _start(self):
+        reader, writer = os.pipe()
+        server = ["Xvfb", "-displayfd", str(writer), "-screen", "0", "1024x768x24", "-noreset"]
+        self.start(server + ["-nolisten", "tcp"], pass_fds=[writer])
+        os.close(writer)
+        with os.fdopen(reader) as pipe:
+            number = pipe.readline().strip()
+        assert number, "Xvfb does not start"
+        self.env["DISPLAY"] = ":" + number
+        self.start(["openbox"])
+        check = ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"]
+        wait_until(lambda: "window id" in self.run(check), 10, "openbox manages the screen")
+
+    def start(self, command, **more):
+        """Starts a program that ends with the screen at the latest."""
+        quiet = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
+        program = subprocess.Popen(command, env=self.env, **{**quiet, **more})
+        self.programs.append(program)
+        return program
+
+    def run(self, command):
+        """What a short command prints; nothing when it fails."""
+        done = subprocess.run(command, env=self.env, capture_output=True, timeout=20, check=False)
+        return done.stdout.decode("utf-8", "replace") if done.returncode == 0 else ""
+
+    def key(self, *keys):
+        """Types keys into the window that has the focus."""
+        self.run(["xdotool", "key", "--delay", "60", *keys])
+
+    def colours(self, window):
+        """The colours that a window shows, as numbers; black is 0."""
+        command = ["xwd", "-silent", "-id", window]
+        done = subprocess.run(command, env=self.env, capture_output=True, timeout=20, check=False)
+        dump = done.stdout
+        if len(dump) < 100:
+            return set()
+        header = struct.unpack(">25I", dump[:100])
+        order, bits, line_bytes, entries = header[7], header[11], header[12], header[19]
+        assert bits == 32, "a screen of 24 bits has pixels of 32"
+        pixels = dump[header[0] + 12 * entries :][: line_bytes * header[5]]
+        numbers = struct.unpack(("<", ">")[order] + f"{len(pixels) // 4}I", pixels)
+        return {number & 0xFFFFFF for number in numbers}
+
+
+class Dosbox:
+    """DOSBox in a folder laid out as an installation: DOSBox/0.74, Dos, mapper, Games."""
+
+    def __init__(self, screen, conf_folder):
+        self.screen = screen
+        self.output = conf_folder / "output.txt"
+        with open(self.output, "wb") as output:
+            command = ["dosbox", "-conf", "dosbox.conf"]
+            self.process = screen.start(
+                command, cwd=conf_folder, stdin=subprocess.DEVNULL, stdout=output, stderr=output
+            )
+
+    def window(self):
+        """The id of its window, which then has the focus."""
+        search = ["xdotool", "search", "--onlyvisible", "--class", "dosbox"]
+        ids = wait_until(lambda: self.screen.run(search).split(), 10, "DOSBox shows its window")
+        self.screen.run(["xdotool", "windowactivate", "--sync", ids[-1]])
+        return ids[-1]
+
+    def ended(self):
+        return self.process.poll() is not None
