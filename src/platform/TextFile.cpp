@@ -15,17 +15,10 @@ namespace {
 // 8,822 syllables that Windows added.
 constexpr auto kCodec = "windows-949";
 
-QByteArray EncodeCharacter(const QString& character)
+QByteArray EncodeAll(const QString& text)
 {
     QStringEncoder encoder(kCodec);
-    return encoder.encode(character);
-}
-
-bool SurvivesRoundTrip(const QString& character)
-{
-    // A control character or "?" is itself in every code page; the codec's stand-in for a loss
-    // is told from the real thing by decoding it again.
-    return DecodeCp949(EncodeCharacter(character)) == character;
+    return encoder.encode(text);
 }
 
 QStringList CharactersOf(const QString& text)
@@ -49,16 +42,15 @@ Error FileError(ErrorKind kind, const QString& path, const QString& reason)
 
 Encoded EncodeCp949(const QString& text)
 {
-    QStringEncoder encoder(kCodec);
-    QByteArray whole = encoder.encode(text);
+    QByteArray whole = EncodeAll(text);
     if (DecodeCp949(whole) == text) {
         return Encoded{whole, QString()};
     }
     Encoded result;
     const QStringList characters = CharactersOf(text);
     for (const QString& character : characters) {
-        if (SurvivesRoundTrip(character)) {
-            result.bytes += EncodeCharacter(character);
+        if (FitsCp949(character)) {
+            result.bytes += EncodeAll(character);
         } else {
             result.bytes += '?';
             if (!result.lost.contains(character)) {
@@ -67,6 +59,13 @@ Encoded EncodeCp949(const QString& text)
         }
     }
     return result;
+}
+
+bool FitsCp949(const QString& text)
+{
+    // A control character or "?" is itself in every code page; the codec's stand-in for a loss
+    // is told from the real thing by decoding it again.
+    return DecodeCp949(EncodeAll(text)) == text;
 }
 
 QString DecodeCp949(const QByteArray& bytes)

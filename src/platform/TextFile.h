@@ -20,6 +20,9 @@ struct Encoded {
 /// lost unless its bytes decode to it again. Lone surrogates are lost.
 Encoded EncodeCp949(const QString& text);
 
+/// Whether EncodeCp949 would lose nothing; much cheaper on long texts that lose something.
+bool FitsCp949(const QString& text);
+
 /// A byte that is no text (a lead byte at the end, say) becomes U+FFFD.
 QString DecodeCp949(const QByteArray& bytes);
 
