@@ -30,20 +30,27 @@ public:
     /// called with the Catalogue that the position belongs to.
     const QString& SearchText(int position);
 
+    /// Compares texts the way the titles are.
+    const QCollator& Collator() const { return m_collator; }
+
 private:
     struct Known {
         QString title; // as stored, may be empty
         QString folder;
-        std::optional<QCollatorSortKey> key;
+        QCollatorSortKey key; // of the title that is shown
         std::optional<QString> searchText;
     };
 
     bool Matches(const Known& known, const library::GameEntry& entry) const;
+    bool Before(int a, int b) const;
+    void Replace(int head, int oldEnd, int newEnd, const library::Catalogue& catalogue);
+    void DropTwins();
 
     QCollator m_collator;
     bool m_titleLanguageKorean;
-    std::vector<Known> m_known; // by position
-    std::vector<int> m_sorted;
+    std::vector<Known> m_known;    // by position
+    std::vector<int> m_everything; // all positions, sorted
+    std::vector<int> m_sorted;     // without those whose folder stands before
 };
 
 } // namespace pelorin::finding

@@ -5,11 +5,8 @@
 #include "library/ScanProgress.h"
 #include "platform/Outcome.h"
 
-#include <QByteArray>
 #include <QString>
 #include <QStringList>
-
-#include <vector>
 
 // The cache of the Catalogue between two runs, in AppDir:
 //   Gamelist.lst  one line in code page 949 ended by CR LF: records separated by U+0002, their nine
@@ -45,7 +42,8 @@ struct CacheReport {
 /// Writes the sheet, then the list, each through a temporary file, and deletes the former forms
 /// IconList.jpg and SmallIconList.jpg. A sheet that already holds these icons is not written again;
 /// where one is, the old list goes first, so that no list ever stands beside another one's icons.
-/// Without a game the list is deleted and the sheet left alone. Error: Unwritable.
+/// Without a game the list is deleted and the sheet left alone. Goes on when `progress` wants to
+/// give up: this is what the program does last. Error: Unwritable.
 platform::Outcome<CacheReport> SaveCatalogueCache(
     const shell::Places& places,
     const Catalogue& catalogue,
@@ -55,9 +53,8 @@ platform::Outcome<CacheReport> SaveCatalogueCache(
 /// Deletes both files. Missing ones are a success.
 platform::Done DeleteCatalogueCache(const shell::Places& places);
 
-/// The list's line without its end.
-QString CatalogueLine(const Catalogue& catalogue, const std::vector<int>& positions);
-/// Error: Malformed, with the number of the record.
-platform::Outcome<Catalogue> CatalogueFromLine(const QString& line);
+/// The sub-folders of GamesRoot that the cache could not keep, because of their names, and that
+/// `catalogue` does not hold. Lists GamesRoot; opens no game.
+QStringList FoldersWithoutCache(const shell::Places& places, const Catalogue& catalogue);
 
 } // namespace pelorin::library

@@ -35,10 +35,6 @@ ScanResult ScanCatalogue(
     const IconPixels& defaultIcon,
     ScanProgress& progress);
 
-/// The sub-folders of GamesRoot that the cache could not keep, that is whose names code page 949
-/// has no characters for, and that `catalogue` does not hold. Lists GamesRoot, opens no game.
-QStringList FoldersWithoutCache(const shell::Places& places, const Catalogue& catalogue);
-
 /// Prepares and reads one more folder and puts it at the end. False, with nothing changed, when
 /// the Catalogue is full.
 bool AddGame(

@@ -42,17 +42,25 @@ struct GameFiles {
     QString GamePath(const QString& name) const;
     QString MetaPath(const QString& name) const;
 
-    /// An entry of the metadata folder was made or is gone. Known ones may be noted again.
+    /// An entry was made or is gone. Known ones may be noted again.
+    void NoteGameFile(const QString& name);
     void NoteMetaFile(const QString& name);
     void NoteMetaFolder(const QString& name);
     void ForgetMetaFile(const QString& name);
-    /// As above, for the metadata folder itself, which is then taken as empty.
-    void NoteMetaDir(const QString& name);
 };
+
+/// Whether a sub-folder of GamesRoot can be a game: not when its name is no plain name or not in
+/// the system's encoding, and not when it is a link to GamesRoot or to a folder above that, since
+/// preparing it would put files among the games.
+bool MayBeGame(const shell::Places& places, const QString& folder);
 
 /// Lists the game's folder and its metadata folder, whatever case that is written in. A folder that
 /// is missing or can't be read gives empty listings. `folder` must be a plain name.
 GameFiles ListGame(const shell::Places& places, const QString& folder);
+
+/// Makes the metadata folder where there is none; `files` tells. An existing one is a success, also
+/// one that could not be listed. Error Refused when a file bears its name, Unwritable otherwise.
+platform::Done MakeMetaDir(GameFiles& files);
 
 /// The game's files lie in its store archive.
 bool IsGameStored(const GameFiles& files);

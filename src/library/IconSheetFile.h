@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <vector>
 
 // The sheet of icons: a Windows bitmap of 24 bits a pixel, not compressed, rows from the bottom.
@@ -33,8 +34,12 @@ platform::Outcome<IconSheet> ReadIconSheet(const QString& path, int count, ScanP
 bool IconSheetIsCurrent(
     const QString& path, const IconSheet& icons, const std::vector<int>& positions);
 
-/// `positions` must not be empty. Cells behind the last icon are black.
+/// `positions` must not be empty. Cells behind the last icon are black. `beforeReplacing` runs when
+/// the new sheet is written and about to take the place of the old one; its failure is ours.
 platform::Done WriteIconSheet(
-    const QString& path, const IconSheet& icons, const std::vector<int>& positions);
+    const QString& path,
+    const IconSheet& icons,
+    const std::vector<int>& positions,
+    const std::function<platform::Done()>& beforeReplacing);
 
 } // namespace pelorin::library

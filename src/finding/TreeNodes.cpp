@@ -1,0 +1,149 @@
+#include "finding/TreeNodes.h"
+
+#include "shell/LangTable.h"
+
+#include <QSet>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::finding {
+
+namespace {
+
+using library::GameEntry;
+
+struct RootRow {
+    QStringView key;
+    int captionEntry;
+};
+
+constexpr std::array<RootRow, 10> kRoots{{
+    {u"genrek", 30},
+    {u"genree", 13},
+    {u"ganada", 31},
+    {u"alphabet", 32},
+    {u"store", 40},
+    {u"executer", 295},
+    {u"publisher", 307},
+    {u"language", 308},
+    {u"released", 309},
+    {u"country", 310},
+}};
+
+struct ValueCategory {
+    QStringView key;
+    QString GameEntry::*field;
+};
+
+// "language" holds the times of release and "released" the languages: the keys are crossed, the
+// captions are those of the contents.
+constexpr std::array<ValueCategory, 6> kValueCategories{{
+    {u"genrek", &GameEntry::GenreK},
+    {u"genree", &GameEntry::GenreE},
+    {u"publisher", &GameEntry::Maker},
+    {u"language", &GameEntry::Release},
+    {u"released", &GameEntry::GameLanguage},
+    {u"country", &GameEntry::Country},
+}};
+
+constexpr QStringView kInitials = u"ㄱㄴㄷㄹㅁㅂㅅㅇㅈㅊㅋㅌㅍㅎ";
+constexpr int kMostBuilds = 101;
+
+bool IsBlank(const QString& text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c == u' '; });
+}
+
+/// A child's key: "find", the category's key, "_" and a word.
+FilterNode NodeOf(QStringView rootKey, const QString& word, const QString& text)
+{
+    return FilterNode{u"find"_s + rootKey.toString() + u'_' + word, text, false};
+}
+
+void AddChildren(FilterTree& tree, QStringView rootKey, const QStringList& texts)
+{
+    FilterRoot* root = tree.Root(rootKey.toString());
+    for (const QString& text : texts) {
+        root->children.push_back(NodeOf(rootKey, text, text));
+    }
+}
+
+QStringList SingleCharacters(QStringView characters)
+{
+    QStringList texts;
+    for (const QChar c : characters) {
+        texts << QString(c);
+    }
+    return texts;
+}
+
+QStringList DistinctValues(const library::Catalogue& catalogue, QString GameEntry::*field)
+{
+    QSet<QString> values;
+    for (const GameEntry& entry : catalogue) {
+        values.insert(entry.*field);
+    }
+    QStringList sorted;
+    for (const QString& value : std::as_const(values)) {
+        if (!IsBlank(value)) {
+            sorted << value;
+        }
+    }
+    std::sort(sorted.begin(), sorted.end());
+    return sorted;
+}
+
+} // namespace
+
+void BuildTreeSkeleton(
+    FilterTree& tree, const shell::LangTable& lang, const QStringList& buildNames)
+{
+    std::vector<FilterRoot> roots;
+    for (const RootRow& row : kRoots) {
+        const QString key = row.key.toString();
+        const FilterRoot* former = tree.Root(key);
+        roots.push_back(
+            FilterRoot{key, lang[row.captionEntry], {}, former != nullptr && former->expanded});
+    }
+    tree.roots = std::move(roots);
+
+    AddChildren(tree, u"ganada", SingleCharacters(kInitials));
+    AddChildren(tree, u"ganada", {u"123"_s, u"ABC"_s, u"~!@#"_s});
+    AddChildren(tree, u"alphabet", SingleCharacters(u"ABCDEFGHIJKLMNOPQRSTUVWXYZ"));
+    AddChildren(tree, u"alphabet", {u"123"_s, u"~!@#"_s});
+    tree.Root(u"store"_s)->children = {
+        NodeOf(u"store", u"no"_s, lang[41]), NodeOf(u"store", u"yes"_s, lang[42])};
+    const QStringList possible = buildNames.mid(0, kMostBuilds);
+    const auto end = std::find_if(possible.begin(), possible.end(), IsBlank);
+    AddChildren(tree, u"executer", QStringList(possible.begin(), end));
+    tree.changed.Tell(FilterTree::Nodes);
+}
+
+void RefillValueNodes(FilterTree& tree, const library::Catalogue& catalogue)
+{
+    for (const ValueCategory& category : kValueCategories) {
+        FilterRoot* root = tree.Root(category.key.toString());
+        if (root == nullptr) {
+            continue;
+        }
+        root->children.clear();
+        AddChildren(tree, category.key, DistinctValues(catalogue, category.field));
+    }
+    tree.changed.Tell(FilterTree::Nodes);
+}
+
+QStringList ChildTexts(const FilterTree& tree, const QString& rootKey)
+{
+    QStringList texts;
+    if (const FilterRoot* root = tree.Root(rootKey)) {
+        for (const FilterNode& node : root->children) {
+            texts << node.text;
+        }
+    }
+    return texts;
+}
+
+} // namespace pelorin::finding

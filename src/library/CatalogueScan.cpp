@@ -1,0 +1,170 @@
+#include "library/CatalogueScan.h"
+
+#include "library/GamePreparation.h"
+#include "platform/Paths.h"
+#include "shell/Places.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::library {
+
+namespace {
+
+/// What the second pass needs of a folder's listing. A listing whole takes some 3 KB, and there
+/// may be tens of thousands.
+struct ListedGame {
+    QString folder;
+    QString metaName; // as spelled on disk
+    bool metaExists = false;
+    bool stored = false;
+    QStringList metaFiles; // those that make up an entry, as spelled on disk
+};
+
+ListedGame Shorten(const GameFiles& files)
+{
+    ListedGame listed;
+    listed.folder = files.folder;
+    listed.metaName = platform::LastPathSegment(files.metaDir);
+    listed.metaExists = files.meta.exists;
+    listed.stored = IsGameStored(files);
+    for (const QString& name :
+         {u"info.txt"_s,
+          u"ExtraInfo.txt"_s,
+          u"GenreK.dat"_s,
+          u"GenreE.dat"_s,
+          u"Extra.dat"_s,
+          u"edit.conf"_s,
+          u"CD.conf"_s}) {
+        if (files.HasMetaFile(name)) {
+            listed.metaFiles << files.meta.Find(name);
+        }
+    }
+    return listed;
+}
+
+GameFiles Lengthen(const shell::Places& places, const ListedGame& listed)
+{
+    GameFiles files;
+    files.folder = listed.folder;
+    files.gameDir = places.GameDir(listed.folder);
+    files.metaDir = files.gameDir + u'/' + listed.metaName;
+    files.game.exists = true;
+    files.meta.exists = listed.metaExists;
+    if (listed.stored) {
+        files.NoteGameFile(u"Store.7z"_s);
+    }
+    for (const QString& name : listed.metaFiles) {
+        files.NoteMetaFile(name);
+    }
+    return files;
+}
+
+class Scan {
+public:
+    Scan(
+        const shell::Places& places,
+        const ReadingRules& rules,
+        const IconPixels& defaultIcon,
+        ScanProgress& progress)
+        : m_places(places)
+        , m_rules(rules)
+        , m_defaultIcon(defaultIcon)
+        , m_progress(progress)
+    {}
+
+    ScanResult Run()
+    {
+        const QStringList folders = GameFolders();
+        m_result.abandoned = !Prepare(folders) || !Read();
+        return std::move(m_result);
+    }
+
+private:
+    QStringList GameFolders()
+    {
+        QStringList games;
+        const QStringList folders = platform::ListFolder(m_places.gamesRoot).folders;
+        for (const QString& folder : folders) {
+            (MayBeGame(m_places, folder) ? games : m_result.refused) << folder;
+        }
+        m_result.beyondBound = static_cast<int>(std::max<qsizetype>(0, games.size() - kMostGames));
+        return games.mid(0, kMostGames);
+    }
+
+    bool Prepare(const QStringList& folders)
+    {
+        const int count = static_cast<int>(folders.size());
+        ProgressSteps steps(m_progress, Phase::Preparing, count);
+        m_progress.Begin(Phase::Preparing, std::max(1, count));
+        m_listed.reserve(static_cast<std::size_t>(count));
+        for (int i = 0; i < count; ++i) {
+            GameFiles files = ListGame(m_places, folders[i]);
+            if (files.game.exists || QFileInfo::exists(files.gameDir)) {
+                m_result.icons.Append(PrepareGameFolder(files, m_defaultIcon, m_result.troubles));
+                m_listed.push_back(Shorten(files));
+            }
+            if (!steps.At(i)) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    bool Read()
+    {
+        const int count = static_cast<int>(m_listed.size());
+        ProgressSteps steps(m_progress, Phase::Reading, count);
+        m_progress.Begin(Phase::Reading, std::max(1, count));
+        m_result.catalogue.reserve(m_listed.size());
+        for (int i = 0; i < count; ++i) {
+            GameFiles files = Lengthen(m_places, m_listed[static_cast<std::size_t>(i)]);
+            m_result.catalogue.push_back(ReadGameFolder(files, i, m_rules, m_result.troubles));
+            if (!steps.At(i)) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    const shell::Places& m_places;
+    const ReadingRules& m_rules;
+    const IconPixels& m_defaultIcon;
+    ScanProgress& m_progress;
+    std::vector<ListedGame> m_listed;
+    ScanResult m_result;
+};
+
+} // namespace
+
+ScanResult ScanCatalogue(
+    const shell::Places& places,
+    const ReadingRules& rules,
+    const IconPixels& defaultIcon,
+    ScanProgress& progress)
+{
+    return Scan(places, rules, defaultIcon, progress).Run();
+}
+
+bool AddGame(
+    GameFiles& files,
+    const ReadingRules& rules,
+    const IconPixels& defaultIcon,
+    Catalogue& catalogue,
+    IconSheet& icons,
+    Troubles& troubles)
+{
+    if (catalogue.size() >= kMostGames) {
+        return false;
+    }
+    icons.Append(PrepareGameFolder(files, defaultIcon, troubles));
+    const int position = static_cast<int>(catalogue.size());
+    catalogue.push_back(ReadGameFolder(files, position, rules, troubles));
+    return true;
+}
+
+} // namespace pelorin::library

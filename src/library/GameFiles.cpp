@@ -1,0 +1,206 @@
+#include "library/GameFiles.h"
+
+#include "shell/Places.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::library {
+
+namespace {
+
+/// The metadata folder's name when one is made.
+constexpr QStringView kMetaDirName = u"DosBox";
+
+void NoteName(platform::Listing& listing, QStringList& kind, const QString& name)
+{
+    if (!kind.contains(name)) {
+        kind << name;
+        listing.all << name;
+    }
+    const QString lower = name.toLower();
+    if (!listing.byLowerCase.contains(lower)) {
+        listing.byLowerCase.insert(lower, name);
+    }
+}
+
+/// The folder of that name without regard to case, the exact one first; empty if there is none.
+QString FindFolder(const platform::Listing& listing, QStringView name)
+{
+    if (listing.folders.contains(name)) {
+        return name.toString();
+    }
+    const auto hit =
+        std::find_if(listing.folders.begin(), listing.folders.end(), [&](const QString& folder) {
+            return folder.compare(name, Qt::CaseInsensitive) == 0;
+        });
+    return hit == listing.folders.end() ? QString() : *hit;
+}
+
+template <std::size_t count>
+QStringList FilesEndingWith(
+    const platform::Listing& listing, const std::array<QStringView, count>& endings)
+{
+    QStringList files;
+    for (const QString& file : listing.files) {
+        const bool hit = std::any_of(endings.begin(), endings.end(), [&](QStringView ending) {
+            return file.endsWith(ending, Qt::CaseInsensitive);
+        });
+        if (hit) {
+            files << file;
+        }
+    }
+    return files;
+}
+
+QString PathOf(const QString& folder, const platform::Listing& listing, const QString& name)
+{
+    const QString found = listing.Find(name);
+    return folder + u'/' + (found.isEmpty() ? name : found);
+}
+
+} // namespace
+
+void Troubles::Add(const platform::Error& error)
+{
+    ++count;
+    if (kept.size() < kMostKept) {
+        kept.push_back(error);
+    }
+}
+
+void Troubles::AddIfFailed(const platform::Done& done)
+{
+    if (!done) {
+        Add(done.Failure());
+    }
+}
+
+QString GameFiles::GamePath(const QString& name) const
+{
+    return PathOf(gameDir, game, name);
+}
+
+QString GameFiles::MetaPath(const QString& name) const
+{
+    return PathOf(metaDir, meta, name);
+}
+
+void GameFiles::NoteGameFile(const QString& name)
+{
+    NoteName(game, game.files, name);
+}
+
+void GameFiles::NoteMetaFile(const QString& name)
+{
+    NoteName(meta, meta.files, name);
+}
+
+void GameFiles::NoteMetaFolder(const QString& name)
+{
+    NoteName(meta, meta.folders, name);
+}
+
+void GameFiles::ForgetMetaFile(const QString& name)
+{
+    meta.files.removeAll(name);
+    meta.all.removeAll(name);
+    const QString lower = name.toLower();
+    if (meta.byLowerCase.value(lower) != name) {
+        return;
+    }
+    meta.byLowerCase.remove(lower);
+    const auto twin = std::find_if(meta.all.begin(), meta.all.end(), [&](const QString& other) {
+        return other.toLower() == lower;
+    });
+    if (twin != meta.all.end()) {
+        meta.byLowerCase.insert(lower, *twin);
+    }
+}
+
+bool MayBeGame(const shell::Places& places, const QString& folder)
+{
+    if (!platform::IsPlainName(folder) || folder.contains(QChar::ReplacementCharacter)) {
+        return false;
+    }
+    const QFileInfo info(places.GameDir(folder));
+    if (!info.isSymLink()) {
+        return true;
+    }
+    const QString root = QFileInfo(places.gamesRoot).canonicalFilePath() + u'/';
+    const QString target = info.canonicalFilePath();
+    return !root.startsWith(target.endsWith(u'/') ? target : target + u'/');
+}
+
+GameFiles ListGame(const shell::Places& places, const QString& folder)
+{
+    GameFiles files;
+    files.folder = folder;
+    files.gameDir = places.GameDir(folder);
+    files.game = platform::ListFolder(files.gameDir);
+    const QString name = FindFolder(files.game, kMetaDirName);
+    files.metaDir = files.gameDir + u'/' + (name.isEmpty() ? kMetaDirName.toString() : name);
+    if (!name.isEmpty()) {
+        files.meta = platform::ListFolder(files.metaDir);
+    }
+    return files;
+}
+
+platform::Done MakeMetaDir(GameFiles& files)
+{
+    if (files.meta.exists || QFileInfo(files.metaDir).isDir()) {
+        return platform::Success();
+    }
+    const QString name = kMetaDirName.toString();
+    if (!files.game.Find(name).isEmpty()) {
+        return platform::Error{
+            platform::ErrorKind::Refused, u"%1: not a folder"_s.arg(files.GamePath(name))};
+    }
+    // Not with the folders above it: a game folder that has vanished must not come back.
+    if (!QDir().mkdir(files.metaDir)) {
+        return platform::Error{
+            platform::ErrorKind::Unwritable, u"%1: the folder can't be made"_s.arg(files.metaDir)};
+    }
+    NoteName(files.game, files.game.folders, name);
+    files.meta = platform::Listing();
+    files.meta.exists = true;
+    return platform::Success();
+}
+
+bool IsGameStored(const GameFiles& files)
+{
+    return files.HasGameFile(u"Store.7z"_s);
+}
+
+QStringList RunnableFiles(const GameFiles& files)
+{
+    return FilesEndingWith(files.game, std::array<QStringView, 3>{u".exe", u".com", u".bat"});
+}
+
+QStringList Pictures(const GameFiles& files)
+{
+    QStringList pictures = FilesEndingWith(
+        files.meta, std::array<QStringView, 5>{u".jpg", u".jpeg", u".png", u".gif", u".bmp"});
+    std::stable_partition(pictures.begin(), pictures.end(), [](const QString& name) {
+        return name.compare(u"Icon.jpg"_s, Qt::CaseInsensitive) != 0;
+    });
+    return pictures;
+}
+
+QStringList Recordings(const GameFiles& files)
+{
+    return FilesEndingWith(files.meta, std::array<QStringView, 3>{u".avi", u".wav", u".vgm"});
+}
+
+QStringList Manuals(const GameFiles& files)
+{
+    const QString name = FindFolder(files.meta, u"Manual");
+    return name.isEmpty() ? QStringList() : platform::ListFolder(files.metaDir + u'/' + name).files;
+}
+
+} // namespace pelorin::library

@@ -1,0 +1,287 @@
+#include "library/GameInfo.h"
+
+#include "library/private/NewFile.h"
+#include "platform/Numbers.h"
+#include "platform/TextFile.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::library {
+
+namespace {
+
+constexpr QChar kTitleSeparator(u'\x0003');
+
+struct OldGenre {
+    QStringView code;
+    QStringView korean;
+    QStringView englishAtScan;
+    QStringView englishInPanel;
+};
+
+constexpr std::array<OldGenre, 8> kOldGenres{{
+    {u"@ACT", u"액션/아케이드", u"Action/Arcade", u"Action/Arcade"},
+    {u"@FGT", u"대전/액션", u"Fighting/Action", u"Fighting/Action"},
+    {u"@ADV", u"어드벤처", u"Adventure", u"Adventure"},
+    {u"@RPG", u"롤플레잉", u"RPG", u"RPG"},
+    {u"@SHT", u"슈팅", u"Shooter", u"Shooting"},
+    {u"@SPT", u"스포츠/레이싱", u"Sports/Racing", u"Sports/Racing"},
+    {u"@PUZ", u"보드/퍼즐", u"Board/Puzzle", u"Board/Puzzle"},
+    {u"@SLG", u"시뮬레이션", u"Simulation", u"Simulation"},
+}};
+constexpr OldGenre kOtherGenre{u"", u"기타", u"ETC", u"ETC"};
+
+QString GenreFileName(GenreFile which)
+{
+    return which == GenreFile::Korean ? u"GenreK.dat"_s : u"GenreE.dat"_s;
+}
+
+bool IsFieldBreak(QChar c)
+{
+    return (c >= u'\x0001' && c <= u'\x0003') || c == u'\r' || c == u'\n';
+}
+
+QString TrimBlanks(const QString& text)
+{
+    qsizetype start = 0;
+    qsizetype end = text.size();
+    while (start < end && text[start] == u' ') {
+        ++start;
+    }
+    while (end > start && text[end - 1] == u' ') {
+        --end;
+    }
+    return text.mid(start, end - start);
+}
+
+QString InfoFileText(const InfoText& info)
+{
+    QString text = CleanField(info.titles.first) + kTitleSeparator +
+                   CleanField(info.titles.second) + u"\r\n"_s;
+    if (!info.description.isEmpty()) {
+        // A text box separates its lines by LF, files of this system by CR LF.
+        QString description = info.description;
+        description.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
+        text += description.replace(u'\n', u"\r\n"_s) + u"\r\n"_s;
+    }
+    return text;
+}
+
+/// The first line; empty for an empty file; nullopt if the file is not there or can't be read.
+std::optional<QString> FirstLine(const GameFiles& files, const QString& name)
+{
+    if (!files.HasMetaFile(name)) {
+        return std::nullopt;
+    }
+    const auto lines = platform::ReadFirstLines(files.MetaPath(name), 1);
+    return lines ? std::optional(lines.Value().value(0)) : std::nullopt;
+}
+
+QString ReadGenreFile(GameFiles& files, GenreFile which, QStringView missing, Troubles& troubles)
+{
+    const QString name = GenreFileName(which);
+    if (const std::optional<QString> line = FirstLine(files, name)) {
+        return CleanField(*line);
+    }
+    if (files.meta.exists && !files.HasMetaFile(name)) {
+        const platform::Done written = WriteNewFile(files.MetaPath(name), {missing.toString()});
+        troubles.AddIfFailed(written);
+        if (written) {
+            files.NoteMetaFile(name);
+        }
+    }
+    return missing.toString();
+}
+
+/// Writes both genre files by the old code and drops Extra.dat.
+Genres ConvertOldGenre(GameFiles& files, const QString& code, GenreForm form, Troubles& troubles)
+{
+    const auto hit = std::find_if(kOldGenres.begin(), kOldGenres.end(), [&](const OldGenre& genre) {
+        return genre.code == code;
+    });
+    const OldGenre& genre = hit == kOldGenres.end() ? kOtherGenre : *hit;
+    const QStringView english =
+        form == GenreForm::Scan ? genre.englishAtScan : genre.englishInPanel;
+    const Genres genres{genre.korean.toString(), english.toString()};
+
+    const platform::Done korean = WriteGenre(files, GenreFile::Korean, genres.korean);
+    const platform::Done second = WriteGenre(files, GenreFile::English, genres.english);
+    troubles.AddIfFailed(korean);
+    troubles.AddIfFailed(second);
+    if (!korean || !second) {
+        return genres;
+    }
+    const QString name = files.meta.Find(u"Extra.dat"_s);
+    QFile old(files.MetaPath(name));
+    if (old.remove()) {
+        files.ForgetMetaFile(name);
+    } else {
+        troubles.Add(platform::Error{
+            platform::ErrorKind::Unwritable, u"%1: %2"_s.arg(old.fileName(), old.errorString())});
+    }
+    return genres;
+}
+
+platform::Done WriteMetaLines(GameFiles& files, const QString& name, const QStringList& lines)
+{
+    const platform::Done made = MakeMetaDir(files);
+    if (!made) {
+        return made;
+    }
+    const platform::Done written = platform::WriteLines(files.MetaPath(name), lines);
+    if (written && !files.HasMetaFile(name)) {
+        files.NoteMetaFile(name);
+    }
+    return written;
+}
+
+} // namespace
+
+QString CleanField(const QString& text)
+{
+    if (std::none_of(text.begin(), text.end(), IsFieldBreak)) {
+        return text;
+    }
+    QString clean = text;
+    clean.removeIf(IsFieldBreak);
+    return clean;
+}
+
+Titles SplitTitleLine(const QString& line, const QString& folder)
+{
+    const bool blank = std::all_of(
+        line.begin(), line.end(), [](QChar c) { return c == u' ' || c == kTitleSeparator; });
+    if (blank) {
+        return Titles{CleanField(folder), CleanField(folder)};
+    }
+    const QStringList pieces = line.split(kTitleSeparator);
+    return Titles{CleanField(pieces[0]), CleanField(pieces.value(1, pieces[0]))};
+}
+
+Titles ReadTitles(const GameFiles& files)
+{
+    // A folder's name is no title line: there is nothing in it to split.
+    return SplitTitleLine(FirstLine(files, u"info.txt"_s).value_or(QString()), files.folder);
+}
+
+InfoText ReadInfo(const GameFiles& files)
+{
+    if (!files.HasMetaFile(u"info.txt"_s)) {
+        return InfoText{};
+    }
+    const auto lines = platform::ReadLines(files.MetaPath(u"info.txt"_s));
+    if (!lines || lines.Value().isEmpty()) {
+        return InfoText{};
+    }
+    const QStringList pieces = lines.Value()[0].split(kTitleSeparator);
+    InfoText info;
+    if (pieces.size() == 1) {
+        info.titles.first = TrimBlanks(CleanField(pieces[0]));
+        info.titles.second = info.titles.first;
+    } else {
+        info.titles = Titles{CleanField(pieces[0]), CleanField(pieces[1])};
+    }
+    info.description = lines.Value().mid(1).join(u"\r\n"_s);
+    return info;
+}
+
+QString LostInInfo(const InfoText& info)
+{
+    return platform::EncodeCp949(InfoFileText(info)).lost;
+}
+
+platform::Done WriteInfo(GameFiles& files, const InfoText& info, Loss loss)
+{
+    const platform::Done made = MakeMetaDir(files);
+    if (!made) {
+        return made;
+    }
+    const QString name = u"info.txt"_s;
+    const QString path = files.MetaPath(name);
+    const QString text = InfoFileText(info);
+    const platform::Done written =
+        loss == Loss::Refuse ? platform::WriteText(path, text)
+                             : platform::WriteBytes(path, platform::EncodeCp949(text).bytes);
+    if (written && !files.HasMetaFile(name)) {
+        files.NoteMetaFile(name);
+    }
+    return written;
+}
+
+Facts ReadFacts(const GameFiles& files)
+{
+    if (!files.HasMetaFile(u"ExtraInfo.txt"_s)) {
+        return Facts{};
+    }
+    const QStringList lines =
+        platform::ReadFirstLines(files.MetaPath(u"ExtraInfo.txt"_s), 4).ValueOr({});
+    return Facts{
+        CleanField(lines.value(0)),
+        CleanField(lines.value(1)),
+        CleanField(lines.value(2)),
+        CleanField(lines.value(3))};
+}
+
+platform::Done WriteFacts(GameFiles& files, const Facts& facts)
+{
+    return WriteMetaLines(
+        files,
+        u"ExtraInfo.txt"_s,
+        {CleanField(facts.Maker),
+         CleanField(facts.Release),
+         CleanField(facts.GameLanguage),
+         CleanField(facts.Country)});
+}
+
+platform::Done DeleteFacts(GameFiles& files)
+{
+    const QString name = files.meta.Find(u"ExtraInfo.txt"_s);
+    if (name.isEmpty()) {
+        return platform::Success();
+    }
+    QFile file(files.MetaPath(name));
+    if (!file.remove() && file.exists()) {
+        return platform::Error{
+            platform::ErrorKind::Unwritable, u"%1: %2"_s.arg(file.fileName(), file.errorString())};
+    }
+    files.ForgetMetaFile(name);
+    return platform::Success();
+}
+
+Genres ReadGenres(GameFiles& files, GenreForm form, Troubles& troubles)
+{
+    if (const std::optional<QString> code = FirstLine(files, u"Extra.dat"_s)) {
+        return ConvertOldGenre(files, *code, form, troubles);
+    }
+    return Genres{
+        ReadGenreFile(files, GenreFile::Korean, kOtherGenre.korean, troubles),
+        ReadGenreFile(files, GenreFile::English, kOtherGenre.englishAtScan, troubles)};
+}
+
+platform::Done WriteGenre(GameFiles& files, GenreFile which, const QString& genre)
+{
+    return WriteMetaLines(files, GenreFileName(which), {CleanField(genre)});
+}
+
+std::int16_t ReadBuild(const GameFiles& files, std::int16_t defaultBuild)
+{
+    if (!files.HasMetaFile(u"edit.conf"_s)) {
+        return defaultBuild;
+    }
+    const auto lines = platform::ReadFirstLines(files.MetaPath(u"edit.conf"_s), 2);
+    if (!lines) {
+        return defaultBuild;
+    }
+    using Limits = std::numeric_limits<std::int16_t>;
+    const std::int32_t build = platform::IntegerPrefix(lines.Value().value(1));
+    return static_cast<std::int16_t>(std::clamp<std::int32_t>(build, Limits::min(), Limits::max()));
+}
+
+} // namespace pelorin::library

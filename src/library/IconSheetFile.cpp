@@ -1,0 +1,196 @@
+#include "library/IconSheetFile.h"
+
+#include <QFile>
+#include <QSaveFile>
+#include <QtEndian>
+
+#include <algorithm>
+#include <cstring>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::library {
+
+namespace {
+
+constexpr int kHeaderBytes = 54; // file header 14, information header 40
+constexpr int kInfoHeaderBytes = 40;
+constexpr int kBytesAPixel = 3;
+constexpr int kPixelsAMetre = 2835; // 72 a inch, what FreeImage gives a new picture
+constexpr int kIconRowBytes = kLargeIcon * kBytesAPixel;
+
+/// A band is one row of cells.
+int BandsOf(int count)
+{
+    return (count - 1) / kSheetColumns + 1;
+}
+
+/// Rows are a multiple of 96 bytes long, so they need no filling up to a multiple of 4.
+qint64 BandBytesOf(SheetSize size)
+{
+    return qint64{size.width} * kBytesAPixel * kLargeIcon;
+}
+
+/// Where a band begins in the file. The lowest comes first.
+qint64 BandOffset(SheetSize size, int band)
+{
+    const int below = size.height / kLargeIcon - 1 - band;
+    return kHeaderBytes + below * BandBytesOf(size);
+}
+
+QByteArray HeaderOf(SheetSize size)
+{
+    QByteArray header(kHeaderBytes, '\0');
+    const auto put16 = [&](int at, quint16 value) { qToLittleEndian(value, header.data() + at); };
+    const auto put32 = [&](int at, qint64 value) {
+        qToLittleEndian(static_cast<quint32>(value), header.data() + at);
+    };
+    header.replace(0, 2, "BM");
+    put32(2, kHeaderBytes + BandBytesOf(size) * (size.height / kLargeIcon));
+    put32(10, kHeaderBytes);
+    put32(14, kInfoHeaderBytes);
+    put32(18, size.width);
+    put32(22, size.height);
+    put16(26, 1); // planes
+    put16(28, 8 * kBytesAPixel);
+    put32(38, kPixelsAMetre);
+    put32(42, kPixelsAMetre);
+    return header;
+}
+
+/// Of the header only what tells where the pixels are; others may have written it.
+bool IsSheetHeader(const QByteArray& header, SheetSize size)
+{
+    const auto at16 = [&](int at) { return qFromLittleEndian<quint16>(header.constData() + at); };
+    const auto at32 = [&](int at) { return qFromLittleEndian<qint32>(header.constData() + at); };
+    return header.size() == kHeaderBytes && header.startsWith("BM") && at32(10) == kHeaderBytes &&
+           at32(14) == kInfoHeaderBytes && at32(18) == size.width && at32(22) == size.height &&
+           at16(28) == 8 * kBytesAPixel && at32(30) == 0;
+}
+
+/// Where a row of an icon lies in its band, whose rows go from the bottom up.
+qsizetype RowOffset(SheetSize size, int column, int y)
+{
+    const qsizetype line = kLargeIcon - 1 - y;
+    return line * size.width * kBytesAPixel + qsizetype{column} * kIconRowBytes;
+}
+
+IconPixels CutIcon(const QByteArray& band, SheetSize size, int column)
+{
+    IconPixels icon{kLargeIcon, QByteArray(kLargeIcon * kIconRowBytes, Qt::Uninitialized)};
+    char* to = icon.bgr.data();
+    for (int y = 0; y < kLargeIcon; ++y, to += kIconRowBytes) {
+        std::memcpy(to, band.constData() + RowOffset(size, column, y), kIconRowBytes);
+    }
+    return icon;
+}
+
+QByteArray BandOf(
+    const IconSheet& icons, const std::vector<int>& positions, SheetSize size, int band)
+{
+    QByteArray bytes(BandBytesOf(size), '\0');
+    const int first = band * kSheetColumns;
+    const int end = std::min(first + kSheetColumns, static_cast<int>(positions.size()));
+    for (int n = first; n < end; ++n) {
+        const IconPixels& icon = icons.Large(positions[static_cast<std::size_t>(n)]);
+        if (icon.side != kLargeIcon) {
+            continue;
+        }
+        const char* from = icon.bgr.constData();
+        for (int y = 0; y < kLargeIcon; ++y, from += kIconRowBytes) {
+            std::memcpy(bytes.data() + RowOffset(size, n - first, y), from, kIconRowBytes);
+        }
+    }
+    return bytes;
+}
+
+platform::Error FileError(platform::ErrorKind kind, const QFileDevice& file)
+{
+    return platform::Error{kind, u"%1: %2"_s.arg(file.fileName(), file.errorString())};
+}
+
+} // namespace
+
+SheetSize SheetSizeOf(int count)
+{
+    const int bands = BandsOf(count);
+    const int columns = bands > 1 ? kSheetColumns : (count - 1) % kSheetColumns + 1;
+    return SheetSize{columns * kLargeIcon, bands * kLargeIcon};
+}
+
+platform::Outcome<IconSheet> ReadIconSheet(const QString& path, int count, ScanProgress& progress)
+{
+    using platform::Error;
+    using platform::ErrorKind;
+    const SheetSize size = SheetSizeOf(count);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        return FileError(file.exists() ? ErrorKind::Unreadable : ErrorKind::NotFound, file);
+    }
+    const qint64 wanted = kHeaderBytes + BandBytesOf(size) * (size.height / kLargeIcon);
+    if (file.size() < wanted || !IsSheetHeader(file.read(kHeaderBytes), size)) {
+        return Error{ErrorKind::Malformed, u"%1: not the sheet of %2 icons"_s.arg(path).arg(count)};
+    }
+    IconSheet icons;
+    ProgressSteps steps(progress, Phase::LoadingIcons, count);
+    QByteArray band;
+    for (int n = 0; n < count; ++n) {
+        const int column = n % kSheetColumns;
+        if (column == 0) {
+            file.seek(BandOffset(size, n / kSheetColumns));
+            band = file.read(BandBytesOf(size));
+            if (band.size() != BandBytesOf(size)) {
+                return FileError(ErrorKind::Unreadable, file);
+            }
+        }
+        icons.Append(CutIcon(band, size, column));
+        if (!steps.At(n)) {
+            return Error{ErrorKind::Abandoned, path};
+        }
+    }
+    return icons;
+}
+
+bool IconSheetIsCurrent(
+    const QString& path, const IconSheet& icons, const std::vector<int>& positions)
+{
+    const SheetSize size = SheetSizeOf(static_cast<int>(positions.size()));
+    const int bands = size.height / kLargeIcon;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) ||
+        file.size() != kHeaderBytes + BandBytesOf(size) * bands ||
+        file.read(kHeaderBytes) != HeaderOf(size)) {
+        return false;
+    }
+    for (int band = bands - 1; band >= 0; --band) {
+        if (file.read(BandBytesOf(size)) != BandOf(icons, positions, size, band)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+platform::Done WriteIconSheet(
+    const QString& path,
+    const IconSheet& icons,
+    const std::vector<int>& positions,
+    const std::function<platform::Done()>& beforeReplacing)
+{
+    const SheetSize size = SheetSizeOf(static_cast<int>(positions.size()));
+    QSaveFile file(path);
+    bool written = file.open(QIODevice::WriteOnly) && file.write(HeaderOf(size)) == kHeaderBytes;
+    for (int band = size.height / kLargeIcon - 1; written && band >= 0; --band) {
+        written = file.write(BandOf(icons, positions, size, band)) == BandBytesOf(size);
+    }
+    if (!written || !file.flush()) {
+        return FileError(platform::ErrorKind::Unwritable, file);
+    }
+    const platform::Done ready = beforeReplacing();
+    if (!ready) {
+        return ready;
+    }
+    return file.commit() ? platform::Success()
+                         : platform::Done(FileError(platform::ErrorKind::Unwritable, file));
+}
+
+} // namespace pelorin::library

@@ -1,0 +1,31 @@
+#include "library/private/NewFile.h"
+
+#include "platform/TextFile.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::library {
+
+platform::Done WriteNewFile(const QString& path, const QStringList& lines)
+{
+    using platform::Error;
+    using platform::ErrorKind;
+    const platform::Encoded text = platform::EncodeCp949(lines.join(u"\r\n"_s) + u"\r\n"_s);
+    if (!text.lost.isEmpty()) {
+        return Error{ErrorKind::Unencodable, u"%1: %2"_s.arg(path, text.lost)};
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+        return Error{ErrorKind::Unwritable, u"%1: %2"_s.arg(path, file.errorString())};
+    }
+    if (file.write(text.bytes) != text.bytes.size() || !file.flush()) {
+        const QString reason = file.errorString();
+        file.remove();
+        return Error{ErrorKind::Unwritable, u"%1: %2"_s.arg(path, reason)};
+    }
+    return platform::Success();
+}
+
+} // namespace pelorin::library
