@@ -1,0 +1,107 @@
+#pragma once
+
+#include "finding/GameList.h"
+#include "shell/MenuModel.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+namespace pelorin::forms {
+
+/// What the user does, one call a deed, named after the control and the event. main wires each to
+/// a command. The form has written the models before it calls: the list's selection, the text of
+/// the search box, the selected row of lstAutoexec ...
+/// A deed that is not set has no command yet: its control is shown and disabled.
+struct Deeds {
+    using Deed = std::function<void()>;
+    using IndexDeed = std::function<void(int index)>;
+    using CheckDeed = std::function<void(bool checked)>;
+    using Menu = std::function<shell::MenuModel()>;
+
+    // The list. ItemClick follows each change of the selection, SelectionMoved comes when it rests:
+    // on the release of a mouse button or key, and every 60 ms while a key repeats.
+    Deed LVGamelist_ItemClick;
+    Deed LVGamelist_SelectionMoved;
+    Deed LVGamelist_DblClick; // Enter as well
+    Deed LVGamelist_Delete;
+    Menu mnuGame;
+    IndexDeed mnuGame_Click;
+    IndexDeed LVGamelist_ColumnClick;
+    std::function<void(const QStringList& paths)> LVGamelist_DragDrop;
+    Deed FocusTitle;       // F2
+    Deed RenameGameFolder; // F4, and panel 2 of the status bar
+    Deed OpenDetails;      // F6
+
+    // The toolbar.
+    Deed cmdRun_Click; // element 0; element 1 opens mnuRun
+    Menu mnuRun;
+    IndexDeed mnuRun_Click;
+    Menu mnuFolder; // of cmdOpenFolder
+    IndexDeed mnuFolder_Click;
+    Deed cmdRefresh_Click; // F5 as well
+    std::function<void(finding::View view)> optViewmode_Click;
+    Deed Picture2_Click;
+    Deed cmdFind_Click; // Enter as well
+    Deed txtFind_Esc;   // the box is empty by then
+    Deed cmdFind_Esc;
+    Deed picAddGame_Click;
+    Menu mnuDownload; // its right button
+    IndexDeed mnuDownload_Click;
+    std::function<void(const QStringList& paths)> picAddGame_DragDrop;
+    Deed cmdVespra_Click;
+
+    // The tree. `child` is the node's place below its category.
+    std::function<void(const QString& rootKey, int child, bool checked)> TreeView1_NodeCheck;
+
+    // The right panel.
+    IndexDeed tabInfo_Click; // counted from 1; frame.tabInfo holds it
+    Deed cmdSaveInfo_Click;
+    IndexDeed cmdIcon_Click;
+    Menu mnuGenreK;
+    IndexDeed mnuGenreK_Click;
+    Menu mnuGenreE;
+    IndexDeed mnuGenreE_Click;
+
+    // The start page.
+    Deed cmdAddExec_Click;
+    Deed cmdAddEmpty_Click;
+    Deed cmdDelete_Click;
+    Deed cmdUp_Click;
+    Deed cmdDown_Click;
+    IndexDeed lstAutoexec_DblClick; // the row
+    Deed cmdSaveExec_Click;
+    IndexDeed fileEXE_DblClick; // the row
+    CheckDeed chkCD_Click;
+    CheckDeed chkMountCD_Click;
+    IndexDeed mnuCD_Click; // 0 the game's folder, 1 images
+    Deed cmdSaveCD_Click;
+
+    // The settings page.
+    Deed cmdSetPos_Click;
+    Deed cmdRememberPos_Click;
+    IndexDeed cmdMoveDosbox_Click; // 0 up, 1 left, 2 right, 3 down
+    Deed cmdCompact_Click;
+    Deed cmdFolderCFG_Click;
+    Deed cmdUpdate_Click;
+
+    // The tools page.
+    IndexDeed cmdDownloadTools_Click;
+
+    // The status bar: 2 the folder, 3 the count. The form itself shows the notes of 4.
+    IndexDeed SBDirectory_PanelClick;
+
+    /// The window is about to close; false keeps it open. Not set: it closes.
+    std::function<bool()> Form_Unload;
+};
+
+template <class... Args>
+void Do(const std::function<void(Args...)>& deed, std::type_identity_t<Args>... args)
+{
+    if (deed) {
+        deed(args...);
+    }
+}
+
+} // namespace pelorin::forms

@@ -1,0 +1,114 @@
+#include "forms/QtPrompts.h"
+
+#include "forms/OwnTexts.h"
+#include "forms/frmOutput.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <algorithm>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::forms {
+
+using platform::Answer;
+using platform::Buttons;
+
+namespace {
+
+QMessageBox::Icon IconOf(platform::BoxIcon icon)
+{
+    switch (icon) {
+    case platform::BoxIcon::Information: return QMessageBox::Information;
+    case platform::BoxIcon::Question: return QMessageBox::Question;
+    case platform::BoxIcon::Exclamation: return QMessageBox::Warning;
+    case platform::BoxIcon::None: break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+struct Choice {
+    Answer answer;
+    const OwnEntry& words;
+    QMessageBox::ButtonRole role;
+};
+
+// The last one is also the answer of a box that is closed.
+std::vector<Choice> ChoicesOf(Buttons buttons)
+{
+    switch (buttons) {
+    case Buttons::OkCancel:
+        return {
+            {Answer::Ok, kOwnOk, QMessageBox::AcceptRole},
+            {Answer::Cancel, kOwnCancel, QMessageBox::RejectRole}};
+    case Buttons::YesNo:
+        return {
+            {Answer::Yes, kOwnYes, QMessageBox::YesRole},
+            {Answer::No, kOwnNo, QMessageBox::NoRole}};
+    case Buttons::Ok: break;
+    }
+    return {{Answer::Ok, kOwnOk, QMessageBox::AcceptRole}};
+}
+
+} // namespace
+
+QString QtPrompts::Words(const OwnEntry& own) const
+{
+    return m_lang != nullptr ? Own(*m_lang, own) : QString::fromUtf16(own.english);
+}
+
+QWidget* QtPrompts::Parent() const
+{
+    QWidget* const modal = QApplication::activeModalWidget();
+    if (modal != nullptr) {
+        return modal;
+    }
+    return m_parent != nullptr && m_parent->isVisible() ? m_parent.data() : nullptr;
+}
+
+Answer QtPrompts::Ask(const platform::MessageBox& box)
+{
+    QMessageBox dialog(IconOf(box.icon), box.title, box.text, QMessageBox::NoButton, Parent());
+    // Names and paths come from anywhere and are shown as they stand.
+    dialog.setTextFormat(Qt::PlainText);
+    const std::vector<Choice> choices = ChoicesOf(box.buttons);
+    std::vector<QPushButton*> buttons;
+    for (const Choice& choice : choices) {
+        buttons.push_back(dialog.addButton(Words(choice.words), choice.role));
+    }
+    dialog.setDefaultButton(buttons.front());
+    dialog.setEscapeButton(buttons.back());
+    dialog.exec();
+    const auto clicked = std::find(buttons.begin(), buttons.end(), dialog.clickedButton());
+    return clicked == buttons.end()
+               ? choices.back().answer
+               : choices[static_cast<std::size_t>(clicked - buttons.begin())].answer;
+}
+
+QString QtPrompts::InputText(const QString& prompt, const QString& title, const QString& preset)
+{
+    QInputDialog dialog(Parent());
+    dialog.setWindowTitle(title);
+    dialog.setLabelText(prompt);
+    dialog.setTextValue(preset);
+    dialog.setOkButtonText(Words(kOwnOk));
+    dialog.setCancelButtonText(Words(kOwnCancel));
+    return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
+}
+
+QString QtPrompts::ChooseFolder(const QString& title, const QString& start)
+{
+    return QFileDialog::getExistingDirectory(Parent(), title, start);
+}
+
+void QtPrompts::ShowReport(const QString& title, const QString& text)
+{
+    frmOutput(frmOutput::Words{title, text, Words(kOwnOk)}, Parent()).exec();
+}
+
+} // namespace pelorin::forms
