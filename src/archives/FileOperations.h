@@ -23,7 +23,7 @@ bool FolderExists(const QString& path);
 
 /// Removes a file, a read-only one too; in the last part "*" and "?" stand for any text and any one
 /// character, and "*.*" for every file, hidden ones and ones without a point too. Folders and links
-/// to folders stay. With wildcards nothing found is a success, without NotFound. A file whose name
+/// to folders stay. Finding nothing is a success with wildcards, without them NotFound. A file whose name
 /// really is the given text is taken alone.
 platform::Done DeleteFile(const QString& path);
 

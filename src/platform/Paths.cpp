@@ -158,7 +158,7 @@ std::optional<QString> FindPath(const QString& base, const QString& relative)
     for (const QString& part : parts) {
         QString next = path + u'/' + part;
         if (part != u".."_s && part != u"."_s && !QFileInfo::exists(next)) {
-            const QString found = ListFolder(path).Find(part);
+            const QString found = ListFolder(path.isEmpty() ? u"/"_s : path).Find(part);
             if (found.isEmpty()) {
                 return std::nullopt;
             }

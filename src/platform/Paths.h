@@ -43,7 +43,7 @@ struct Listing {
 Listing ListFolder(const QString& path);
 
 /// Walks `relative` (either separator) below the native folder `base`, each part without regard to
-/// case. nullopt if a part is missing.
+/// case. nullopt if a part is missing. An empty base is the root, for absolute paths.
 std::optional<QString> FindPath(const QString& base, const QString& relative);
 
 /// As FindPath, for paths that may be about to be created: parts that exist take their spelling on

@@ -34,7 +34,7 @@ private:
 };
 
 /// Error: NotFound or Unreadable with the path, or Malformed with the path and the first missing
-/// line ("/opt/pelorin/Language.dat:12: ...").
+/// line ("/opt/pelorin/Language.dat: line 12: ...").
 platform::Outcome<LangTable> ReadLanguageFile(const QString& path);
 
 } // namespace pelorin::shell

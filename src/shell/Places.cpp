@@ -8,12 +8,12 @@ namespace pelorin::shell {
 
 QString Places::DefaultGamesRoot() const
 {
-    return appDir + u"/Games"_s;
+    return InAppDir(u"Games"_s);
 }
 
 QString Places::DefaultExportRoot() const
 {
-    return appDir + u"/Export"_s;
+    return InAppDir(u"Export"_s);
 }
 
 QString Places::InAppDir(const QString& relative) const

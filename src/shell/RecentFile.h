@@ -20,7 +20,7 @@ RecentList ParseRecent(const QStringList& lines);
 QStringList RecentLines(const RecentList& recent);
 
 /// Puts a started game at the head. A game that the list holds already moves up with the title it
-/// has there; otherwise the first free place, or the last entry, makes room.
+/// has there; otherwise the first free place, or the last entry, makes room. An empty folder changes nothing.
 void AddRecent(RecentList& recent, const QString& folder, const QString& title);
 
 /// Reads the recent file below AppDir; a missing one is made with one empty line.

@@ -10,11 +10,12 @@
 
 namespace pelorin::shell {
 
-/// What Launcher.cfg and the recent file gave. The roots exist and are native absolute paths.
+/// What Launcher.cfg and the recent file gave. The roots are native absolute paths and exist; only a
+/// default whose place holds a link that leads nowhere now (an unplugged disk) is left as it is.
 struct LoadedSettings {
     LauncherCfg cfg;
     RecentList recent;
-    QStringList lostRoots;     // roots of the file that are not there now; defaults stand in
+    QStringList lostRoots;     // as the file names them: not there now, so defaults stand in
     QString replacementReason; // why Launcher.cfg was replaced by the defaults; empty: it was not
 };
 
@@ -32,7 +33,7 @@ platform::Outcome<LoadedSettings> LoadSettingsFiles(const Places& places);
 platform::Done SaveSettingsFiles(
     const Places& places, const LauncherCfg& cfg, const RecentList& recent);
 
-/// Launcher.cfg as a first start has it, and the two default root folders.
+/// Writes Launcher.cfg as a first start has it and makes the two default root folders.
 platform::Done WriteDefaultSettings(const Places& places);
 
 } // namespace pelorin::shell

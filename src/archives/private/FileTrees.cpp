@@ -1,0 +1,433 @@
+#include "archives/private/FileTrees.h"
+
+#include <QFile>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <climits>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::archives {
+
+using platform::Done;
+using platform::Error;
+using platform::ErrorKind;
+using platform::Outcome;
+using platform::Success;
+
+namespace {
+
+constexpr mode_t kModeBits = 07777;
+
+Error Fault(ErrorKind kind, const QByteArray& path, const QString& reason)
+{
+    return Error{kind, u"%1: %2"_s.arg(QFile::decodeName(path), reason)};
+}
+
+/// What the system says about the call that has just failed.
+Error SystemFault(ErrorKind kind, const QByteArray& path)
+{
+    const int reason = errno;
+    return Fault(reason == ENOENT ? ErrorKind::NotFound : kind, path, qt_error_string(reason));
+}
+
+class Descriptor {
+public:
+    explicit Descriptor(int descriptor)
+        : m_descriptor(descriptor)
+    {}
+    ~Descriptor()
+    {
+        if (m_descriptor >= 0) {
+            close(m_descriptor);
+        }
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    int Get() const { return m_descriptor; }
+    bool Ok() const { return m_descriptor >= 0; }
+
+private:
+    int m_descriptor;
+};
+
+struct CloseDirectory {
+    void operator()(DIR* directory) const { closedir(directory); }
+};
+
+bool MayGoOn(const KeepGoing& keepGoing)
+{
+    return !keepGoing || keepGoing();
+}
+
+Error GivenUp(const QByteArray& path)
+{
+    return Fault(ErrorKind::Abandoned, path, u"given up"_s);
+}
+
+using Visit = std::function<Done(const QByteArray& path, const struct stat& status)>;
+
+/// `before` is called for each thing of the tree, a folder ahead of what it holds; `after` for each
+/// folder behind that. Stops at the first error.
+// NOLINTNEXTLINE(misc-no-recursion)
+Done Walk(const QByteArray& path, const Visit& before, const Visit& after)
+{
+    struct stat status = {};
+    if (lstat(path.constData(), &status) != 0) {
+        return SystemFault(ErrorKind::Unreadable, path);
+    }
+    Done done = before(path, status);
+    if (!done || !S_ISDIR(status.st_mode)) {
+        return done;
+    }
+    const Outcome<QList<QByteArray>> names = NamesIn(path);
+    if (!names) {
+        return names.Failure();
+    }
+    for (const QByteArray& name : names.Value()) {
+        done = Walk(path + '/' + name, before, after);
+        if (!done) {
+            return done;
+        }
+    }
+    return after(path, status);
+}
+
+Done Nothing(const QByteArray& /*path*/, const struct stat& /*status*/)
+{
+    return Success();
+}
+
+QByteArray ParentOf(const QByteArray& path)
+{
+    const qsizetype slash = path.lastIndexOf('/');
+    return slash > 0 ? path.left(slash) : QByteArray("/");
+}
+
+/// A folder on another device than the one that the tree lies in is a mount point.
+class OneFileSystem {
+public:
+    explicit OneFileSystem(const QByteArray& root)
+    {
+        m_ok = stat(ParentOf(root).constData(), &m_parent) == 0;
+    }
+
+    Done Check(const QByteArray& path, const struct stat& status) const
+    {
+        if (m_ok && S_ISDIR(status.st_mode) && status.st_dev != m_parent.st_dev) {
+            return Fault(ErrorKind::Refused, path, u"is another file system"_s);
+        }
+        return Success();
+    }
+
+private:
+    struct stat m_parent = {};
+    bool m_ok = false;
+};
+
+bool WriteAll(int descriptor, const char* bytes, ssize_t count)
+{
+    while (count > 0) {
+        const ssize_t written = write(descriptor, bytes, static_cast<std::size_t>(count));
+        if (written < 0 && errno != EINTR) {
+            return false;
+        }
+        bytes += written > 0 ? written : 0;
+        count -= written > 0 ? written : 0;
+    }
+    return true;
+}
+
+Done CopyBytes(
+    const Descriptor& in,
+    const Descriptor& out,
+    const QByteArray& from,
+    const QByteArray& to,
+    const KeepGoing& keepGoing)
+{
+    constexpr std::size_t kBlock = 1 << 20;
+    std::vector<char> block(kBlock);
+    while (true) {
+        if (!MayGoOn(keepGoing)) {
+            return GivenUp(from);
+        }
+        const ssize_t count = read(in.Get(), block.data(), kBlock);
+        if (count == 0) {
+            return Success();
+        }
+        if (count < 0 && errno != EINTR) {
+            return SystemFault(ErrorKind::Unreadable, from);
+        }
+        if (count > 0 && !WriteAll(out.Get(), block.data(), count)) {
+            return SystemFault(ErrorKind::Unwritable, to);
+        }
+    }
+}
+
+/// Mode and time last, since a read-only mode would refuse what comes before.
+bool TakeOver(int descriptor, const struct stat& status)
+{
+    const timespec times[2] = {status.st_atim, status.st_mtim};
+    return fchmod(descriptor, status.st_mode & kModeBits) == 0 &&
+           futimens(descriptor, static_cast<const timespec*>(times)) == 0;
+}
+
+Done FillCopy(
+    const Descriptor& out, const QByteArray& from, const QByteArray& to, const KeepGoing& keepGoing)
+{
+    // Opening a pipe would wait for its other end.
+    const Descriptor in(open(from.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat status = {};
+    if (!in.Ok() || fstat(in.Get(), &status) != 0) {
+        return SystemFault(ErrorKind::Unreadable, from);
+    }
+    if (!S_ISREG(status.st_mode)) {
+        return Fault(ErrorKind::Refused, from, u"is no plain file"_s);
+    }
+    Done copied = CopyBytes(in, out, from, to, keepGoing);
+    if (!copied) {
+        return copied;
+    }
+    struct stat arrived = {};
+    if (fstat(out.Get(), &arrived) != 0 || !TakeOver(out.Get(), status)) {
+        return SystemFault(ErrorKind::Unwritable, to);
+    }
+    if (arrived.st_size != status.st_size) {
+        return Fault(ErrorKind::Unwritable, to, u"the copy has another length"_s);
+    }
+    return Success();
+}
+
+Done CopyLink(const QByteArray& from, const QByteArray& to)
+{
+    QByteArray target(PATH_MAX, '\0');
+    const ssize_t length =
+        readlink(from.constData(), target.data(), static_cast<std::size_t>(target.size()));
+    if (length < 0) {
+        return SystemFault(ErrorKind::Unreadable, from);
+    }
+    target.truncate(length);
+    return symlink(target.constData(), to.constData()) == 0
+               ? Success()
+               : SystemFault(ErrorKind::Unwritable, to);
+}
+
+/// Whatever is no folder, as it is.
+Done CopyThing(
+    const QByteArray& from,
+    const QByteArray& to,
+    const struct stat& status,
+    const KeepGoing& keepGoing)
+{
+    return S_ISLNK(status.st_mode) ? CopyLink(from, to) : CopyOneFile(from, to, keepGoing);
+}
+
+/// Into the folder `to`, which is there and empty.
+Done CopyTree(const QByteArray& from, const QByteArray& to, const KeepGoing& keepGoing)
+{
+    const OneFileSystem mounts(from);
+    const auto placeOf = [&](const QByteArray& path) { return to + path.mid(from.size()); };
+    return Walk(
+        from,
+        [&](const QByteArray& path, const struct stat& status) -> Done {
+            const QByteArray place = placeOf(path);
+            if (!S_ISDIR(status.st_mode)) {
+                return CopyThing(path, place, status, keepGoing);
+            }
+            if (place != to && mkdir(place.constData(), S_IRWXU) != 0) {
+                return SystemFault(ErrorKind::Unwritable, place);
+            }
+            return mounts.Check(path, status);
+        },
+        [&](const QByteArray& path, const struct stat& status) -> Done {
+            const QByteArray place = placeOf(path);
+            const Descriptor folder(open(place.constData(), O_RDONLY | O_CLOEXEC | O_DIRECTORY));
+            return folder.Ok() && TakeOver(folder.Get(), status)
+                       ? Success()
+                       : SystemFault(ErrorKind::Unwritable, place);
+        });
+}
+
+/// Whether everything below `from` stands below `to` with its kind and its length. Events run during
+/// a copy, so the source may have changed meanwhile.
+Done CompareTrees(const QByteArray& from, const QByteArray& to)
+{
+    return Walk(
+        from,
+        [&](const QByteArray& path, const struct stat& status) -> Done {
+            const QByteArray place = to + path.mid(from.size());
+            struct stat arrived = {};
+            const bool same = lstat(place.constData(), &arrived) == 0 &&
+                              (arrived.st_mode & S_IFMT) == (status.st_mode & S_IFMT) &&
+                              (!S_ISREG(status.st_mode) || arrived.st_size == status.st_size);
+            return same ? Success()
+                        : Done(Fault(ErrorKind::Unwritable, path, u"did not arrive whole"_s));
+        },
+        Nothing);
+}
+
+/// On the disk, not only on its way there: the source is deleted next.
+Done Settle(const QByteArray& path)
+{
+    const Descriptor place(open(path.constData(), O_RDONLY | O_CLOEXEC | O_DIRECTORY));
+    return place.Ok() && syncfs(place.Get()) == 0 ? Success()
+                                                  : SystemFault(ErrorKind::Unwritable, path);
+}
+
+Done FillStaging(const QByteArray& from, const QByteArray& staging, const KeepGoing& keepGoing)
+{
+    Done done = CopyTree(from, staging, keepGoing);
+    if (done) {
+        done = CompareTrees(from, staging);
+    }
+    return done ? Settle(staging) : done;
+}
+
+/// The staging folder lies beside the target, so that the last step is one rename.
+Done CopyFolder(const QByteArray& from, const QByteArray& to, const KeepGoing& keepGoing)
+{
+    QByteArray staging = ParentOf(to) + "/.pelorin-XXXXXX";
+    if (mkdtemp(staging.data()) == nullptr) {
+        return SystemFault(ErrorKind::Unwritable, ParentOf(to));
+    }
+    Done done = FillStaging(from, staging, keepGoing);
+    if (done && rename(staging.constData(), to.constData()) != 0) {
+        done = SystemFault(ErrorKind::Unwritable, to);
+    }
+    if (!done) {
+        const Done cleared = RemoveTree(staging);
+        return cleared ? done
+                       : Error{
+                             done.Failure().kind,
+                             done.Failure().text + u"; "_s + cleared.Failure().text};
+    }
+    return done;
+}
+
+Done MoveByCopy(const QByteArray& from, const QByteArray& to, const KeepGoing& keepGoing)
+{
+    struct stat status = {};
+    if (lstat(from.constData(), &status) != 0) {
+        return SystemFault(ErrorKind::Unreadable, from);
+    }
+    Done done = S_ISDIR(status.st_mode) ? CopyFolder(from, to, keepGoing)
+                                        : CopyThing(from, to, status, keepGoing);
+    if (done && !S_ISDIR(status.st_mode)) {
+        done = CompareTrees(from, to);
+    }
+    if (!done) {
+        return done;
+    }
+    done = RemoveTree(from);
+    if (!done) {
+        return Error{
+            done.Failure().kind,
+            u"%1 (the copy in %2 is whole)"_s.arg(done.Failure().text, QFile::decodeName(to))};
+    }
+    return done;
+}
+
+} // namespace
+
+bool Stands(const QByteArray& path)
+{
+    struct stat status = {};
+    return lstat(path.constData(), &status) == 0;
+}
+
+bool Stands(const QString& path)
+{
+    return Stands(QFile::encodeName(path));
+}
+
+Error NoSuchThing(const QString& path)
+{
+    return Error{ErrorKind::NotFound, u"%1: %2"_s.arg(path, qt_error_string(ENOENT))};
+}
+
+Outcome<QList<QByteArray>> NamesIn(const QByteArray& folder)
+{
+    const std::unique_ptr<DIR, CloseDirectory> directory(opendir(folder.constData()));
+    if (!directory) {
+        return SystemFault(ErrorKind::Unreadable, folder);
+    }
+    QList<QByteArray> names;
+    while (const dirent* entry = readdir(directory.get())) {
+        const QByteArray name(static_cast<const char*>(entry->d_name));
+        if (name != "." && name != "..") {
+            names << name;
+        }
+    }
+    return names;
+}
+
+Done RemoveFile(const QByteArray& path)
+{
+    return unlink(path.constData()) == 0 ? Success() : SystemFault(ErrorKind::Unwritable, path);
+}
+
+Done RemoveTree(const QByteArray& path)
+{
+    const OneFileSystem mounts(path);
+    Done done = Walk(
+        path,
+        [&](const QByteArray& thing, const struct stat& status) {
+            // A read-only folder would keep what it holds.
+            if (S_ISDIR(status.st_mode) && (status.st_mode & S_IRWXU) != S_IRWXU) {
+                chmod(thing.constData(), (status.st_mode & kModeBits) | S_IRWXU);
+            }
+            return mounts.Check(thing, status);
+        },
+        Nothing);
+    if (!done) {
+        return done;
+    }
+    return Walk(
+        path,
+        [](const QByteArray& thing, const struct stat& status) {
+            return S_ISDIR(status.st_mode) ? Success() : RemoveFile(thing);
+        },
+        [](const QByteArray& folder, const struct stat& /*status*/) {
+            return rmdir(folder.constData()) == 0
+                       ? Success()
+                       : Done(SystemFault(ErrorKind::Unwritable, folder));
+        });
+}
+
+Done CopyOneFile(const QByteArray& from, const QByteArray& to, const KeepGoing& keepGoing)
+{
+    QByteArray part = ParentOf(to) + "/.pelorin-XXXXXX";
+    const Descriptor out(mkostemp(part.data(), O_CLOEXEC));
+    if (!out.Ok()) {
+        return SystemFault(ErrorKind::Unwritable, ParentOf(to));
+    }
+    Done done = FillCopy(out, from, to, keepGoing);
+    if (done && rename(part.constData(), to.constData()) != 0) {
+        done = SystemFault(ErrorKind::Unwritable, to);
+    }
+    if (!done) {
+        unlink(part.constData());
+    }
+    return done;
+}
+
+Done MoveTree(const QByteArray& from, const QByteArray& to, const KeepGoing& keepGoing)
+{
+    if (rename(from.constData(), to.constData()) == 0) {
+        return Success();
+    }
+    return errno == EXDEV ? MoveByCopy(from, to, keepGoing)
+                          : SystemFault(ErrorKind::Unwritable, to);
+}
+
+} // namespace pelorin::archives

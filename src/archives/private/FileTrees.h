@@ -1,0 +1,38 @@
+#pragma once
+
+#include "archives/FileOperations.h"
+#include "platform/Outcome.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+// Work on whole trees. Paths are bytes here: games come out of archives with names in all kinds of
+// encodings, and a name that is no UTF-8 wouldn't find its file again as a QString. Links are never
+// followed.
+
+namespace pelorin::archives {
+
+/// Whether there is anything at the path, a link that leads nowhere included.
+bool Stands(const QByteArray& path);
+bool Stands(const QString& path);
+
+platform::Error NoSuchThing(const QString& path);
+
+/// The names in a folder without "." and "..", in no order.
+platform::Outcome<QList<QByteArray>> NamesIn(const QByteArray& folder);
+
+platform::Done RemoveFile(const QByteArray& path);
+
+/// Refused, with nothing removed, when another file system is mounted on the folder or in it.
+platform::Done RemoveTree(const QByteArray& path);
+
+/// The content of a file, its mode and its time; `to` is replaced at the end and by a whole copy.
+platform::Done CopyOneFile(
+    const QByteArray& from, const QByteArray& to, const KeepGoing& keepGoing);
+
+/// Moves whatever stands at `from` to `to`, where nothing stands. Over file systems it is copied
+/// under a hidden name, compared, put in place, and then removed.
+platform::Done MoveTree(const QByteArray& from, const QByteArray& to, const KeepGoing& keepGoing);
+
+} // namespace pelorin::archives
