@@ -29,16 +29,17 @@ bool EndsWithSeparator(const QString& path)
 /// The path in its spelling on disk; as given, with slashes, where there is no such thing.
 QString OnDisk(const QString& path)
 {
-    const QString native = platform::NativePath(path);
+    QString native = platform::NativePath(path);
     if (Stands(native) || !QDir::isAbsolutePath(native)) {
         return native;
     }
     return platform::ResolvePath(QString(), native);
 }
 
-bool IsBelowRoot(const QString& path)
+/// An empty name behind a separator, "." or ".." would mean the folder above.
+bool NamesFolder(const QString& path)
 {
-    return QDir::isAbsolutePath(path) && QDir::cleanPath(path) != u"/"_s;
+    return QDir::isAbsolutePath(path) && platform::IsPlainName(platform::LastPathSegment(path));
 }
 
 Error Refusal(const QString& path, const QString& reason)
@@ -97,7 +98,7 @@ Done DeleteMatching(const QString& folder, const QString& pattern)
 /// Where the thing goes: `destination` itself, or its own name below that.
 QString TargetPath(const QString& source, const QString& destination, bool intoFolder)
 {
-    const QString target = OnDisk(destination);
+    QString target = OnDisk(destination);
     if (!intoFolder) {
         return target;
     }
@@ -137,8 +138,8 @@ Done DeleteFile(const QString& path)
     }
     if (name.contains(u'*') || name.contains(u'?')) {
         const QString folder = OnDisk(path.chopped(name.size()));
-        return IsBelowRoot(folder) ? DeleteMatching(folder, name)
-                                   : Refusal(path, u"a folder below the root is needed"_s);
+        return NamesFolder(folder) ? DeleteMatching(folder, name)
+                                   : Refusal(path, u"a whole path below the root is needed"_s);
     }
     return NoSuchThing(found);
 }
@@ -146,8 +147,8 @@ Done DeleteFile(const QString& path)
 Done DeleteFolder(const QString& path)
 {
     const QString folder = OnDisk(path);
-    if (!IsBelowRoot(folder)) {
-        return Refusal(path, u"a folder below the root is needed"_s);
+    if (!NamesFolder(path)) {
+        return Refusal(path, u"a folder's whole path is needed"_s);
     }
     if (!Stands(folder)) {
         return NoSuchThing(folder);

@@ -28,7 +28,8 @@ bool FolderExists(const QString& path);
 platform::Done DeleteFile(const QString& path);
 
 /// Removes a folder with all it holds, read-only things too; a link to a folder as a link. Refused
-/// for a file system's root, an empty or relative path and whatever holds another file system.
+/// for a file system's root, a relative path, one that ends with a separator, "." or "..", and for
+/// whatever holds another file system; nothing is removed then.
 /// Stops at the first thing that can't be removed.
 platform::Done DeleteFolder(const QString& path);
 

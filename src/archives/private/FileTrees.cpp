@@ -174,12 +174,15 @@ Done CopyBytes(
     }
 }
 
-/// Mode and time last, since a read-only mode would refuse what comes before.
-bool TakeOver(int descriptor, const struct stat& status)
+/// Mode and time, last, since a read-only mode would refuse what comes before. Not every file system
+/// can keep them, and a copy without them is whole all the same.
+void TakeOver(const Descriptor& place, const struct stat& status)
 {
     const timespec times[2] = {status.st_atim, status.st_mtim};
-    return fchmod(descriptor, status.st_mode & kModeBits) == 0 &&
-           futimens(descriptor, static_cast<const timespec*>(times)) == 0;
+    if (place.Ok()) {
+        fchmod(place.Get(), status.st_mode & kModeBits);
+        futimens(place.Get(), static_cast<const timespec*>(times));
+    }
 }
 
 Done FillCopy(
@@ -199,12 +202,13 @@ Done FillCopy(
         return copied;
     }
     struct stat arrived = {};
-    if (fstat(out.Get(), &arrived) != 0 || !TakeOver(out.Get(), status)) {
+    if (fstat(out.Get(), &arrived) != 0) {
         return SystemFault(ErrorKind::Unwritable, to);
     }
     if (arrived.st_size != status.st_size) {
         return Fault(ErrorKind::Unwritable, to, u"the copy has another length"_s);
     }
+    TakeOver(out, status);
     return Success();
 }
 
@@ -251,10 +255,9 @@ Done CopyTree(const QByteArray& from, const QByteArray& to, const KeepGoing& kee
         },
         [&](const QByteArray& path, const struct stat& status) -> Done {
             const QByteArray place = placeOf(path);
-            const Descriptor folder(open(place.constData(), O_RDONLY | O_CLOEXEC | O_DIRECTORY));
-            return folder.Ok() && TakeOver(folder.Get(), status)
-                       ? Success()
-                       : SystemFault(ErrorKind::Unwritable, place);
+            TakeOver(
+                Descriptor(open(place.constData(), O_RDONLY | O_CLOEXEC | O_DIRECTORY)), status);
+            return Success();
         });
 }
 
