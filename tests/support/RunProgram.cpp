@@ -79,7 +79,8 @@ QByteArray RunProgram::ReadLine(int timeoutMs)
     for (;;) {
         const qsizetype end = Output().indexOf('\n', m_read);
         if (end >= 0) {
-            const QByteArray line = m_output.mid(m_read, end - m_read);
+            // Never null, which an empty line's would be.
+            const QByteArray line = QByteArray("") + m_output.mid(m_read, end - m_read);
             m_read = end + 1;
             return line;
         }

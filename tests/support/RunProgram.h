@@ -31,7 +31,8 @@ public:
     int ExitCode() const;
     /// What it has printed so far.
     QByteArray Output();
-    /// Waits until the output holds one more whole line than were read before; empty on time-out.
+    /// Waits until the output holds one more whole line than were read before; null on
+    /// time-out or when the program has ended.
     QByteArray ReadLine(int timeoutMs);
 
 private:

@@ -19,7 +19,8 @@ XSession::XSession(const XSessionOptions& options)
     : m_environment(m_home.Environment())
 {
     m_isUp = StartServer(options.screen) && StartWindowManager() && SetFontDpi(options.fontDpi);
-    EXPECT_TRUE(m_isUp) << "no X session; are xvfb, openbox and x11-utils installed?";
+    EXPECT_TRUE(m_isUp) << "no X session; are xvfb, openbox and x11-utils installed? "
+                        << (m_server ? m_server->Output().toStdString() : std::string());
 }
 
 bool XSession::StartServer(const QSize& screen)
@@ -31,9 +32,13 @@ bool XSession::StartServer(const QSize& screen)
         u"Xvfb"_s,
         QStringList{u"-displayfd"_s, u"1"_s, u"-noreset"_s, u"-screen"_s, u"0"_s, size},
         m_environment);
-    const QByteArray number = m_server->ReadLine(kPatienceMs);
+    // Warnings may come first: about the socket of a server that was killed, say.
+    QByteArray number;
     bool isNumber = false;
-    number.toInt(&isNumber);
+    do {
+        number = m_server->ReadLine(kPatienceMs);
+        number.toInt(&isNumber);
+    } while (!isNumber && !number.isNull());
     m_environment.insert(u"DISPLAY"_s, u':' + QString::fromLatin1(number));
     return isNumber;
 }
