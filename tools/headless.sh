@@ -23,6 +23,9 @@ trap stop_started EXIT
 
 fail() {
     echo "run.sh: $*" >&2
+    if [ ${#started[@]} -gt 0 ] && import -window root dist/run.png 2>/dev/null; then
+        echo "What the screen showed: $PWD/dist/run.png; what the program said: $PWD/dist/run.log" >&2
+    fi
     exit 1
 }
 
@@ -84,8 +87,7 @@ start_game_by_keys() {
             sleep 0.2
         done
     done
-    import -window root dist/run.png
-    fail "DOSBox did not open a window; the screen is in dist/run.png, the program's words in dist/run.log"
+    fail "DOSBox did not open a window"
 }
 
 # How many colours besides black the window shows in a picture of the screen.
@@ -115,7 +117,7 @@ play_sample() {
     let_settle 10
     import -window root dist/run.png
     colours=$(colours_of_window dist/run.png "$(dosbox_window)")
-    [ "$colours" -ge 8 ] || fail "the game's window shows $colours colours besides black; see dist/run.png"
+    [ "$colours" -ge 8 ] || fail "the game's window shows $colours colours besides black"
 
     xdotool windowactivate --sync "$(dosbox_window)" key --clearmodifiers ctrl+F9
     wait_for 20 "DOSBox to end" has_no_dosbox_window
