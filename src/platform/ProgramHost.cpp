@@ -57,8 +57,10 @@ QStringList NativeNames(const QString& stem)
 QStringList ToolNames(const QString& name)
 {
     const QString stem = WithoutExe(name);
-    return stem.compare(u"7z", Qt::CaseInsensitive) == 0 ? QStringList{u"7zz"_s, u"7z"_s, u"7za"_s}
-                                                         : QStringList{stem, stem.toLower()};
+    if (stem.compare(u"7z", Qt::CaseInsensitive) == 0) {
+        return {u"7zz"_s, u"7z"_s, u"7za"_s};
+    }
+    return {stem, stem.toLower()};
 }
 
 HostProgram NativeProgram(const QString& path, const QString& stem)
