@@ -152,13 +152,16 @@ platform::Done SaveList(
 }
 
 platform::Done SaveSheet(
-    const shell::Places& places, const IconSheet& icons, const std::vector<int>& positions)
+    const shell::Places& places,
+    const QString& listPath,
+    const IconSheet& icons,
+    const std::vector<int>& positions)
 {
     const QString path = SheetPath(places);
     if (!IconSheetIsCurrent(path, icons, positions)) {
         // The list belongs to the sheet that is about to go. Should the program end before the new
         // list is written, a missing one is noticed; one of another order would not be.
-        const auto dropList = [&] { return DeleteIfThere(ListPath(places)); };
+        const auto dropList = [&] { return DeleteIfThere(listPath); };
         const platform::Done written = WriteIconSheet(path, icons, positions, dropList);
         if (!written) {
             return written;
@@ -257,18 +260,21 @@ platform::Outcome<CacheReport> SaveCatalogueCache(
     const IconSheet& icons,
     ScanProgress& progress)
 {
+    if (icons.Count() < static_cast<int>(catalogue.size())) {
+        return Error{ErrorKind::Refused, u"fewer icons than games"_s};
+    }
     CacheReport report;
+    const QString listPath = ListPath(places); // before it is deleted, in its spelling
     const std::vector<int> positions = PositionsToSave(catalogue, report.leftOut);
     if (positions.empty()) {
-        const platform::Done gone = DeleteIfThere(ListPath(places));
+        const platform::Done gone = DeleteIfThere(listPath);
         return gone ? platform::Outcome<CacheReport>(report) : gone.Failure();
     }
-    const platform::Done sheet = SaveSheet(places, icons, positions);
+    const platform::Done sheet = SaveSheet(places, listPath, icons, positions);
     if (!sheet) {
         return sheet.Failure();
     }
-    const platform::Done list =
-        SaveList(ListPath(places), catalogue, positions, report.maimed, progress);
+    const platform::Done list = SaveList(listPath, catalogue, positions, report.maimed, progress);
     return list ? platform::Outcome<CacheReport>(report) : list.Failure();
 }
 

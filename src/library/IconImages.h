@@ -16,7 +16,8 @@ namespace pelorin::library {
 inline constexpr qint64 kMostPictureBytes = 64LL * 1024 * 1024;
 inline constexpr qint64 kMostPicturePixels = 64LL * 1024 * 1024;
 
-/// Any picture that FreeImage reads, whatever its size, drawn on white and scaled to 32 x 32.
+/// A picture of any size, drawn on white and scaled to 32 x 32. Of all formats that FreeImage knows
+/// those whose size it tells beforehand: JPEG, PNG, BMP and some more, but not GIF.
 /// Error NotFound, Unreadable, or Malformed for what is no picture.
 platform::Outcome<IconPixels> LoadIcon(const QString& path);
 

@@ -1,0 +1,188 @@
+#include "LibraryFixture.h"
+#include "Pictures.h"
+#include "library/CatalogueScan.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <gmock/gmock.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace pelorin;
+using library::Phase;
+using library::ScanResult;
+using testing::ElementsAre;
+
+namespace {
+
+class CatalogueScanTest : public testing::Test {
+protected:
+    ScanResult Scan()
+    {
+        return library::ScanCatalogue(m_library.places, {m_lang, 2}, m_defaultIcon, m_progress);
+    }
+    static QStringList Folders(const ScanResult& scan)
+    {
+        QStringList folders;
+        for (const library::GameEntry& entry : scan.catalogue) {
+            folders << entry.Folder;
+        }
+        return folders;
+    }
+
+    test::LibraryFolder m_library;
+    test::TestFolder& m_root = m_library.root;
+    shell::LangTable m_lang = test::TestLang();
+    library::IconPixels m_defaultIcon = library::PlainIcon(32, 1, 2, 3);
+    test::RecordedProgress m_progress;
+};
+
+TEST_F(CatalogueScanTest, GamesInOrderWithTheirIcons)
+{
+    m_root.WriteLines(u"Games/beta/DOSBOX/INFO.TXT"_s, {u"둘\u0003Two"_s});
+    m_root.WriteLines(u"Games/beta/DOSBOX/Edit.conf"_s, {u"v"_s, u"12"_s});
+    m_root.WriteRaw(
+        u"Games/beta/DOSBOX/icon.jpg"_s,
+        test::PictureFile(test::PictureFormat::Jpeg, 32, 32, {8, 8, 8}));
+    m_root.MakeTree(
+        {u"Games/Gamma/STORE.7z"_s, u"Games/Alpha/"_s, u"Games/.hidden/"_s, u"Games/file.txt"_s});
+    m_root.MakeLink(u"Games/nowhere"_s, u"missing"_s);
+    m_root.MakeLink(u"Games/loop"_s, u"loop"_s);
+    m_root.MakeLink(u"Games/self"_s, u"."_s);
+    const ScanResult scan = Scan();
+    EXPECT_THAT(Folders(scan), ElementsAre(u"Alpha"_s, u"beta"_s, u"Gamma"_s));
+    EXPECT_THAT(scan.refused, ElementsAre(u"self"_s));
+    ASSERT_EQ(scan.icons.Count(), 3);
+    EXPECT_EQ(scan.icons.Large(0).bgr, m_defaultIcon.bgr);
+    EXPECT_NE(scan.icons.Large(1).bgr, m_defaultIcon.bgr);
+    EXPECT_EQ(scan.catalogue[1].TitleE, u"Two [편집, Win98]"_s);
+    EXPECT_EQ(scan.catalogue[1].ListIndex, 2);
+    EXPECT_EQ(scan.catalogue[2].TitleK, u"Gamma [압축]"_s);
+    EXPECT_EQ(scan.catalogue[2].DosboxVersion, 2);
+    EXPECT_EQ(scan.troubles.count, 0);
+    EXPECT_FALSE(m_root.Exists(u"Games/DosBox"_s));
+    EXPECT_TRUE(m_root.Exists(u"Games/Alpha/DosBox/GenreK.dat"_s));
+}
+
+TEST_F(CatalogueScanTest, ProgressByTheStepRule)
+{
+    for (int i = 0; i < 26; ++i) { // step (26 - 1) / 10 = 2.5, ties to even: 2
+        m_root.MakeFolder(u"Games/%1"_s.arg(i, 2, 10, QChar(u'0')));
+    }
+    EXPECT_EQ(Scan().catalogue.size(), 26U);
+    using Told = test::RecordedProgress::Told;
+    EXPECT_THAT(
+        m_progress.begun, ElementsAre(Told{Phase::Preparing, 26}, Told{Phase::Reading, 26}));
+    ASSERT_EQ(m_progress.steps.size(), 26U);
+    EXPECT_EQ(m_progress.steps[0], (Told{Phase::Preparing, 0, 0}));
+    EXPECT_EQ(m_progress.steps[1], (Told{Phase::Preparing, 2, 10}));
+    EXPECT_EQ(m_progress.steps[12], (Told{Phase::Preparing, 24, 120})) << "passes 100 at the tail";
+    EXPECT_EQ(m_progress.steps[25], (Told{Phase::Reading, 24, 120}));
+}
+
+TEST_F(CatalogueScanTest, AnEmptyRootGivesNothing)
+{
+    EXPECT_TRUE(Scan().catalogue.empty());
+    m_library.places.gamesRoot = m_root.Path(u"missing"_s);
+    const ScanResult scan = Scan();
+    EXPECT_EQ(scan.icons.Count(), 0);
+    EXPECT_FALSE(scan.abandoned);
+    EXPECT_FALSE(m_root.Exists(u"missing"_s));
+}
+
+TEST_F(CatalogueScanTest, FoldersThatVanishDoNoHarm)
+{
+    m_root.MakeTree({u"Games/a/"_s, u"Games/b/"_s, u"Games/c/"_s});
+    m_progress.onStep = [&](const auto& step) {
+        if (step.phase == Phase::Preparing && step.value == 0) {
+            QDir(m_root.Path(u"Games/b"_s)).removeRecursively();
+        }
+        if (step.phase == Phase::Reading && step.value == 0) {
+            QDir(m_root.Path(u"Games/c"_s)).removeRecursively();
+        }
+        return true;
+    };
+    const ScanResult scan = Scan();
+    EXPECT_THAT(Folders(scan), ElementsAre(u"a"_s, u"c"_s));
+    EXPECT_EQ(scan.icons.Count(), 2);
+    EXPECT_EQ(scan.catalogue[1].ListIndex, 2);
+    EXPECT_FALSE(m_root.Exists(u"Games/b"_s));
+    EXPECT_FALSE(m_root.Exists(u"Games/c"_s));
+}
+
+TEST_F(CatalogueScanTest, AFolderThatCantBeReadIsAGameByName)
+{
+    if (geteuid() == 0) {
+        GTEST_SKIP() << "root reads everything";
+    }
+    m_root.MakeTree({u"Games/locked/"_s, u"Games/half/DosBox/"_s});
+    m_root.WriteLines(u"Games/half/DosBox/GenreK.dat"_s, {u"kept"_s});
+    const QFile::Permissions writeOnly = QFile::WriteOwner | QFile::ExeOwner;
+    QFile::setPermissions(m_root.Path(u"Games/locked"_s), QFile::Permissions());
+    QFile::setPermissions(m_root.Path(u"Games/half/DosBox"_s), writeOnly);
+    const ScanResult scan = Scan();
+    QFile::setPermissions(m_root.Path(u"Games/locked"_s), writeOnly | QFile::ReadOwner);
+    QFile::setPermissions(m_root.Path(u"Games/half/DosBox"_s), writeOnly | QFile::ReadOwner);
+    EXPECT_THAT(Folders(scan), ElementsAre(u"half"_s, u"locked"_s));
+    EXPECT_EQ(scan.catalogue[1].TitleK, u"locked"_s);
+    EXPECT_EQ(scan.troubles.count, 2);
+    EXPECT_EQ(m_root.Tree(u"Games/locked"_s), QStringList());
+    EXPECT_EQ(m_root.ReadText(u"Games/half/DosBox/GenreK.dat"_s), u"kept\r\n"_s);
+}
+
+TEST_F(CatalogueScanTest, GivesUpWhenTold)
+{
+    m_root.MakeTree({u"Games/a/"_s, u"Games/b/"_s});
+    m_progress.onStep = [](const auto&) { return false; };
+    EXPECT_TRUE(Scan().abandoned);
+    EXPECT_EQ(m_progress.steps.size(), 1U);
+}
+
+TEST_F(CatalogueScanTest, OneMoreGameGoesBehindTheOthers)
+{
+    m_root.MakeTree({u"Games/a/"_s});
+    ScanResult scan = Scan();
+    m_root.MakeTree({u"Games/0 new/play.exe"_s});
+    library::GameFiles files = library::ListGame(m_library.places, u"0 new"_s);
+    const auto add = [&] {
+        return library::AddGame(
+            files, {m_lang, 2}, m_defaultIcon, scan.catalogue, scan.icons, scan.troubles);
+    };
+    ASSERT_TRUE(add());
+    EXPECT_EQ(scan.catalogue[1].Folder, u"0 new"_s);
+    EXPECT_EQ(scan.catalogue[1].ListIndex, 2);
+    EXPECT_EQ(scan.icons.Count(), 2);
+    EXPECT_EQ(m_root.ReadText(u"Games/0 new/DosBox/autoexec.conf"_s), u"play.exe\r\n"_s);
+
+    scan.catalogue.resize(library::kMostGames);
+    EXPECT_FALSE(add());
+    EXPECT_EQ(scan.catalogue.size(), std::size_t{library::kMostGames});
+}
+
+TEST(ProgressTexts, PhaseAndPercent)
+{
+    const shell::LangTable lang = test::TestLang();
+    EXPECT_EQ(library::ProgressText(lang, Phase::Preparing, 0), u"5......0%"_s);
+    EXPECT_EQ(library::ProgressText(lang, Phase::LoadingIcons, 110), u"7......110%"_s);
+    EXPECT_EQ(library::SavingText(lang, 41), u"299.... ( 0 / 41 )"_s);
+}
+
+TEST(ProgressSteps, EachTenth)
+{
+    struct Case {
+        int count;
+        int step;
+    };
+    for (const Case c : {Case{0, 1}, {1, 1}, {6, 1}, {16, 2}, {26, 2}, {36, 4}, {32767, 3277}}) {
+        test::RecordedProgress progress;
+        library::ProgressSteps steps(progress, Phase::Reading, c.count);
+        for (int i = 0; i < c.count; ++i) {
+            steps.At(i);
+        }
+        EXPECT_EQ(progress.steps.size(), static_cast<std::size_t>((c.count + c.step - 1) / c.step))
+            << c.count;
+    }
+}
+
+} // namespace

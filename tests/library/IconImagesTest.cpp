@@ -1,0 +1,145 @@
+#include "LibraryFixture.h"
+#include "Pictures.h"
+#include "library/IconImages.h"
+
+#include <QtEndian>
+
+using namespace Qt::StringLiterals;
+using namespace pelorin;
+using library::IconPixels;
+using test::Colour;
+using test::PictureFormat;
+
+namespace {
+
+constexpr Colour kRed{255, 0, 0};
+
+/// The colour in the middle, each part within what JPEG loses.
+void ExpectColour(const IconPixels& icon, Colour colour)
+{
+    ASSERT_EQ(icon.side, library::kLargeIcon);
+    ASSERT_EQ(icon.bgr.size(), 32 * 32 * 3);
+    const auto at = [&](int part) {
+        return static_cast<int>(static_cast<std::uint8_t>(icon.bgr[(16 * 32 + 16) * 3 + part]));
+    };
+    EXPECT_NEAR(at(0), colour.blue, 4);
+    EXPECT_NEAR(at(1), colour.green, 4);
+    EXPECT_NEAR(at(2), colour.red, 4);
+}
+
+class IconImagesTest : public testing::Test {
+protected:
+    QString File(const QByteArray& bytes)
+    {
+        m_root.WriteRaw(u"picture"_s, bytes);
+        return m_root.Path(u"picture"_s);
+    }
+
+    test::TestFolder m_root;
+};
+
+TEST_F(IconImagesTest, LoadsAnyFormatAndSize)
+{
+    for (const PictureFormat format :
+         {PictureFormat::Jpeg, PictureFormat::Png, PictureFormat::Bmp}) {
+        for (const auto& [width, height] : {std::pair(32, 32), {16, 16}, {300, 40}, {1, 1}}) {
+            const auto icon =
+                library::LoadIcon(File(test::PictureFile(format, width, height, {10, 200, 90})));
+            ASSERT_TRUE(icon) << static_cast<int>(format) << ' ' << width;
+            ExpectColour(icon.Value(), {10, 200, 90});
+        }
+    }
+}
+
+TEST_F(IconImagesTest, TransparencyIsDrawnOnWhite)
+{
+    const auto half =
+        library::LoadIcon(File(test::PictureFile(PictureFormat::Png, 32, 32, {0, 0, 0, 128})));
+    ASSERT_TRUE(half);
+    ExpectColour(half.Value(), {127, 127, 127});
+    const auto ico = library::LoadIco(File(test::IcoFile({test::IcoDib(32, {9, 9, 9, 0})})));
+    ASSERT_TRUE(ico);
+    ExpectColour(ico.Value(), {255, 255, 255});
+}
+
+TEST_F(IconImagesTest, OfAnIcoTheOneThatSuits)
+{
+    const Colour other{0, 0, 255};
+    struct Case {
+        std::vector<test::IcoPicture> pictures;
+        const char* what;
+    };
+    const std::vector<Case> cases{
+        {{test::IcoDib(16, other), test::IcoDib(32, kRed), test::IcoDib(48, other)}, "its size"},
+        {{test::IcoDib(16, other), test::IcoPng(64, kRed), test::IcoPng(128, other)}, "larger"},
+        {{test::IcoDib(8, other), test::IcoDib(24, kRed)}, "largest of the small"},
+        {{{QByteArray("junk"), 32}, test::IcoDib(16, kRed)}, "a damaged one is passed over"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        const auto icon = library::LoadIco(File(test::IcoFile(c.pictures)));
+        ASSERT_TRUE(icon);
+        ExpectColour(icon.Value(), kRed);
+    }
+}
+
+TEST_F(IconImagesTest, WhatIsNoPictureIsAnError)
+{
+    const QByteArray jpeg = test::PictureFile(PictureFormat::Jpeg, 32, 32, kRed);
+    const QByteArray ico = test::IcoFile({test::IcoDib(32, kRed)});
+    for (const QByteArray& bytes :
+         {QByteArray(), QByteArray("text"), jpeg.left(30), QByteArray(500, '\xff')}) {
+        EXPECT_FALSE(library::LoadIcon(File(bytes)));
+    }
+    for (const QByteArray& bytes :
+         {QByteArray(), ico.left(5), ico.left(20), ico.left(300), jpeg, QByteArray(500, '\0')}) {
+        EXPECT_FALSE(library::LoadIco(File(bytes)));
+    }
+    EXPECT_EQ(
+        library::LoadIcon(m_root.Path(u"missing"_s)).Failure().kind, platform::ErrorKind::NotFound);
+    EXPECT_FALSE(library::LoadIcon(m_root.Path())) << "a folder";
+}
+
+TEST_F(IconImagesTest, APictureThatClaimsToBeHugeIsNotUnpacked)
+{
+    QByteArray png = test::PictureFile(PictureFormat::Png, 32, 32, kRed);
+    qToBigEndian<quint32>(60000, png.data() + 16);
+    qToBigEndian<quint32>(60000, png.data() + 20);
+    EXPECT_FALSE(library::LoadIcon(File(png)));
+    EXPECT_FALSE(library::LoadIco(File(test::IcoFile({{png, 32}}))));
+
+    QByteArray bmp = test::PictureFile(PictureFormat::Bmp, 32, 32, kRed);
+    qToLittleEndian<qint32>(200000, bmp.data() + 18);
+    qToLittleEndian<qint32>(200000, bmp.data() + 22);
+    EXPECT_FALSE(library::LoadIcon(File(bmp)));
+}
+
+TEST_F(IconImagesTest, SavesAJpegThatComesBack)
+{
+    const QString path = m_root.Path(u"Icon.jpg"_s);
+    ASSERT_TRUE(library::SaveIcon(path, library::PlainIcon(32, 30, 60, 200)));
+    EXPECT_TRUE(m_root.ReadRaw(u"Icon.jpg"_s).startsWith("\xff\xd8\xff"));
+    const auto icon = library::LoadIcon(path);
+    ASSERT_TRUE(icon);
+    ExpectColour(icon.Value(), {200, 60, 30});
+    EXPECT_FALSE(library::SaveIcon(path, IconPixels()));
+    EXPECT_TRUE(m_root.Exists(u"Icon.jpg"_s)) << "no picture replaces no picture";
+}
+
+TEST(IconSheetTest, SmallIconsFollowTheLargeOnes)
+{
+    library::IconSheet icons;
+    icons.Append(library::PlainIcon(32, 1, 2, 3));
+    icons.Append(library::PlainIcon(32, 50, 60, 70));
+    EXPECT_EQ(icons.Small(1).bgr, library::PlainIcon(16, 50, 60, 70).bgr);
+    icons.Set(1, library::PlainIcon(32, 200, 0, 0));
+    EXPECT_EQ(icons.Small(1).bgr, library::PlainIcon(16, 200, 0, 0).bgr);
+    icons.Remove(0);
+    EXPECT_EQ(icons.Count(), 1);
+    EXPECT_EQ(icons.Small(0).bgr, library::PlainIcon(16, 200, 0, 0).bgr);
+    icons.Resize(3, library::PlainIcon(32, 9, 9, 9));
+    EXPECT_EQ(icons.Small(2).bgr, library::PlainIcon(16, 9, 9, 9).bgr);
+    EXPECT_EQ(library::Rescaled(IconPixels(), 16).side, 0);
+}
+
+} // namespace
