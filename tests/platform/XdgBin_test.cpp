@@ -1,5 +1,6 @@
-#include "platform/MountTable.h"
 #include "platform/XdgBin.h"
+
+#include "platform/MountTable.h"
 #include "support/TestFolder.h"
 
 #include <QDir>

@@ -1,4 +1,5 @@
 #include "platform/ProgramHost.h"
+
 #include "support/TestFolder.h"
 
 #include <QDir>

@@ -1,4 +1,5 @@
 #include "platform/DesktopShellVerbs.h"
+
 #include "support/FakeProcesses.h"
 #include "support/TestFolder.h"
 
