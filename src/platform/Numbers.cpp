@@ -87,7 +87,7 @@ QString NumberText(double value)
     if (text.endsWith(u'.')) {
         text.chop(1);
     }
-    return text;
+    return text == u"-0" ? text.mid(1) : text;
 }
 
 } // namespace pelorin::platform

@@ -106,13 +106,13 @@ QString Listing::Find(const QString& name) const
 bool Listing::HasFile(const QString& name) const
 {
     const QString found = Find(name);
-    return !found.isEmpty() && !folders.contains(found);
+    return !found.isEmpty() && !folders.contains(found) && !hiddenFolders.contains(found);
 }
 
 bool Listing::HasFolder(const QString& name) const
 {
     const QString found = Find(name);
-    return !found.isEmpty() && folders.contains(found);
+    return folders.contains(found) || hiddenFolders.contains(found);
 }
 
 Listing ListFolder(const QString& path)
@@ -135,8 +135,10 @@ Listing ListFolder(const QString& path)
             continue;
         }
         listing.all << name;
-        if (!name.startsWith(u'.')) {
-            (kind == EntryKind::Folder ? listing.folders : listing.files) << name;
+        if (kind == EntryKind::Folder) {
+            (name.startsWith(u'.') ? listing.hiddenFolders : listing.folders) << name;
+        } else if (!name.startsWith(u'.')) {
+            listing.files << name;
         }
     }
     SortByLowerCase(listing.folders);

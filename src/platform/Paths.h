@@ -33,6 +33,7 @@ struct Listing {
     QStringList files;                   // whatever is no folder; broken links left out
     QHash<QString, QString> byLowerCase; // lower-case name -> name, first in order
     QStringList all;                     // folders, files and hidden names, sorted
+    QStringList hiddenFolders;
 
     /// The entry of that name, exact or by case; empty if there is none.
     QString Find(const QString& name) const;

@@ -141,14 +141,14 @@ Outcome<QStringList> ReadFirstLines(const QString& path, int count)
     }
     constexpr qint64 kBlock = 4096;
     QByteArray bytes;
-    while (!file.atEnd()) {
-        bytes += file.read(kBlock);
+    qsizetype ends = 0;
+    while (ends < count && !file.atEnd()) {
+        const QByteArray block = file.read(kBlock);
         if (file.error() != QFileDevice::NoError) {
             return FileError(ErrorKind::Unreadable, path, file.errorString());
         }
-        if (bytes.count('\n') >= count) {
-            break;
-        }
+        ends += block.count('\n');
+        bytes += block;
     }
     return SplitLines(DecodeCp949(bytes)).mid(0, count);
 }
