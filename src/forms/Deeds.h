@@ -29,7 +29,6 @@ struct Deeds {
     Menu mnuGame;
     IndexDeed mnuGame_Click;
     IndexDeed LVGamelist_ColumnClick;
-    std::function<void(const QStringList& paths)> LVGamelist_DragDrop;
     Deed FocusTitle;       // F2
     Deed RenameGameFolder; // F4, and panel 2 of the status bar
     Deed OpenDetails;      // F6
@@ -45,7 +44,7 @@ struct Deeds {
     Deed Picture2_Click;
     Deed cmdFind_Click; // Enter as well
     Deed txtFind_Esc;   // the box is empty by then
-    Deed cmdFind_Esc;
+    Deed cmdFind_Esc;   // likewise
     Deed picAddGame_Click;
     Menu mnuDownload; // its right button
     IndexDeed mnuDownload_Click;

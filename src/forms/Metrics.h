@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFont>
 #include <QWidget>
 
 // Sizes come from the font, so that they fit at any resolution of the screen: a device pixel ratio
@@ -35,6 +36,17 @@ inline int SmallSide(const QWidget& widget)
 inline int LargeSide(const QWidget& widget)
 {
     return 2 * SmallSide(widget);
+}
+
+/// The widget's font in another size; weight and all else stay.
+inline QFont Scaled(QFont font, double factor)
+{
+    if (font.pointSizeF() > 0) {
+        font.setPointSizeF(font.pointSizeF() * factor);
+    } else {
+        font.setPixelSize(qRound(font.pixelSize() * factor));
+    }
+    return font;
 }
 
 } // namespace pelorin::forms

@@ -5,6 +5,7 @@
 #include "platform/Prompts.h"
 #include "shell/LangTable.h"
 #include "shell/Screens.h"
+#include "shell/Settings.h"
 
 namespace pelorin::forms {
 
@@ -13,6 +14,7 @@ namespace pelorin::forms {
 struct Shown {
     shell::Screens& screens;
     const shell::LangTable& lang;
+    const shell::Settings& settings;
     const library::IconSheet& icons;
     const dosboxconf::OptionGrid& options;
     platform::Prompts& prompts;

@@ -1,0 +1,367 @@
+#include "forms/GameListView.h"
+
+#include "forms/FormUnits.h"
+#include "forms/Menus.h"
+#include "forms/Metrics.h"
+#include "forms/OwnTexts.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::forms {
+
+using finding::GameList;
+
+namespace {
+
+constexpr int kSettleMs = 60;
+
+/// Rows a little higher than the text, and alike, which spares measuring each.
+class RowDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        QSize size = QStyledItemDelegate::sizeHint(option, index);
+        const int height = option.fontMetrics.height();
+        return {size.width() + height / 2, qMax(size.height(), height + height / 2)};
+    }
+};
+
+/// The list's keys that are commands of their own.
+const Deeds::Deed* DeedOf(const Deeds& deeds, int key)
+{
+    switch (key) {
+    case Qt::Key_F2: return &deeds.FocusTitle;
+    case Qt::Key_F4: return &deeds.RenameGameFolder;
+    case Qt::Key_F6: return &deeds.OpenDetails;
+    default: return nullptr;
+    }
+}
+
+} // namespace
+
+GameListView::GameListView(const Shown& shown, const Deeds& deeds, QWidget* parent)
+    : QStackedWidget(parent)
+    , m_shown(shown)
+    , m_deeds(deeds)
+    , m_list(shown.screens.list)
+    , m_model(m_list, shown.icons)
+    , m_selection(&m_model)
+    , m_icons(new HookedView<QListView>(Hooks(), this))
+    , m_details(new HookedView<QTreeView>(Hooks(), this))
+    , m_listening(m_list.changed, [this](std::uint32_t changed) { Follow(changed); })
+{
+    setObjectName(u"LVGamelist"_s);
+    BuildViews();
+    m_settle.setSingleShot(true);
+    connect(&m_settle, &QTimer::timeout, this, [this] { Settle(); });
+    connect(
+        &m_selection, &QItemSelectionModel::selectionChanged, this, [this] { TakeSelection(); });
+    connect(&m_selection, &QItemSelectionModel::currentChanged, this, [this] { TakeSelection(); });
+    Follow(GameList::Reset | GameList::ViewMode | GameList::Columns);
+}
+
+ViewHooks GameListView::Hooks()
+{
+    return {
+        [this](const QKeyEvent& event) { return KeyPressed(event); },
+        [this](const QKeyEvent& event) { KeyReleased(event); },
+        [this](const QMouseEvent& event) { MouseReleased(event); },
+        [this] {
+            const QRect row = View()->visualRect(m_selection.currentIndex());
+            ShowGameMenu(View()->viewport()->mapToGlobal(row.center()));
+        },
+        [this](QWidget& viewport) { PaintEmpty(viewport); }};
+}
+
+QAbstractItemView* GameListView::View() const
+{
+    return m_list.view == finding::View::Details ? static_cast<QAbstractItemView*>(m_details)
+                                                 : m_icons;
+}
+
+void GameListView::BuildViews()
+{
+    m_icons->setObjectName(u"LVGamelist_icons"_s);
+    m_icons->setUniformItemSizes(true);
+    m_icons->setResizeMode(QListView::Adjust);
+    m_icons->setMovement(QListView::Static);
+    m_icons->setWrapping(true);
+    m_details->setObjectName(u"LVGamelist_details"_s);
+    m_details->setUniformRowHeights(true);
+    m_details->setRootIsDecorated(false);
+    m_details->setItemsExpandable(false);
+    m_details->setAllColumnsShowFocus(true);
+    m_details->setAlternatingRowColors(true);
+    m_details->setItemDelegate(new RowDelegate(m_details));
+    Prepare(*m_icons);
+    Prepare(*m_details);
+
+    QHeaderView& header = *m_details->header();
+    header.setSectionsClickable(true);
+    header.setSectionsMovable(false);
+    header.setStretchLastSection(false);
+    header.setSortIndicatorShown(true);
+    header.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    connect(&header, &QHeaderView::sectionClicked, this, [this](int column) {
+        Do(m_deeds.LVGamelist_ColumnClick, column);
+    });
+    connect(&header, &QHeaderView::sectionResized, this, [this] { TakeColumnWidths(); });
+}
+
+void GameListView::Prepare(QAbstractItemView& view)
+{
+    view.setModel(&m_model);
+    view.setSelectionModel(&m_selection);
+    view.setSelectionMode(QAbstractItemView::ExtendedSelection);
+    view.setSelectionBehavior(QAbstractItemView::SelectRows);
+    view.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    view.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    view.setFrameShape(QFrame::NoFrame);
+    connect(&view, &QAbstractItemView::doubleClicked, this, [this] {
+        Do(m_deeds.LVGamelist_DblClick);
+    });
+    addWidget(&view);
+}
+
+void GameListView::TakeTexts()
+{
+    const QString games = Own(m_shown.lang, kOwnGames);
+    setAccessibleName(games);
+    m_icons->setAccessibleName(games);
+    m_details->setAccessibleName(games);
+    m_noGames = Own(m_shown.lang, kOwnNoGames);
+}
+
+void GameListView::Follow(std::uint32_t changed)
+{
+    m_following = true;
+    if ((changed & GameList::ViewMode) != 0) {
+        ShowViewMode();
+    }
+    m_model.Follow(changed);
+    if ((changed & (GameList::Columns | GameList::Reset)) != 0) {
+        ShowColumns();
+    }
+    if ((changed & (GameList::Reset | GameList::Selection)) != 0) {
+        ShowSelection();
+    }
+    m_following = false;
+    if ((changed & GameList::Focus) != 0) {
+        View()->setFocus();
+    }
+}
+
+void GameListView::ShowViewMode()
+{
+    const bool large = m_list.view == finding::View::LargeIcons;
+    const int side = large ? LargeSide(*this) : SmallSide(*this);
+    m_model.SetIconSize(side, devicePixelRatioF());
+    m_icons->setIconSize(QSize(side, side));
+    m_details->setIconSize(QSize(side, side));
+    const int gap = Gap(*this);
+    if (large) {
+        m_icons->setViewMode(QListView::IconMode);
+        m_icons->setGridSize(QSize(Ems(*this, 8), side + Lines(*this, 2.2) + 2 * gap));
+    } else {
+        m_icons->setViewMode(QListView::ListMode);
+        m_icons->setGridSize(QSize(Ems(*this, 15), side + gap));
+    }
+    m_icons->setWordWrap(large);
+    m_icons->setWrapping(true);
+    m_icons->setMovement(QListView::Static);
+    m_icons->setResizeMode(QListView::Adjust);
+    m_icons->setFlow(
+        m_list.view == finding::View::List ? QListView::TopToBottom : QListView::LeftToRight);
+    const bool focused = isAncestorOf(focusWidget()) && focusWidget()->hasFocus();
+    setCurrentWidget(View());
+    setFocusProxy(View());
+    if (focused) {
+        View()->setFocus();
+    }
+    if (m_viewModeShown) {
+        m_viewModeShown();
+    }
+    if (m_list.selected >= 0) {
+        View()->scrollTo(m_model.index(m_list.selected, 0));
+    }
+}
+
+void GameListView::ShowColumns()
+{
+    QHeaderView& header = *m_details->header();
+    for (int column = 0; column < finding::kColumns; ++column) {
+        const double units = m_list.columnWidths[static_cast<std::size_t>(column)];
+        if (units > 0) {
+            header.resizeSection(column, PixelsOf(units));
+        }
+    }
+    header.setSortIndicator(
+        m_list.sort.column, m_list.sort.descending ? Qt::DescendingOrder : Qt::AscendingOrder);
+}
+
+void GameListView::ShowSelection()
+{
+    QItemSelection rows;
+    for (const int row : m_list.selectedRows) {
+        rows.select(m_model.index(row, 0), m_model.index(row, finding::kColumns - 1));
+    }
+    m_selection.select(rows, QItemSelectionModel::ClearAndSelect);
+    const QModelIndex current = m_model.index(m_list.selected, 0);
+    m_selection.setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+    if (current.isValid()) {
+        View()->scrollTo(current);
+    }
+    m_moved = false;
+}
+
+void GameListView::TakeSelection()
+{
+    if (m_following) {
+        return;
+    }
+    std::vector<int> rows;
+    for (const QModelIndex& index : m_selection.selectedRows()) {
+        rows.push_back(index.row());
+    }
+    std::sort(rows.begin(), rows.end());
+    const int current = m_selection.currentIndex().row();
+    const bool kept = std::binary_search(rows.begin(), rows.end(), current);
+    const int selected = kept ? current : (rows.empty() ? -1 : rows.front());
+    if (selected == m_list.selected && rows == m_list.selectedRows) {
+        return;
+    }
+    m_list.selected = selected;
+    m_list.selectedRows = std::move(rows);
+    m_moved = true;
+    Do(m_deeds.LVGamelist_ItemClick);
+}
+
+void GameListView::TakeColumnWidths()
+{
+    if (m_following) {
+        return;
+    }
+    for (int column = 0; column < finding::kColumns; ++column) {
+        m_list.columnWidths[static_cast<std::size_t>(column)] =
+            UnitsOf(m_details->header()->sectionSize(column));
+    }
+}
+
+void GameListView::Settle()
+{
+    m_settle.stop();
+    m_moved = false;
+    Do(m_deeds.LVGamelist_SelectionMoved);
+}
+
+bool GameListView::KeyPressed(const QKeyEvent& event)
+{
+    const bool plain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (plain && (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)) {
+        if (!event.isAutoRepeat() && m_model.rowCount() > 0) {
+            Do(m_deeds.LVGamelist_DblClick);
+        }
+        return true;
+    }
+    // Deleted on the release, so that a held key deletes one game.
+    if (event.key() == Qt::Key_Delete) {
+        m_deleting = true;
+        return true;
+    }
+    const Deeds::Deed* const deed = plain ? DeedOf(m_deeds, event.key()) : nullptr;
+    if (deed == nullptr) {
+        return false;
+    }
+    if (!event.isAutoRepeat()) {
+        Do(*deed);
+    }
+    return true;
+}
+
+void GameListView::KeyReleased(const QKeyEvent& event)
+{
+    const int key = event.key();
+    if (event.isAutoRepeat()) {
+        if (m_moved && !m_settle.isActive()) {
+            m_settle.start(kSettleMs);
+        }
+        return;
+    }
+    if (key == Qt::Key_Delete) {
+        // A release whose press went to a box that stood here deletes nothing.
+        if (std::exchange(m_deleting, false)) {
+            Do(m_deeds.LVGamelist_Delete);
+        }
+        return;
+    }
+    const bool shows =
+        key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_Home || key == Qt::Key_End;
+    if (shows || m_moved) {
+        Settle();
+    }
+}
+
+void GameListView::MouseReleased(const QMouseEvent& event)
+{
+    Settle();
+    if (event.button() == Qt::RightButton) {
+        ShowGameMenu(event.globalPosition().toPoint());
+    }
+}
+
+void GameListView::ShowGameMenu(QPoint position)
+{
+    if (m_deeds.mnuGame && !m_list.selectedRows.empty()) {
+        PopupMenu(*this, u"mnuGame"_s, m_deeds.mnuGame(), m_deeds.mnuGame_Click, position);
+    }
+}
+
+void GameListView::PaintEmpty(QWidget& viewport) const
+{
+    if (m_model.rowCount() > 0) {
+        return;
+    }
+    QPainter painter(&viewport);
+    painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
+    painter.drawText(viewport.rect(), Qt::AlignCenter | Qt::TextWordWrap, m_noGames);
+}
+
+void GameListView::showEvent(QShowEvent* event)
+{
+    QStackedWidget::showEvent(event);
+    m_list.visible = true;
+    m_following = true;
+    ShowViewMode(); // the screen's device pixel ratio is known now
+    m_following = false;
+}
+
+void GameListView::hideEvent(QHideEvent* event)
+{
+    QStackedWidget::hideEvent(event);
+    m_list.visible = false;
+}
+
+void GameListView::changeEvent(QEvent* event)
+{
+    QStackedWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        m_following = true;
+        ShowViewMode();
+        m_following = false;
+    }
+}
+
+} // namespace pelorin::forms

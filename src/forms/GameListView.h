@@ -1,0 +1,126 @@
+#pragma once
+
+#include "forms/Deeds.h"
+#include "forms/GameListModel.h"
+#include "forms/Listening.h"
+#include "forms/Shown.h"
+
+#include <QItemSelectionModel>
+#include <QKeyEvent>
+#include <QListView>
+#include <QMouseEvent>
+#include <QStackedWidget>
+#include <QTimer>
+#include <QTreeView>
+
+#include <cstdint>
+#include <functional>
+
+namespace pelorin::forms {
+
+/// What one of the two views passes on before or after it has done its own work.
+struct ViewHooks {
+    std::function<bool(const QKeyEvent& event)> keyPressed; // true: done with it
+    std::function<void(const QKeyEvent& event)> keyReleased;
+    std::function<void(const QMouseEvent& event)> mouseReleased;
+    std::function<void()> menuKeyPressed;
+    std::function<void(QWidget& viewport)> painted;
+};
+
+/// One of Qt's item views with hooks.
+template <class QtView>
+class HookedView : public QtView {
+public:
+    HookedView(ViewHooks hooks, QWidget* parent)
+        : QtView(parent)
+        , m_hooks(std::move(hooks))
+    {}
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (!m_hooks.keyPressed(*event)) {
+            QtView::keyPressEvent(event);
+        }
+    }
+    void keyReleaseEvent(QKeyEvent* event) override
+    {
+        QtView::keyReleaseEvent(event);
+        m_hooks.keyReleased(*event);
+    }
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        QtView::mouseReleaseEvent(event);
+        m_hooks.mouseReleased(*event);
+    }
+    void contextMenuEvent(QContextMenuEvent* event) override
+    {
+        if (event->reason() == QContextMenuEvent::Keyboard) {
+            m_hooks.menuKeyPressed();
+        }
+    }
+    void paintEvent(QPaintEvent* event) override
+    {
+        QtView::paintEvent(event);
+        m_hooks.painted(*this->viewport());
+    }
+
+private:
+    ViewHooks m_hooks;
+};
+
+/// LVGamelist: the games as icons or list in one view, as details in another. Both show the same
+/// rows and share one selection, so that a change of view keeps it.
+class GameListView : public QStackedWidget {
+public:
+    GameListView(const Shown& shown, const Deeds& deeds, QWidget* parent = nullptr);
+
+    /// The view on top, which has the keyboard when the list has it.
+    QAbstractItemView* View() const;
+    /// Called when the list has taken another view.
+    void SetViewModeListener(std::function<void()> listener)
+    {
+        m_viewModeShown = std::move(listener);
+    }
+    /// Takes the words of the empty list and of accessibility anew.
+    void TakeTexts();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    ViewHooks Hooks();
+    void BuildViews();
+    void Prepare(QAbstractItemView& view);
+    void Follow(std::uint32_t changed);
+    void ShowViewMode();
+    void ShowColumns();
+    void ShowSelection();
+    void TakeSelection();
+    void TakeColumnWidths();
+    void Settle();
+    bool KeyPressed(const QKeyEvent& event);
+    void KeyReleased(const QKeyEvent& event);
+    void MouseReleased(const QMouseEvent& event);
+    void ShowGameMenu(QPoint position);
+    void PaintEmpty(QWidget& viewport) const;
+
+    Shown m_shown;
+    const Deeds& m_deeds;
+    finding::GameList& m_list;
+    GameListModel m_model;
+    QItemSelectionModel m_selection;
+    QListView* m_icons;
+    QTreeView* m_details;
+    QTimer m_settle;          // while a key repeats
+    bool m_moved = false;     // the selection is not settled yet
+    bool m_deleting = false;  // the Delete key is down
+    bool m_following = false; // the program changes the views, not the user
+    QString m_noGames;
+    std::function<void()> m_viewModeShown;
+    Listening m_listening;
+};
+
+} // namespace pelorin::forms

@@ -1,0 +1,144 @@
+#include "forms/Overlays.h"
+
+#include "forms/Metrics.h"
+
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::forms {
+
+namespace {
+
+constexpr QRgb kNoticeGround = qRgb(255, 250, 232);
+constexpr QRgb kNoticeText = qRgb(90, 84, 68);
+
+QColor ColourOf(std::uint32_t bgr)
+{
+    return {
+        static_cast<int>(bgr & 0xff),
+        static_cast<int>((bgr >> 8) & 0xff),
+        static_cast<int>((bgr >> 16) & 0xff)};
+}
+
+void SetTextColour(QWidget& widget, const QColor& colour)
+{
+    QPalette palette = widget.palette();
+    palette.setColor(QPalette::WindowText, colour);
+    widget.setPalette(palette);
+}
+
+} // namespace
+
+ProgressOverlay::ProgressOverlay(const Shown& shown, QWidget* parent)
+    : QFrame(parent)
+    , m_model(shown.screens.progress)
+    , m_lblProgress(new QLabel(this))
+    , m_pbProgress(new QProgressBar(this))
+    , m_listening(m_model.changed, [this](std::uint32_t) { Follow(); })
+{
+    setObjectName(u"picProgress"_s);
+    setFrameShape(StyledPanel);
+    setAutoFillBackground(true);
+    m_lblProgress->setObjectName(u"lblProgress"_s);
+    m_lblProgress->setTextFormat(Qt::PlainText);
+    m_lblProgress->setAlignment(Qt::AlignCenter);
+    m_pbProgress->setObjectName(u"pbProgress"_s);
+    m_pbProgress->setTextVisible(false);
+    auto* column = new QVBoxLayout(this);
+    const int gap = Gap(*this);
+    column->setContentsMargins(2 * gap, gap, 2 * gap, 2 * gap);
+    column->setSpacing(gap);
+    column->addWidget(m_lblProgress);
+    column->addWidget(m_pbProgress);
+    Follow();
+}
+
+void ProgressOverlay::Place(const QRect& area)
+{
+    m_area = area;
+    const QSize size(qMin(area.width(), Ems(*this, 26)), sizeHint().height());
+    const int below = 3 * Gap(*this);
+    setGeometry(
+        area.x() + (area.width() - size.width()) / 2,
+        area.bottom() - size.height() - below,
+        size.width(),
+        size.height());
+}
+
+void ProgressOverlay::Follow()
+{
+    m_lblProgress->setText(m_model.text);
+    m_pbProgress->setRange(0, qMax(1, m_model.maximum));
+    m_pbProgress->setValue(m_model.value);
+    setVisible(m_model.visible);
+    if (m_model.visible) {
+        Place(m_area);
+        raise();
+    }
+}
+
+NoticeOverlay::NoticeOverlay(const Shown& shown, QWidget* parent)
+    : QFrame(parent)
+    , m_model(shown.screens.notice)
+    , m_lblMessage(new QLabel(this))
+    , m_second(new QLabel(this))
+    , m_listening(m_model.changed, [this](std::uint32_t) { Follow(); })
+{
+    setObjectName(u"picMessage"_s);
+    setFrameShape(StyledPanel);
+    setAutoFillBackground(true);
+    QPalette light = palette();
+    light.setColor(QPalette::Window, QColor(kNoticeGround));
+    setPalette(light);
+    m_lblMessage->setObjectName(u"lblMessage"_s);
+    m_second->setObjectName(u"lblMessage2"_s);
+    QFont large = Scaled(font(), 1.15);
+    large.setBold(true);
+    m_lblMessage->setFont(large);
+    SetTextColour(*m_second, QColor(kNoticeText));
+    auto* column = new QVBoxLayout(this);
+    const int gap = Gap(*this);
+    column->setContentsMargins(4 * gap, 3 * gap, 4 * gap, 3 * gap);
+    column->setSpacing(gap);
+    for (QLabel* label : {m_lblMessage, m_second}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setAlignment(Qt::AlignCenter);
+        column->addWidget(label);
+    }
+    Follow();
+}
+
+void NoticeOverlay::TakeTexts(const shell::LangTable& lang)
+{
+    if (m_model.lblMessage.isEmpty()) {
+        m_lblMessage->setText(lang[2]);
+    }
+    m_second->setText(lang[4]);
+}
+
+void NoticeOverlay::Place(const QRect& area)
+{
+    m_area = area;
+    const QSize size = sizeHint().boundedTo(area.size());
+    QRect place(QPoint(0, 0), size);
+    place.moveCenter(area.center());
+    setGeometry(place);
+}
+
+void NoticeOverlay::Follow()
+{
+    if (!m_model.lblMessage.isEmpty()) {
+        m_lblMessage->setText(m_model.lblMessage);
+    }
+    SetTextColour(*m_lblMessage, ColourOf(m_model.colour));
+    // The same words twice would look like a fault.
+    m_second->setVisible(m_second->text() != m_lblMessage->text());
+    setVisible(m_model.visible);
+    if (m_model.visible) {
+        Place(m_area);
+        raise();
+    }
+}
+
+} // namespace pelorin::forms

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "forms/Listening.h"
+#include "forms/Shown.h"
+
+#include <QFrame>
+#include <QLabel>
+#include <QProgressBar>
+
+namespace pelorin::forms {
+
+/// picProgress, at the lower edge of the list.
+class ProgressOverlay : public QFrame {
+public:
+    ProgressOverlay(const Shown& shown, QWidget* parent);
+    /// Takes its place over `area`, in the parent's coordinates.
+    void Place(const QRect& area);
+
+private:
+    void Follow();
+
+    shell::ProgressPanel& m_model;
+    QLabel* m_lblProgress;
+    QProgressBar* m_pbProgress;
+    QRect m_area;
+    Listening m_listening;
+};
+
+/// picMessage, in the middle of the list. Its text blinks in fixed colours, so it has a light
+/// ground of its own whatever the palette is.
+class NoticeOverlay : public QFrame {
+public:
+    NoticeOverlay(const Shown& shown, QWidget* parent);
+    void Place(const QRect& area);
+    void TakeTexts(const shell::LangTable& lang);
+
+private:
+    void Follow();
+
+    shell::BusyNotice& m_model;
+    QLabel* m_lblMessage;
+    QLabel* m_second;
+    QRect m_area;
+    Listening m_listening;
+};
+
+} // namespace pelorin::forms

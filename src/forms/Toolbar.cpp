@@ -1,0 +1,170 @@
+#include "forms/Toolbar.h"
+
+#include "forms/Menus.h"
+#include "forms/Metrics.h"
+#include "forms/OwnTexts.h"
+#include "forms/Pictures.h"
+
+#include <QKeyEvent>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::forms {
+
+namespace {
+
+/// cmdOpenFolder has five tool tips, one line each.
+constexpr std::array<int, 5> kOpenFolderEntries{11, 12, 14, 15, 16};
+
+} // namespace
+
+Toolbar::Toolbar(const Shown& shown, const Deeds& deeds, QWidget* parent)
+    : QWidget(parent)
+    , m_shown(shown)
+    , m_deeds(deeds)
+    , m_row(new QHBoxLayout(this))
+    , m_listening(shown.screens.search.changed, [this](std::uint32_t) {
+        m_txtFind->setText(m_shown.screens.search.txtFind);
+    })
+{
+    const int gap = Gap(*this);
+    m_row->setContentsMargins(gap, gap, gap, gap);
+    m_row->setSpacing(gap / 3);
+    AddRunButtons();
+    AddGap();
+    QToolButton* const cmdOpenFolder = AddButton(u"cmdOpenFolder"_s, u"folder"_s, {});
+    GiveMenu(*cmdOpenFolder, u"mnuFolder"_s, deeds.mnuFolder, deeds.mnuFolder_Click);
+    AddButton(u"cmdRefresh"_s, u"refresh"_s, deeds.cmdRefresh_Click);
+    AddGap();
+    AddViewButtons();
+    AddGap();
+    m_picture2 = AddButton(u"Picture2"_s, u"title-korean"_s, deeds.Picture2_Click);
+    AddGap();
+    AddFind();
+    AddGap();
+    m_addGamePlace = new QWidget(this);
+    m_row->addWidget(m_addGamePlace);
+    m_cmdVespra = AddButton(u"cmdVespra"_s, u"site"_s, deeds.cmdVespra_Click);
+    m_row->addStretch();
+    ShowViewMode();
+    ShowTitlePicture();
+}
+
+QToolButton* Toolbar::AddButton(
+    const QString& name, const QString& picture, const Deeds::Deed& deed)
+{
+    auto* button = new QToolButton(this);
+    button->setObjectName(name);
+    button->setIcon(SymbolIcon(picture));
+    const int side = SmallSide(*this);
+    button->setIconSize(QSize(side, side));
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setEnabled(static_cast<bool>(deed));
+    connect(button, &QToolButton::clicked, this, [deed] { Do(deed); });
+    m_row->addWidget(button);
+    return button;
+}
+
+void Toolbar::AddRunButtons()
+{
+    QToolButton* const run = AddButton(u"cmdRun_0"_s, u"run"_s, m_deeds.cmdRun_Click);
+    run->setAutoRaise(false);
+    run->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    QFont bold = run->font();
+    bold.setBold(true);
+    run->setFont(bold);
+    QToolButton* const more = AddButton(u"cmdRun_1"_s, {}, {});
+    more->setAutoRaise(false);
+    // Its picture is the icon of a game that has none.
+    more->setIcon(ColourIcon(u"game"_s));
+    GiveMenu(*more, u"mnuRun"_s, m_deeds.mnuRun, m_deeds.mnuRun_Click);
+    // Both are one thing to the eye.
+    run->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    more->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+}
+
+void Toolbar::AddViewButtons()
+{
+    constexpr std::array<const char16_t*, 4> kPictures{
+        u"view-large", u"view-small", u"view-list", u"view-details"};
+    for (int i = 0; i < 4; ++i) {
+        QToolButton* const option = AddButton(
+            u"optViewmode_%1"_s.arg(i),
+            QString::fromUtf16(kPictures[static_cast<std::size_t>(i)]),
+            {});
+        option->setCheckable(true);
+        option->setEnabled(static_cast<bool>(m_deeds.optViewmode_Click));
+        m_optViewmode.addButton(option, i);
+    }
+    connect(&m_optViewmode, &QButtonGroup::idClicked, this, [this](int id) {
+        Do(m_deeds.optViewmode_Click, static_cast<finding::View>(id));
+    });
+}
+
+void Toolbar::AddFind()
+{
+    m_txtFind = new QLineEdit(this);
+    m_txtFind->setObjectName(u"txtFind"_s);
+    m_txtFind->setFixedWidth(Ems(*this, 11));
+    m_txtFind->setText(m_shown.screens.search.txtFind);
+    m_txtFind->installEventFilter(this);
+    connect(m_txtFind, &QLineEdit::textEdited, this, [this](const QString& text) {
+        m_shown.screens.search.txtFind = text;
+    });
+    m_row->addWidget(m_txtFind);
+    m_cmdFind = AddButton(u"cmdFind"_s, u"find"_s, m_deeds.cmdFind_Click);
+    m_cmdFind->installEventFilter(this);
+    m_txtFind->setEnabled(m_cmdFind->isEnabled());
+}
+
+void Toolbar::AddGap()
+{
+    m_row->addSpacing(2 * Gap(*this));
+}
+
+bool Toolbar::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyRelease) {
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        const bool box = watched == m_txtFind;
+        if (box && (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter)) {
+            Do(m_deeds.cmdFind_Click);
+        }
+        if (key.key() == Qt::Key_Escape) {
+            m_txtFind->clear();
+            m_shown.screens.search.txtFind.clear();
+            Do(box ? m_deeds.txtFind_Esc : m_deeds.cmdFind_Esc);
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void Toolbar::ShowViewMode()
+{
+    m_optViewmode.button(static_cast<int>(m_shown.screens.list.view))->setChecked(true);
+}
+
+void Toolbar::ShowTitlePicture()
+{
+    const bool korean = m_shown.settings.TitleLanguageKorean;
+    m_picture2->setIcon(SymbolIcon(korean ? u"title-korean"_s : u"title-english"_s));
+}
+
+void Toolbar::TakeTexts()
+{
+    QStringList lines;
+    for (const int entry : kOpenFolderEntries) {
+        lines << m_shown.lang[entry];
+    }
+    auto* cmdOpenFolder = findChild<QToolButton*>(u"cmdOpenFolder"_s);
+    cmdOpenFolder->setToolTip(lines.join(u'\n'));
+    cmdOpenFolder->setAccessibleName(lines.front());
+    m_cmdVespra->setText(m_shown.lang[0]);
+    m_cmdVespra->setToolButtonStyle(
+        m_shown.lang[0].isEmpty() ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon);
+}
+
+} // namespace pelorin::forms

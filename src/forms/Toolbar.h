@@ -1,0 +1,52 @@
+#pragma once
+
+#include "forms/Deeds.h"
+#include "forms/Listening.h"
+#include "forms/Shown.h"
+
+#include <QButtonGroup>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QToolButton>
+#include <QWidget>
+
+namespace pelorin::forms {
+
+/// The row of buttons over the list. Its controls keep to the left, so that cmdVespra's right edge
+/// does not move with the window: it makes the smallest width.
+class Toolbar : public QWidget {
+public:
+    Toolbar(const Shown& shown, const Deeds& deeds, QWidget* parent = nullptr);
+
+    /// Kept free for picAddGame.
+    QWidget* AddGamePlace() const { return m_addGamePlace; }
+    QWidget* Vespra() const { return m_cmdVespra; }
+    QLineEdit* Find() const { return m_txtFind; }
+    void ShowViewMode();
+    void ShowTitlePicture();
+    /// Texts that are made of several entries.
+    void TakeTexts();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QToolButton* AddButton(const QString& name, const QString& picture, const Deeds::Deed& deed);
+    void AddRunButtons();
+    void AddViewButtons();
+    void AddFind();
+    void AddGap();
+
+    Shown m_shown;
+    const Deeds& m_deeds;
+    QHBoxLayout* m_row;
+    QButtonGroup m_optViewmode;
+    QToolButton* m_picture2 = nullptr;
+    QLineEdit* m_txtFind = nullptr;
+    QToolButton* m_cmdFind = nullptr;
+    QWidget* m_addGamePlace = nullptr;
+    QToolButton* m_cmdVespra = nullptr;
+    Listening m_listening;
+};
+
+} // namespace pelorin::forms

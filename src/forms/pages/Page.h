@@ -1,0 +1,30 @@
+#pragma once
+
+#include "forms/Deeds.h"
+#include "forms/Shown.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QWidget>
+
+namespace pelorin::forms {
+
+/// A page of the right panel, built when it is first shown.
+class Page : public QWidget {
+public:
+    using QWidget::QWidget;
+
+    /// Takes the texts that the table of texts does not hold.
+    virtual void TakeTexts() {}
+    /// The page has come on top, as that tab (tabs count from 1; two of them share a page).
+    virtual void ComeOnTop(int) {}
+
+protected:
+    QLabel* AddHeading(const QString& name);
+    /// A push button, usable if `enabled`.
+    QAbstractButton* AddPush(const QString& name, bool enabled);
+    /// A small one with a picture in the place of words.
+    QAbstractButton* AddPicture(const QString& name, const QString& picture, bool enabled);
+};
+
+} // namespace pelorin::forms

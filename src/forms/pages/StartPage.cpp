@@ -1,0 +1,169 @@
+#include "forms/pages/StartPage.h"
+
+#include "forms/Menus.h"
+#include "forms/Metrics.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::forms {
+
+using dosboxconf::StartCommands;
+
+StartPage::StartPage(const Shown& shown, const Deeds& deeds, QWidget* parent)
+    : Page(parent)
+    , m_shown(shown)
+    , m_deeds(deeds)
+    , m_startListening(
+          shown.screens.start.changed, [this](std::uint32_t changed) { FollowStart(changed); })
+    , m_cdListening(shown.screens.cd.changed, [this](std::uint32_t) { FollowCd(); })
+{
+    StartCommands& start = shown.screens.start;
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Gap(*this));
+
+    auto* head = new QHBoxLayout;
+    head->addWidget(AddHeading(u"lblAutoexec"_s), 1);
+    QAbstractButton* const save =
+        AddPush(u"cmdSaveExec"_s, static_cast<bool>(deeds.cmdSaveExec_Click));
+    connect(save, &QAbstractButton::clicked, this, [this] { Do(m_deeds.cmdSaveExec_Click); });
+    head->addWidget(save);
+    column->addLayout(head);
+    m_lstAutoexec = new RowList(start.lstAutoexec, start.commandRow, this);
+    m_lstAutoexec->setObjectName(u"lstAutoexec"_s);
+    m_lstAutoexec->SetActivated([this](int row) { Do(m_deeds.lstAutoexec_DblClick, row); });
+    column->addWidget(m_lstAutoexec, 3);
+    column->addLayout(BuildCommands());
+    column->addSpacing(Gap(*this));
+
+    column->addWidget(AddHeading(u"lblEXE"_s));
+    m_fileEXE = new RowList(start.fileEXE, start.fileRow, this);
+    m_fileEXE->setObjectName(u"fileEXE"_s);
+    m_fileEXE->SetActivated([this](int row) { Do(m_deeds.fileEXE_DblClick, row); });
+    column->addWidget(m_fileEXE, 3);
+    column->addSpacing(Gap(*this));
+    column->addWidget(BuildCd(), 2);
+    FollowStart(
+        StartCommands::Commands | StartCommands::CommandRow | StartCommands::Files |
+        StartCommands::FileRow);
+    FollowCd();
+}
+
+QLayout* StartPage::BuildCommands()
+{
+    const auto wire = [this](QAbstractButton* button, const Deeds::Deed& deed) {
+        connect(button, &QAbstractButton::clicked, this, [&deed] { Do(deed); });
+        return button;
+    };
+    const auto push = [&](const QString& name, const Deeds::Deed& deed) {
+        return wire(AddPush(name, static_cast<bool>(deed)), deed);
+    };
+    const auto picture = [&](const QString& name, const QString& file, const Deeds::Deed& deed) {
+        return wire(AddPicture(name, file, static_cast<bool>(deed)), deed);
+    };
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Gap(*this) / 2);
+    row->addWidget(push(u"cmdAddExec"_s, m_deeds.cmdAddExec_Click));
+    m_cmdAddEmpty = push(u"cmdAddEmpty"_s, m_deeds.cmdAddEmpty_Click);
+    row->addWidget(m_cmdAddEmpty);
+    row->addStretch();
+    row->addWidget(picture(u"cmdUp"_s, u"up"_s, m_deeds.cmdUp_Click));
+    row->addWidget(picture(u"cmdDown"_s, u"down"_s, m_deeds.cmdDown_Click));
+    row->addWidget(picture(u"cmdDelete"_s, u"delete"_s, m_deeds.cmdDelete_Click));
+    return row;
+}
+
+QWidget* StartPage::BuildCd()
+{
+    auto* part = new QWidget(this);
+    auto* column = new QVBoxLayout(part);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Gap(*this));
+    auto* head = new QHBoxLayout;
+    m_chkCD = new QCheckBox(part);
+    m_chkCD->setObjectName(u"chkCD"_s);
+    m_chkCD->setEnabled(static_cast<bool>(m_deeds.chkCD_Click));
+    QFont bold = m_chkCD->font();
+    bold.setBold(true);
+    m_chkCD->setFont(bold);
+    connect(m_chkCD, &QCheckBox::clicked, this, [this](bool checked) {
+        Do(m_deeds.chkCD_Click, checked);
+    });
+    // Outside picCD, which is hidden without a CD: that there is none has to be saved as well.
+    QAbstractButton* const save =
+        AddPush(u"cmdSaveCD"_s, static_cast<bool>(m_deeds.cmdSaveCD_Click));
+    connect(save, &QAbstractButton::clicked, this, [this] { Do(m_deeds.cmdSaveCD_Click); });
+    head->addWidget(m_chkCD, 1);
+    head->addWidget(save);
+    column->addLayout(head);
+
+    dosboxconf::CdPanel& cd = m_shown.screens.cd;
+    m_picCD = new QWidget(part);
+    m_picCD->setObjectName(u"picCD"_s);
+    auto* inner = new QVBoxLayout(m_picCD);
+    inner->setContentsMargins(0, 0, 0, 0);
+    inner->setSpacing(Gap(*this));
+    m_lstCD = new RowList(cd.lstCD, cd.row, m_picCD);
+    m_lstCD->setObjectName(u"lstCD"_s);
+    inner->addWidget(m_lstCD, 1);
+    auto* foot = new QHBoxLayout;
+    m_chkMountCD = new QCheckBox(m_picCD);
+    m_chkMountCD->setObjectName(u"chkMountCD"_s);
+    m_chkMountCD->setEnabled(static_cast<bool>(m_deeds.chkMountCD_Click));
+    connect(m_chkMountCD, &QCheckBox::clicked, this, [this](bool checked) {
+        Do(m_deeds.chkMountCD_Click, checked);
+    });
+    foot->addWidget(m_chkMountCD, 1);
+    auto* cmdCD = new QToolButton(m_picCD);
+    cmdCD->setObjectName(u"cmdCD"_s);
+    cmdCD->setFocusPolicy(Qt::TabFocus);
+    cmdCD->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    if (m_deeds.mnuCD_Click) {
+        m_mnuCD = [this] { return CdMenu(); };
+    }
+    GiveMenu(*cmdCD, u"mnuCD"_s, m_mnuCD, m_deeds.mnuCD_Click);
+    foot->addWidget(cmdCD);
+    inner->addLayout(foot);
+    column->addWidget(m_picCD, 1);
+    column->addStretch();
+    return part;
+}
+
+shell::MenuModel StartPage::CdMenu() const
+{
+    return {{0, m_shown.lang[51]}, {1, m_shown.lang[52]}};
+}
+
+void StartPage::TakeTexts()
+{
+    // The button's caption is itself the line that it inserts.
+    m_cmdAddEmpty->setText(m_shown.screens.start.cmdAddEmpty);
+}
+
+void StartPage::FollowStart(std::uint32_t changed)
+{
+    if ((changed & StartCommands::Commands) != 0) {
+        m_lstAutoexec->ShowRows();
+    } else if ((changed & StartCommands::CommandRow) != 0) {
+        m_lstAutoexec->ShowRow();
+    }
+    if ((changed & StartCommands::Files) != 0) {
+        m_fileEXE->ShowRows();
+    } else if ((changed & StartCommands::FileRow) != 0) {
+        m_fileEXE->ShowRow();
+    }
+}
+
+void StartPage::FollowCd()
+{
+    const dosboxconf::CdPanel& cd = m_shown.screens.cd;
+    m_chkCD->setChecked(cd.chkCD);
+    m_chkMountCD->setChecked(cd.chkMountCD);
+    m_lstCD->ShowRows();
+    m_picCD->setVisible(cd.picCDVisible);
+}
+
+} // namespace pelorin::forms
