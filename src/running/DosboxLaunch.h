@@ -14,14 +14,19 @@ namespace pelorin::running {
 
 /// A mounted path of this many bytes and more aborts the emulator.
 inline constexpr qsizetype kMountPathBytes = 239;
-/// An [autoexec] section of more bytes stops it.
-inline constexpr qsizetype kAutoexecBytes = 4096;
+/// The same for the path of a CD image.
+inline constexpr qsizetype kImagePathBytes = 512;
+/// The emulator keeps [autoexec] in 4,096 bytes, each line end as one of them, together with
+/// variables of its own: those of the Sound Blaster always (some 33 bytes), those of the Gravis
+/// card when it is on. A section of more bytes than these stops it.
+inline constexpr qsizetype kAutoexecBytes = 4060;
+inline constexpr qsizetype kAutoexecBytesWithGravis = 4008;
 
 /// Before anything is composed: no name of a build (Refused), or a folder name that would break
 /// out of its line of dosbox.conf (a quotation mark or a line break).
 platform::Done CheckRequest(const RunRequest& request, const QString& build);
 
-/// Before the text is written: the mounted path and the size of [autoexec] as printed in `form`.
+/// Before the text is written: the mounted paths and the size of [autoexec] as printed in `form`.
 /// The limits are those of a native DOSBox, so the Windows form always passes. Error Refused.
 platform::Done CheckLaunch(
     const dosboxconf::RunFacts& facts, const platform::HostText& finished, platform::PathForm form);

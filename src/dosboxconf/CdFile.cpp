@@ -1,0 +1,139 @@
+#include "dosboxconf/CdFile.h"
+
+#include "platform/Numbers.h"
+#include "platform/Paths.h"
+#include "platform/TextFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::dosboxconf {
+
+namespace {
+
+QString CdConfPath(const shell::Places& places, const QString& folder)
+{
+    return places.InMetaDir(folder, u"CD.conf"_s);
+}
+
+void ShowImages(CdPanel& panel, const QStringList& images)
+{
+    panel.lstCD = images;
+    panel.row = -1;
+}
+
+void ShowPlaceholder(CdPanel& panel, const QString& placeholder)
+{
+    panel.lstCD = QStringList{placeholder};
+    panel.row = -1;
+}
+
+} // namespace
+
+CdFacts ReadCdFacts(const shell::Places& places, const QString& folder)
+{
+    CdFacts facts;
+    const platform::Listing cd = platform::ListFolder(places.InMetaDir(folder, u"CD"_s));
+    facts.hasFolder = cd.exists;
+    facts.images = platform::FilesMatching(cd, {u"*.iso"_s, u"*.cue"_s});
+    const QString conf = CdConfPath(places, folder);
+    facts.hasConf = QFileInfo::exists(conf);
+    if (facts.hasConf) {
+        const QStringList lines = platform::ReadFirstLines(conf, 2).ValueOr(QStringList());
+        facts.chkMountCD = platform::IntegerPrefix(lines.value(0)) != 0;
+        facts.CdMountMode = platform::IntegerPrefix(lines.value(1)) != 0 ? 1 : 0;
+    }
+    return facts;
+}
+
+void FillCdList(CdPanel& panel, const CdFacts& facts, const QString& placeholder)
+{
+    ShowImages(panel, {});
+    if (facts.hasFolder && !facts.hasConf) {
+        panel.chkCD = false;
+    } else if (facts.hasFolder) {
+        panel.chkCD = true;
+        panel.chkMountCD = facts.chkMountCD;
+        panel.CdMountMode = facts.CdMountMode;
+        if (panel.CdMountMode != 0) {
+            ShowImages(panel, facts.images);
+        } else {
+            ShowPlaceholder(panel, placeholder);
+        }
+    }
+    if (facts.hasFolder) {
+        panel.picCDVisible = panel.chkCD;
+    }
+    panel.changed.Tell(CdPanel::All);
+}
+
+void ResetCdPanel(CdPanel& panel)
+{
+    panel.chkCD = false;
+    panel.picCDVisible = false;
+    panel.chkMountCD = false;
+    panel.CdMountMode = 0;
+    ShowImages(panel, {});
+}
+
+void ChkCdClicked(
+    CdPanel& panel, bool checked, const QStringList& images, const QString& placeholder)
+{
+    panel.chkCD = checked;
+    panel.picCDVisible = checked;
+    if (checked) {
+        panel.chkMountCD = false;
+        panel.CdMountMode = images.isEmpty() ? 0 : 1;
+        if (images.isEmpty()) {
+            ShowPlaceholder(panel, placeholder);
+        } else {
+            ShowImages(panel, images);
+        }
+    }
+    panel.changed.Tell(CdPanel::All);
+}
+
+void ChooseCdMode(CdPanel& panel, int mode, const QStringList& images, const QString& placeholder)
+{
+    panel.CdMountMode = mode == 0 ? 0 : 1;
+    if (mode == 0) {
+        ShowPlaceholder(panel, placeholder);
+    } else {
+        ShowImages(panel, images);
+    }
+    panel.changed.Tell(CdPanel::All);
+}
+
+void ChkMountCdClicked(
+    CdPanel& panel, bool checked, const QStringList& images, const QString& placeholder)
+{
+    panel.chkMountCD = checked;
+    if (checked) {
+        ChooseCdMode(panel, 1, images, placeholder);
+    } else {
+        panel.changed.Tell(CdPanel::All);
+    }
+}
+
+platform::Done SaveCdConf(const shell::Places& places, const QString& folder, const CdPanel& panel)
+{
+    const QString path = CdConfPath(places, folder);
+    if (!panel.chkCD) {
+        QFile file(path);
+        if (file.exists() && !file.remove()) {
+            return platform::Error{
+                platform::ErrorKind::Unwritable, u"%1: %2"_s.arg(path, file.errorString())};
+        }
+        return platform::Success();
+    }
+    if (panel.lstCD.isEmpty()) {
+        return platform::Success();
+    }
+    return platform::WriteLines(
+        path,
+        {panel.chkMountCD ? u"1"_s : u"0"_s, QString::number(panel.CdMountMode == 0 ? 0 : 1)});
+}
+
+} // namespace pelorin::dosboxconf

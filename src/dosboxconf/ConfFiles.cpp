@@ -1,0 +1,321 @@
+#include "dosboxconf/ConfFiles.h"
+
+#include "dosboxconf/ConfDefaults.h"
+#include "dosboxconf/ConfUpgrade.h"
+#include "dosboxconf/private/StoredConf.h"
+#include "platform/Numbers.h"
+#include "platform/Paths.h"
+#include "platform/TextFile.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::dosboxconf {
+
+namespace {
+
+using platform::Error;
+using platform::ErrorKind;
+using platform::Outcome;
+
+QString DefaultConfPath(const shell::Places& places)
+{
+    return places.InAppDir(u"Default.conf"_s);
+}
+
+QString GameConfPath(const shell::Places& places, const QString& folder)
+{
+    return places.InMetaDir(folder, u"edit.conf"_s);
+}
+
+/// The file as it stands; nothing whole where it can't be read.
+StoredConf ReadConf(const QString& path)
+{
+    return ParseConf(platform::ReadLines(path).ValueOr(QStringList()));
+}
+
+bool IsDamaged(const QString& path)
+{
+    return QFileInfo::exists(path) && !ReadConf(path).whole;
+}
+
+void Merge(ConfReport& report, const ConfReport& other)
+{
+    report.created |= other.created;
+    report.upgraded |= other.upgraded;
+    report.fellBack |= other.fellBack;
+    report.linesMissing |= other.linesMissing;
+    report.backupKept |= other.backupKept;
+    report.notes << other.notes;
+}
+
+enum class OldFile { KeepIfDamaged, Keep };
+
+/// Whatever could not be read whole may still be worth something to its owner, so it is never
+/// written over without a copy.
+Outcome<ConfReport> WriteConf(
+    const QString& path, const Selection& table, OldFile oldFile = OldFile::KeepIfDamaged)
+{
+    ConfReport report;
+    if (oldFile == OldFile::Keep || IsDamaged(path)) {
+        if (const platform::Done kept = platform::KeepBackup(path); !kept) {
+            return kept.Failure();
+        }
+        report.backupKept = true;
+        report.notes << u"%1: the old file is kept as %2.bak"_s.arg(
+            path, platform::LastPathSegment(path));
+    }
+    if (const platform::Done written = platform::WriteLines(path, PrintConf(table)); !written) {
+        return written.Failure();
+    }
+    return report;
+}
+
+/// For a reader, which goes on with what it has when the disk takes nothing.
+void WriteOrNote(ConfReport& report, const Outcome<ConfReport>& written)
+{
+    if (written) {
+        Merge(report, written.Value());
+    } else {
+        report.notes << written.Failure().text;
+    }
+}
+
+/// A file without a mark may be anything that is no configuration at all.
+OldFile CareFor(ConfLayout layout)
+{
+    return layout == ConfLayout::Groups11 ? OldFile::Keep : OldFile::KeepIfDamaged;
+}
+
+/// What a markless edit.conf is replaced by: the first values of the global file, taken for a file
+/// of that layout. The mark line of the global file is the first of them and reads as 0.
+Selection MarklessStandIn(const Selection& global)
+{
+    QStringList lines = PrintConf(global);
+    lines.first().clear();
+    return ParseConf(lines).values;
+}
+
+Outcome<ConfReport> UpgradeGameConf(
+    const shell::Places& places,
+    const QString& folder,
+    OptionGrid& grid,
+    StoredConf& stored,
+    const Selection& global)
+{
+    Selection upgraded{};
+    if (stored.layout == ConfLayout::Groups11) {
+        stored.values = MarklessStandIn(global);
+    }
+    UpgradeOldGrid(grid, stored.values, upgraded);
+    stored.values = upgraded;
+    return WriteConf(GameConfPath(places, folder), upgraded, CareFor(stored.layout));
+}
+
+void Overlay(OptionGrid& grid, const Selection& game)
+{
+    for (std::size_t at = 0; at < game.size(); ++at) {
+        if (!IsGlobalOnlyKey(grid.OptionKey[at])) {
+            grid.OptionSelection[at] = game[at];
+        }
+    }
+}
+
+bool IsListedAsDifference(OptionKind kind)
+{
+    return kind == OptionKind::Index || kind == OptionKind::Mapper || kind == OptionKind::Text ||
+           kind == OptionKind::CpuCycle;
+}
+
+std::vector<Difference> DifferencesFrom(const Selection& global, const OptionGrid& grid)
+{
+    std::vector<Difference> differences;
+    for (int group = 0; group < kGroups; ++group) {
+        for (int item = 0; item < kItems; ++item) {
+            const Cell cell{group, item};
+            if (grid.Selected(cell) == global[OptionGrid::Index(cell)] ||
+                !IsListedAsDifference(grid.Kind(cell)) || IsGlobalOnlyKey(grid.Key(cell))) {
+                continue;
+            }
+            differences.push_back(Difference{
+                cell,
+                grid.GroupCaption.value(group),
+                grid.Title(cell),
+                ShownValue(grid, cell, grid.Selected(cell))});
+        }
+    }
+    return differences;
+}
+
+QString CycleText(std::int32_t selected)
+{
+    if (selected < 1) {
+        return QString();
+    }
+    if (selected == 1) {
+        return u"max"_s;
+    }
+    return selected == 2 ? u"auto"_s : QString::number(selected);
+}
+
+} // namespace
+
+QString ShownValue(const OptionGrid& grid, Cell cell, std::int32_t selected)
+{
+    switch (grid.Kind(cell)) {
+    case OptionKind::Index:
+    case OptionKind::Mapper: return grid.ValueText(cell, selected);
+    case OptionKind::CpuCycle: return CycleText(selected);
+    case OptionKind::Text: return QString::number(selected);
+    case OptionKind::SavePath:
+    case OptionKind::Capture:
+    case OptionKind::DocPath: return u"DosBox"_s;
+    case OptionKind::LogFile: return u"Export"_s;
+    case OptionKind::GusUltra: return u"Y:\\ULTRASND"_s;
+    case OptionKind::None:
+    case OptionKind::Other: break;
+    }
+    return QString();
+}
+
+bool HasGameConf(const shell::Places& places, const QString& folder)
+{
+    return platform::IsPlainName(folder) && QFileInfo::exists(GameConfPath(places, folder));
+}
+
+ConfReport ReadDefaultConf(const shell::Places& places, OptionGrid& grid)
+{
+    ConfReport report;
+    const QString path = DefaultConfPath(places);
+    if (!QFileInfo::exists(path)) {
+        SetFactoryDefaults(grid);
+        report.created = true;
+        WriteOrNote(report, WriteConf(path, grid.OptionSelection));
+        return report;
+    }
+    StoredConf stored = ReadConf(path);
+    if (!stored.whole) {
+        SetFactoryDefaults(grid);
+        report.fellBack = true;
+        report.notes << u"%1: can't be read whole; factory settings stand in"_s.arg(path);
+    } else if (stored.layout == ConfLayout::Current) {
+        grid.OptionSelection = stored.values;
+    } else {
+        UpgradeOldGrid(grid, stored.values, grid.OptionSelection);
+        report.upgraded = true;
+        WriteOrNote(report, WriteConf(path, grid.OptionSelection, CareFor(stored.layout)));
+    }
+    return report;
+}
+
+Outcome<ConfReport> WriteDefaultConf(const shell::Places& places, const OptionGrid& grid)
+{
+    return WriteConf(DefaultConfPath(places), grid.OptionSelection);
+}
+
+Outcome<ConfReport> WriteGameConf(
+    const shell::Places& places, const QString& folder, const Selection& table)
+{
+    if (!platform::IsPlainName(folder) || !QFileInfo(places.GameDir(folder)).isDir()) {
+        return Error{ErrorKind::Refused, u"%1: no such game"_s.arg(places.GameDir(folder))};
+    }
+    const QString metaDir = places.MetaDir(folder);
+    if (!QDir().mkpath(metaDir)) {
+        return Error{ErrorKind::Unwritable, u"%1: can't be made"_s.arg(metaDir)};
+    }
+    return WriteConf(GameConfPath(places, folder), table);
+}
+
+LoadedConf LoadGameConf(const shell::Places& places, const QString& folder, OptionGrid& grid)
+{
+    LoadedConf loaded;
+    loaded.report = ReadDefaultConf(places, grid);
+    if (!HasGameConf(places, folder)) {
+        return loaded;
+    }
+    const Selection global = grid.OptionSelection;
+    const QString path = GameConfPath(places, folder);
+    const Outcome<QStringList> lines = platform::ReadLines(path);
+    if (!lines) {
+        loaded.report.fellBack = true;
+        loaded.report.notes << lines.Failure().text;
+        return loaded;
+    }
+    StoredConf stored = ParseConf(lines.Value());
+    if (!stored.whole) {
+        loaded.report.linesMissing = true;
+        loaded.report.notes << u"%1: lines are missing; these options are 0"_s.arg(path);
+    }
+    if (stored.layout != ConfLayout::Current) {
+        loaded.report.upgraded = true;
+        WriteOrNote(loaded.report, UpgradeGameConf(places, folder, grid, stored, global));
+    }
+    Overlay(grid, stored.values);
+    loaded.differences = DifferencesFrom(global, grid);
+    return loaded;
+}
+
+Outcome<ConfReport> SaveGameConf(
+    const shell::Places& places, const QString& folder, OptionGrid& grid)
+{
+    Outcome<ConfReport> saved = WriteGameConf(places, folder, grid.OptionSelection);
+    if (!saved) {
+        return saved;
+    }
+    ConfReport& report = saved.Value();
+    const QString path = DefaultConfPath(places);
+    if (!QFileInfo::exists(path)) {
+        SetFactoryDefaults(grid);
+        report.created = true;
+    }
+    StoredConf stored = ReadConf(path);
+    Selection global = FactorySelection(grid);
+    if (stored.whole && stored.layout == ConfLayout::Current) {
+        global = stored.values;
+    } else if (stored.whole) {
+        global = Selection{};
+        UpgradeOldGrid(grid, stored.values, global);
+        report.upgraded = true;
+    } else {
+        report.fellBack = !report.created;
+    }
+    for (std::size_t at = 0; at < global.size(); ++at) {
+        if (IsGlobalOnlyKey(grid.OptionKey[at])) {
+            global[at] = grid.OptionSelection[at];
+        }
+    }
+    const OldFile care = stored.whole ? CareFor(stored.layout) : OldFile::KeepIfDamaged;
+    const Outcome<ConfReport> written = WriteConf(path, global, care);
+    if (!written) {
+        return written;
+    }
+    Merge(report, written.Value());
+    return saved;
+}
+
+int ReadBuildLine(const QString& path)
+{
+    const Outcome<QStringList> lines = platform::ReadFirstLines(path, 2);
+    return lines ? platform::IntegerPrefix(lines.Value().value(1)) : 0;
+}
+
+int ReadBuildIndex(const shell::Places& places, const QString& folder, const OptionGrid& grid)
+{
+    if (HasGameConf(places, folder)) {
+        return ReadBuildLine(GameConfPath(places, folder));
+    }
+    const QString path = DefaultConfPath(places);
+    if (!QFileInfo::exists(path) && !WriteConf(path, FactorySelection(grid))) {
+        return FactorySelection(grid)[OptionGrid::Index(kVersionCell)];
+    }
+    return ReadBuildLine(path);
+}
+
+QString ReadGameBuild(const shell::Places& places, const QString& folder, const OptionGrid& grid)
+{
+    return grid.ValueText(kVersionCell, ReadBuildIndex(places, folder, grid));
+}
+
+} // namespace pelorin::dosboxconf

@@ -1,0 +1,119 @@
+#include "dosboxconf/StartCommandsFile.h"
+
+#include "platform/TextFile.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::dosboxconf {
+
+namespace {
+
+using Changed = StartCommands::Changed;
+
+QString AutoexecConfPath(const shell::Places& places, const QString& folder)
+{
+    return places.InMetaDir(folder, u"autoexec.conf"_s);
+}
+
+QStringList WithoutEmptyLines(QStringList lines)
+{
+    lines.removeAll(QString());
+    return lines;
+}
+
+void InsertAndSelect(StartCommands& start, const QString& line)
+{
+    const qsizetype row = std::clamp<qsizetype>(start.commandRow + 1, 0, start.lstAutoexec.size());
+    start.lstAutoexec.insert(row, line);
+    start.commandRow = static_cast<int>(row);
+    start.changed.Tell(Changed::Commands | Changed::CommandRow);
+}
+
+bool IsRow(const StartCommands& start, int row)
+{
+    return row >= 0 && row < start.lstAutoexec.size();
+}
+
+void SwapWith(StartCommands& start, int other)
+{
+    if (!IsRow(start, start.commandRow) || !IsRow(start, other)) {
+        return;
+    }
+    start.lstAutoexec.swapItemsAt(start.commandRow, other);
+    start.commandRow = other;
+    start.changed.Tell(Changed::Commands | Changed::CommandRow);
+}
+
+} // namespace
+
+platform::Outcome<QStringList> ReadAutoexecConf(const shell::Places& places, const QString& folder)
+{
+    platform::Outcome<QStringList> lines = platform::ReadLines(AutoexecConfPath(places, folder));
+    if (!lines) {
+        return lines.Failure().kind == platform::ErrorKind::NotFound
+                   ? platform::Outcome<QStringList>(QStringList())
+                   : lines;
+    }
+    return WithoutEmptyLines(lines.Take());
+}
+
+platform::Done WriteAutoexecConf(
+    const shell::Places& places, const QString& folder, const QStringList& commands)
+{
+    return platform::WriteLines(AutoexecConfPath(places, folder), WithoutEmptyLines(commands));
+}
+
+void FillStartCommands(StartCommands& start, const QStringList& commands)
+{
+    start.lstAutoexec = WithoutEmptyLines(commands);
+    start.commandRow = start.lstAutoexec.isEmpty() ? -1 : 0;
+    start.changed.Tell(Changed::Commands | Changed::CommandRow);
+}
+
+void AddSelectedFile(StartCommands& start)
+{
+    const QString file = start.fileEXE.value(start.fileRow).trimmed();
+    if (!file.isEmpty()) {
+        InsertAndSelect(start, file);
+    }
+}
+
+void AddEmptyLine(StartCommands& start)
+{
+    InsertAndSelect(start, start.cmdAddEmpty);
+}
+
+void DeleteLine(StartCommands& start)
+{
+    const int row = start.commandRow < 0 ? 0 : start.commandRow;
+    if (!IsRow(start, row)) {
+        return;
+    }
+    start.lstAutoexec.removeAt(row);
+    start.commandRow = std::min(row, static_cast<int>(start.lstAutoexec.size()) - 1);
+    start.changed.Tell(Changed::Commands | Changed::CommandRow);
+}
+
+void MoveLineUp(StartCommands& start)
+{
+    SwapWith(start, start.commandRow - 1);
+}
+
+void MoveLineDown(StartCommands& start)
+{
+    SwapWith(start, start.commandRow + 1);
+}
+
+void ReplaceLine(StartCommands& start, int row, const QString& reply)
+{
+    const QString line = reply.trimmed();
+    if (line.isEmpty() || !IsRow(start, row)) {
+        return;
+    }
+    start.lstAutoexec[row] = line;
+    start.changed.Tell(Changed::Commands);
+}
+
+} // namespace pelorin::dosboxconf

@@ -1,0 +1,151 @@
+#include "running/DosboxLaunch.h"
+
+#include "running/RunPlan.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::running {
+
+namespace {
+
+using platform::Error;
+using platform::ErrorKind;
+using platform::PathForm;
+
+bool BreaksItsLine(QChar c)
+{
+    return c == u'"' || c == u'\r' || c == u'\n';
+}
+
+bool IsAscii(const QString& text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 128; });
+}
+
+/// As the emulator counts it: without the carriage returns.
+qsizetype AutoexecSize(const QByteArray& printed)
+{
+    static constexpr QByteArrayView kHead = "[autoexec]\r\n";
+    const qsizetype head = printed.lastIndexOf(kHead);
+    if (head < 0) {
+        return 0;
+    }
+    const QByteArrayView section = QByteArrayView(printed).sliced(head + kHead.size());
+    return section.size() - std::count(section.begin(), section.end(), '\r');
+}
+
+platform::Done CheckPath(const QString& path, qsizetype firstTooLong)
+{
+    const qsizetype bytes = QFile::encodeName(path).size();
+    if (bytes < firstTooLong) {
+        return platform::Success();
+    }
+    return Error{
+        ErrorKind::Refused,
+        u"%1: the path has %2 bytes; DOSBox takes no more than %3 here"_s.arg(path).arg(bytes).arg(
+            firstTooLong - 1)};
+}
+
+platform::Done CheckImages(const dosboxconf::RunFacts& facts)
+{
+    const dosboxconf::CdChoice& cd = facts.request.cd;
+    if (cd.chkCD && cd.CdMountMode != 0) {
+        for (const QString& image : cd.lstCD) {
+            if (platform::Done fits =
+                    CheckPath(facts.cdFolder.Below(image).native, kImagePathBytes);
+                !fits) {
+                return fits;
+            }
+        }
+    }
+    return platform::Success();
+}
+
+platform::Done CheckAutoexec(const QByteArray& printed)
+{
+    const bool gravis = printed.contains("\r\ngus=true\r\n");
+    const qsizetype most = gravis ? kAutoexecBytesWithGravis : kAutoexecBytes;
+    const qsizetype bytes = AutoexecSize(printed);
+    if (bytes <= most) {
+        return platform::Success();
+    }
+    return Error{
+        ErrorKind::Refused,
+        u"The [autoexec] section has %1 bytes; DOSBox takes %2. Fewer start commands or CD "
+        "images would help."_s.arg(bytes)
+            .arg(most)};
+}
+
+QStringList TypedCommands(const RunRequest& request)
+{
+    switch (request.mode) {
+    case RunMode::Game:
+    case RunMode::NetHost:
+    case RunMode::NetClient: return request.startCommands;
+    case RunMode::FileWithArgs: return {request.typedLine};
+    case RunMode::DosPrompt:
+    case RunMode::LibraryShell: break;
+    }
+    return {};
+}
+
+} // namespace
+
+platform::Done CheckRequest(const RunRequest& request, const QString& build)
+{
+    if (build.isEmpty() && request.mode != RunMode::LibraryShell) {
+        return Error{
+            ErrorKind::Refused, u"%1: its settings name no known build"_s.arg(request.folder)};
+    }
+    if (std::any_of(request.folder.begin(), request.folder.end(), BreaksItsLine)) {
+        return Error{
+            ErrorKind::Refused,
+            u"%1: a quotation mark or a line break in the folder's name can't be written "
+            "to dosbox.conf"_s.arg(request.folder)};
+    }
+    return platform::Success();
+}
+
+platform::Done CheckLaunch(
+    const dosboxconf::RunFacts& facts, const platform::HostText& finished, PathForm form)
+{
+    if (form == PathForm::Windows) {
+        return platform::Success();
+    }
+    const QString& mounted =
+        facts.request.mountRoot ? facts.gamesRoot.native : facts.gameDir.native;
+    if (platform::Done fits = CheckPath(mounted, kMountPathBytes); !fits) {
+        return fits;
+    }
+    if (platform::Done fits = CheckImages(facts); !fits) {
+        return fits;
+    }
+    return CheckAutoexec(finished.Print(form));
+}
+
+QStringList LaunchNotes(
+    const RunRequest& request, const platform::HostText& finished, PathForm form)
+{
+    QStringList notes;
+    if (form == PathForm::Posix) {
+        const QStringList commands = TypedCommands(request);
+        for (const QString& command : commands) {
+            if (!IsAscii(command)) {
+                notes << u"%1: DOSBox can't open a file with such a name"_s.arg(command);
+            }
+        }
+    }
+    if (const QString lost = finished.Lost(form); !lost.isEmpty()) {
+        notes << u"dosbox.conf can't hold these characters: %1"_s.arg(lost);
+    }
+    if (request.mode == RunMode::NetHost && request.serverPort != dosboxconf::kIpxPort) {
+        notes << u"The IPX server listens on port %1"_s.arg(request.serverPort);
+    }
+    return notes;
+}
+
+} // namespace pelorin::running
