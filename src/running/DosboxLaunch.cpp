@@ -38,10 +38,22 @@ qsizetype AutoexecSize(const QByteArray& printed)
     return section.size() - std::count(section.begin(), section.end(), '\r');
 }
 
-platform::Done CheckPath(const QString& path, qsizetype firstTooLong)
+Error BrokenName(const QString& name)
 {
+    return Error{
+        ErrorKind::Refused,
+        u"%1: a quotation mark or a line break in a name can't be written to dosbox.conf"_s.arg(
+            name)};
+}
+
+/// `firstTooLong` bytes and more are refused.
+platform::Done CheckPath(const QString& path, qsizetype firstTooLong, PathForm form)
+{
+    if (std::any_of(path.begin(), path.end(), BreaksItsLine)) {
+        return BrokenName(path);
+    }
     const qsizetype bytes = QFile::encodeName(path).size();
-    if (bytes < firstTooLong) {
+    if (form == PathForm::Windows || bytes < firstTooLong) {
         return platform::Success();
     }
     return Error{
@@ -50,16 +62,16 @@ platform::Done CheckPath(const QString& path, qsizetype firstTooLong)
             firstTooLong - 1)};
 }
 
-platform::Done CheckImages(const dosboxconf::RunFacts& facts)
+platform::Done CheckImages(const dosboxconf::RunFacts& facts, PathForm form)
 {
     const dosboxconf::CdChoice& cd = facts.request.cd;
-    if (cd.chkCD && cd.CdMountMode != 0) {
-        for (const QString& image : cd.lstCD) {
-            if (platform::Done fits =
-                    CheckPath(facts.cdFolder.Below(image).native, kImagePathBytes);
-                !fits) {
-                return fits;
-            }
+    if (!cd.chkCD || cd.CdMountMode == 0) {
+        return platform::Success();
+    }
+    for (const QString& image : cd.lstCD) {
+        const QString path = facts.cdFolder.Below(image).native;
+        if (platform::Done fits = CheckPath(path, kImagePathBytes, form); !fits) {
+            return fits;
         }
     }
     return platform::Success();
@@ -102,10 +114,7 @@ platform::Done CheckRequest(const RunRequest& request, const QString& build)
             ErrorKind::Refused, u"%1: its settings name no known build"_s.arg(request.folder)};
     }
     if (std::any_of(request.folder.begin(), request.folder.end(), BreaksItsLine)) {
-        return Error{
-            ErrorKind::Refused,
-            u"%1: a quotation mark or a line break in the folder's name can't be written "
-            "to dosbox.conf"_s.arg(request.folder)};
+        return BrokenName(request.folder);
     }
     return platform::Success();
 }
@@ -113,18 +122,15 @@ platform::Done CheckRequest(const RunRequest& request, const QString& build)
 platform::Done CheckLaunch(
     const dosboxconf::RunFacts& facts, const platform::HostText& finished, PathForm form)
 {
-    if (form == PathForm::Windows) {
-        return platform::Success();
-    }
     const QString& mounted =
         facts.request.mountRoot ? facts.gamesRoot.native : facts.gameDir.native;
-    if (platform::Done fits = CheckPath(mounted, kMountPathBytes); !fits) {
+    if (platform::Done fits = CheckPath(mounted, kMountPathBytes, form); !fits) {
         return fits;
     }
-    if (platform::Done fits = CheckImages(facts); !fits) {
+    if (platform::Done fits = CheckImages(facts, form); !fits) {
         return fits;
     }
-    return CheckAutoexec(finished.Print(form));
+    return form == PathForm::Posix ? CheckAutoexec(finished.Print(form)) : platform::Success();
 }
 
 QStringList LaunchNotes(

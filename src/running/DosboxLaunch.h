@@ -26,8 +26,9 @@ inline constexpr qsizetype kAutoexecBytesWithGravis = 4008;
 /// out of its line of dosbox.conf (a quotation mark or a line break).
 platform::Done CheckRequest(const RunRequest& request, const QString& build);
 
-/// Before the text is written: the mounted paths and the size of [autoexec] as printed in `form`.
-/// The limits are those of a native DOSBox, so the Windows form always passes. Error Refused.
+/// Before the text is written: quotation marks and line breaks in the paths that are mounted, and
+/// for the POSIX form, which a native DOSBox reads, their length and the size of [autoexec].
+/// Error Refused.
 platform::Done CheckLaunch(
     const dosboxconf::RunFacts& facts, const platform::HostText& finished, platform::PathForm form);
 
