@@ -1,0 +1,200 @@
+#include "commands/Installation.h"
+#include "library/CatalogueCommands.h"
+#include "shell/JobCommands.h"
+#include "shell/LifecycleCommands.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace pelorin;
+using test::Installation;
+
+TEST(Lifecycle, FirstStartMakesWhatIsMissingAndShowsTheFirstGame)
+{
+    Installation app;
+    app.AddGame(u"별 헤는 밤 (Star) [1]"_s, u"DOSBOX"_s);
+    app.AddGame(u"가나다"_s);
+    const auto launcher = app.Start();
+
+    EXPECT_EQ(launcher->WindowTitle, u"[펠로린 Ver.16.10.01.03] by 베스프라"_s);
+    ASSERT_EQ(launcher->screens.list.items.size(), 2U);
+    EXPECT_EQ(launcher->current.CurrentFolder, u"가나다"_s);
+    EXPECT_EQ(launcher->screens.frame.caption, u"가나다 : ["_s + launcher->WindowTitle + u']');
+    EXPECT_TRUE(launcher->screens.status.count.endsWith(u"2 / 2"_s));
+    EXPECT_EQ(launcher->screens.start.lstAutoexec, QStringList{u"game.com"_s});
+    EXPECT_TRUE(launcher->flags.BusyReady);
+    EXPECT_TRUE(launcher->screens.frame.picBack0Enabled);
+    EXPECT_FALSE(launcher->screens.progress.visible);
+    for (const QString& made : {u"Launcher.cfg"_s, u"Default.conf"_s, u"Export"_s, u"preset"_s}) {
+        EXPECT_TRUE(app.folder.Exists(made)) << made.toStdString();
+    }
+    EXPECT_TRUE(app.folder.Exists(u"Games/별 헤는 밤 (Star) [1]/DOSBOX/autoexec.conf"_s));
+    EXPECT_FALSE(app.folder.Exists(u"Games/별 헤는 밤 (Star) [1]/DosBox"_s));
+    EXPECT_TRUE(launcher->screens.status.notes.empty());
+}
+
+TEST(Lifecycle, WhatOneRunSavesTheNextOneReadsWithoutOpeningAGame)
+{
+    Installation app;
+    app.AddGame(u"하나"_s);
+    app.AddGame(u"둘"_s);
+    {
+        const auto first = app.Start();
+        first->screens.list.view = finding::View::Details;
+        ASSERT_TRUE(shell::Form_Unload(*first));
+    }
+    const QByteArray list = app.folder.ReadRaw(u"Gamelist.lst"_s);
+    const QByteArray sheet = app.folder.ReadRaw(u"IconList.bmp"_s);
+    // A title that only the cache can know.
+    QByteArray changed = list;
+    ASSERT_TRUE(changed.contains("\x01\xb5\xd1\x03"));
+    changed.replace("\x01\xb5\xd1\x03", "\x01\xb6\xd1\x03");
+    app.folder.WriteRaw(u"Gamelist.lst"_s, changed);
+
+    const auto second = app.Start();
+    EXPECT_EQ(second->screens.list.view, finding::View::Details);
+    EXPECT_NE(second->catalogue.at(0).TitleK, second->catalogue.at(0).TitleE);
+    ASSERT_TRUE(shell::Form_Unload(*second));
+    EXPECT_EQ(app.folder.ReadRaw(u"Gamelist.lst"_s), changed);
+    EXPECT_EQ(app.folder.ReadRaw(u"IconList.bmp"_s), sheet);
+
+    // A damaged cache heals by a scan.
+    app.folder.WriteRaw(u"Gamelist.lst"_s, "damaged\r\n");
+    const auto third = app.Start();
+    ASSERT_EQ(third->catalogue.size(), 2U);
+    ASSERT_TRUE(shell::Form_Unload(*third));
+    EXPECT_EQ(app.folder.ReadRaw(u"Gamelist.lst"_s), list);
+}
+
+TEST(Lifecycle, ChangedRootsAreScannedAtTheNextStart)
+{
+    Installation app;
+    app.AddGame(u"하나"_s);
+    const auto launcher = app.Start();
+    launcher->places.gamesRoot = app.folder.Path(u"Other"_s);
+    launcher->settings.rootsChanged = true;
+    app.folder.MakeTree({u"Other/셋/GO.EXE"_s});
+    app.folder.WriteRaw(u"Gamelist.lst"_s, "of the old root");
+    ASSERT_TRUE(shell::Form_Unload(*launcher));
+    EXPECT_FALSE(app.folder.Exists(u"Gamelist.lst"_s));
+
+    const auto next = app.Start();
+    ASSERT_EQ(next->catalogue.size(), 1U);
+    EXPECT_EQ(next->catalogue.front().Folder, u"셋"_s);
+}
+
+TEST(Lifecycle, EmptyLibraryIsToldOnceAndDisablesThePanels)
+{
+    Installation app;
+    app.folder.WriteRaw(u"IconList.bmp"_s, "stale");
+    const auto launcher = app.Start();
+    ASSERT_EQ(app.fakes.prompts.Asked().size(), 1U);
+    EXPECT_EQ(
+        app.fakes.prompts.Asked().front().text,
+        launcher->lang[135] + u"\r\n\r\n"_s + launcher->lang[134]);
+    EXPECT_FALSE(launcher->screens.frame.picBack0Enabled);
+    EXPECT_FALSE(launcher->screens.frame.picBack1Enabled);
+    EXPECT_FALSE(app.folder.Exists(u"IconList.bmp"_s));
+    EXPECT_TRUE(launcher->flags.BusyReady);
+
+    // A game appears: the scan enables them again.
+    app.AddGame(u"하나"_s);
+    library::cmdRefresh_Click(*launcher);
+    EXPECT_TRUE(launcher->screens.frame.picBack1Enabled);
+    EXPECT_EQ(launcher->current.CurrentFolder, u"하나"_s);
+    EXPECT_TRUE(shell::Form_Unload(*launcher));
+}
+
+TEST(Lifecycle, NamesTheFileAndLineThatItCantStartWithout)
+{
+    struct Row {
+        const char* name;
+        QString file;
+        QStringList lines;
+        QString named;
+    };
+    const Row rows[] = {
+        {"no language", u"Language.dat"_s, {}, u"Language.dat"_s},
+        {"short language", u"Language.dat"_s, {u"펠로린"_s, u"b"_s}, u":3"_s},
+        {"options without an end",
+         u"option.dat"_s,
+         {u""_s, u"@Tx"_s, u"t|k;1;<TEXT>"_s},
+         u"option.dat"_s},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        Installation app;
+        app.folder.WriteLines(row.file, row.lines);
+        if (row.lines.isEmpty()) {
+            QFile::remove(app.folder.Path(row.file));
+        }
+        const QStringList before = app.folder.Tree();
+        const auto launcher = app.NewLauncher();
+        const platform::Done loaded = shell::Form_Load(*launcher);
+        ASSERT_FALSE(loaded);
+        EXPECT_TRUE(loaded.Failure().text.contains(row.named))
+            << loaded.Failure().text.toStdString();
+        EXPECT_EQ(app.folder.Tree(), before);
+    }
+}
+
+TEST(Lifecycle, ClosingIsRefusedDuringAJobAndAsksWhenSavingFails)
+{
+    Installation app;
+    app.AddGame(u"하나"_s);
+    const auto launcher = app.Start();
+    {
+        const shell::Job job(*launcher);
+        EXPECT_FALSE(shell::Form_Unload(*launcher));
+        EXPECT_FALSE(shell::Job(*launcher).Held());
+        EXPECT_FALSE(launcher->flags.BusyReady);
+    }
+    EXPECT_TRUE(app.fakes.prompts.Asked().empty());
+
+    // A folder in the file's place can't be replaced by a file.
+    QFile::remove(app.folder.Path(u"Launcher.cfg"_s));
+    app.folder.MakeTree({u"Launcher.cfg/x"_s});
+    app.fakes.prompts.WillAnswer(platform::Answer::No);
+    EXPECT_FALSE(shell::Form_Unload(*launcher));
+    ASSERT_EQ(app.fakes.prompts.Asked().size(), 1U);
+    EXPECT_TRUE(app.fakes.prompts.Asked().front().text.contains(u"Launcher.cfg"_s));
+    EXPECT_FALSE(launcher->flags.Ending);
+    app.fakes.prompts.WillAnswer(platform::Answer::Yes);
+    EXPECT_TRUE(shell::Form_Unload(*launcher));
+}
+
+TEST(Lifecycle, ObsoleteEmulatorFolderGoesToTheBin)
+{
+    Installation app;
+    app.AddGame(u"하나"_s);
+    app.folder.MakeTree({u"Emulator/np21/saved.bin"_s});
+    app.Start();
+    EXPECT_FALSE(app.folder.Exists(u"Emulator/np21"_s));
+    EXPECT_EQ(app.fakes.bin.Moved().size(), 1);
+
+    app.folder.MakeTree({u"Elsewhere/precious"_s});
+    app.folder.MakeLink(u"Emulator/NP21"_s, app.folder.Path(u"Elsewhere"_s));
+    app.Start();
+    EXPECT_TRUE(app.folder.Exists(u"Elsewhere/precious"_s));
+    EXPECT_TRUE(app.folder.Exists(u"Emulator/NP21"_s));
+}
+
+TEST(Notice, BlinksBlackRedBlueWhileItStands)
+{
+    Installation app;
+    const auto launcher = app.NewLauncher();
+    shell::BusyNotice& notice = launcher->screens.notice;
+    shell::ShowBusyMessage(*launcher, u"일"_s);
+    QList<std::uint32_t> colours;
+    for (int tick = 0; tick < 4; ++tick) {
+        app.fakes.timers.Advance(500);
+        colours << notice.colour;
+    }
+    EXPECT_EQ(colours, (QList<std::uint32_t>{255, 16711680, 0, 255}));
+    shell::HideBusyMessage(*launcher);
+    EXPECT_FALSE(notice.visible);
+    EXPECT_EQ(app.fakes.timers.Running(), 0);
+}

@@ -1,0 +1,223 @@
+#include "commands/Installation.h"
+#include "library/ShowinfoCommands.h"
+#include "running/RunCommands.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace pelorin;
+using test::Click;
+using test::Installation;
+
+namespace {
+
+QString LastNote(const shell::Launcher& launcher)
+{
+    return launcher.screens.status.notes.empty() ? QString()
+                                                 : launcher.screens.status.notes.back().text;
+}
+
+const shell::MenuEntry* EntryOf(const shell::MenuModel& menu, int index)
+{
+    for (const shell::MenuEntry& entry : menu) {
+        if (entry.index == index) {
+            return &entry;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+TEST(Run, StartsTheSelectedGameWithItsConf)
+{
+    Installation app;
+    const QString game = u"별 헤는 밤 (Star) [1]"_s;
+    app.AddGame(game, u"DOSBOX"_s);
+    const auto launcher = app.Start();
+    library::LVGamelist_DblClick(*launcher);
+
+    ASSERT_EQ(app.fakes.processes.Starts().size(), 1U);
+    const platform::ProcessRequest& request = app.fakes.processes.Starts().front().request;
+    EXPECT_EQ(request.program, app.folder.Path(u"DOSBox/0.74_SVN/dosbox"_s));
+    EXPECT_EQ(
+        request.arguments,
+        (QStringList{u"-nolog"_s, u"-disable_numlock_check"_s, u"-noconsole"_s}));
+    EXPECT_EQ(request.workingFolder, app.folder.Path(u"DOSBox/0.74_SVN"_s));
+
+    const QByteArray conf = app.folder.ReadRaw(u"DOSBox/0.74_SVN/dosbox.conf"_s);
+    const QString gameDir = app.folder.Path(u"Games/"_s + game);
+    for (const QByteArray& line :
+         {"\r\nMount c \"" + gameDir.toUtf8() + "\"\r\n",
+          "\r\ncaptures=" + gameDir.toUtf8() + "/DOSBOX\r\n",
+          QByteArray("\r\nMount x ../../Dos/Util\r\n"),
+          QByteArray("\r\nc:\r\ngame.com\r\n")}) {
+        EXPECT_TRUE(conf.contains(line)) << line.constData();
+    }
+    EXPECT_TRUE(launcher->screens.status.notes.empty());
+    EXPECT_EQ(launcher->recent.RecentFolders[0], game);
+}
+
+TEST(Run, UnsavedStartCommandsCountAndTheGamesOwnSettingsRule)
+{
+    Installation app;
+    app.AddGame(u"하나"_s);
+    app.folder.WriteScript(u"DOSBox/0.74/dosbox_debug"_s, u"exit 0\n"_s);
+    const auto launcher = app.Start();
+    // Build 1 is "0.74", and cell (2,0) switches the log on.
+    QStringList own = app.folder.ReadLines(u"Default.conf"_s);
+    own[1] = u"1"_s;
+    own[1 + 2 * 81] = QString::number(launcher->options.Values({2, 0}).indexOf(u"true"_s));
+    app.folder.WriteLines(u"Games/하나/DosBox/edit.conf"_s, own);
+    Click(*launcher, u"하나"_s);
+    launcher->screens.start.lstAutoexec = {u"cd data"_s, u"other.exe"_s};
+    running::RunGame(*launcher);
+
+    ASSERT_EQ(app.fakes.processes.Starts().size(), 1U);
+    const platform::ProcessRequest& request = app.fakes.processes.Starts().front().request;
+    EXPECT_EQ(request.program, app.folder.Path(u"DOSBox/0.74/dosbox_debug"_s));
+    EXPECT_FALSE(request.arguments.contains(u"-noconsole"_s));
+    const QByteArray conf = app.folder.ReadRaw(u"DOSBox/0.74/dosbox.conf"_s);
+    EXPECT_TRUE(conf.endsWith("c:\r\ncd data\r\nother.exe\r\n"));
+    EXPECT_TRUE(conf.contains("waitonerror=true"));
+}
+
+TEST(Run, TellsWhyNothingStarts)
+{
+    struct Row {
+        const char* name;
+        void (*spoil)(Installation&, shell::Launcher&);
+        QString told;
+        bool started;
+    };
+    const Row rows[] = {
+        {"no emulator",
+         [](Installation& app, shell::Launcher&) {
+             QFile::remove(app.folder.Path(u"DOSBox/0.74_SVN/dosbox"_s));
+         },
+         u"dosbox"_s,
+         false},
+        {"folder gone",
+         [](Installation& app, shell::Launcher&) {
+             QDir(app.folder.Path(u"Games/하나"_s)).removeRecursively();
+         },
+         u"하나"_s,
+         false},
+        {"packed",
+         [](Installation& app, shell::Launcher&) {
+             app.folder.MakeTree({u"Games/하나/store.7z"_s});
+         },
+         u"하나"_s,
+         false},
+        {"build off the list",
+         [](Installation& app, shell::Launcher&) {
+             app.folder.WriteLines(u"Games/하나/DosBox/edit.conf"_s, {u"ver.15.02.01"_s, u"77"_s});
+         },
+         u"하나"_s,
+         false},
+        {"another emulator",
+         [](Installation& app, shell::Launcher&) {
+             app.folder.WriteLines(u"Games/하나/DosBox/edit.conf"_s, {u"ver.15.02.01"_s, u"14"_s});
+         },
+         u"SNES9X"_s,
+         false},
+        {"too many commands",
+         [](Installation&, shell::Launcher& launcher) {
+             launcher.screens.start.lstAutoexec = QStringList(400, u"rem a long line"_s);
+         },
+         u"4096"_s,
+         false},
+        {"the system refuses",
+         [](Installation& app, shell::Launcher&) {
+             app.fakes.processes.RefuseNext(platform::ErrorKind::Refused, u"no memory"_s);
+         },
+         u"no memory"_s,
+         true},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        Installation app;
+        app.AddGame(u"하나"_s);
+        const auto launcher = app.Start();
+        row.spoil(app, *launcher);
+        running::RunGame(*launcher);
+        EXPECT_TRUE(LastNote(*launcher).contains(row.told)) << LastNote(*launcher).toStdString();
+        EXPECT_EQ(app.fakes.processes.Starts().size(), row.started ? 1U : 0U);
+        EXPECT_EQ(app.folder.Exists(u"DOSBox/0.74_SVN/dosbox.conf"_s), row.started);
+        EXPECT_TRUE(launcher->recent.RecentFolders[0].isEmpty());
+        EXPECT_TRUE(app.fakes.prompts.Asked().empty());
+    }
+}
+
+TEST(Run, AnEmulatorThatEndsAtOnceTellsItsWholeStory)
+{
+    Installation app;
+    app.AddGame(u"하나"_s);
+    const auto launcher = app.Start();
+    running::RunGame(*launcher);
+    app.fakes.processes.End(0, 3000, "played");
+    EXPECT_TRUE(launcher->screens.status.notes.empty());
+
+    running::RunGame(*launcher);
+    app.fakes.processes.End(1, 2999, "Can't open display");
+    ASSERT_EQ(launcher->screens.status.notes.size(), 1U);
+    const QString& story = launcher->screens.status.notes.front().story;
+    for (const QString& part :
+         {u"-disable_numlock_check"_s,
+          app.folder.Path(u"DOSBox/0.74_SVN"_s),
+          u"Can't open display"_s,
+          u"[autoexec]"_s}) {
+        EXPECT_TRUE(story.contains(part)) << part.toStdString();
+    }
+}
+
+TEST(Run, OffersThePromptForAGameWithoutStartCommands)
+{
+    Installation app;
+    app.folder.MakeTree({u"Games/빈 것/README"_s});
+    const auto launcher = app.Start();
+    app.fakes.prompts.WillAnswer(platform::Answer::No);
+    running::RunGame(*launcher);
+    EXPECT_EQ(launcher->screens.frame.tabInfo, 2);
+    ASSERT_EQ(app.fakes.prompts.Asked().size(), 1U);
+    EXPECT_EQ(app.fakes.prompts.Asked().front().title, launcher->lang[149]);
+    EXPECT_EQ(
+        app.fakes.prompts.Asked().front().text,
+        launcher->lang[177] + u"\r\n\r\n"_s + launcher->lang[178] + u"\r\n\r\n"_s +
+            launcher->lang[179]);
+    EXPECT_TRUE(app.fakes.processes.Starts().empty());
+}
+
+TEST(Run, RecentGamesStandInTheMenuAndStartFromIt)
+{
+    Installation app;
+    app.AddGame(u"A & B"_s);
+    app.AddGame(u"하나"_s);
+    const auto launcher = app.Start();
+    EXPECT_EQ(EntryOf(running::RunMenu(*launcher), 10), nullptr);
+    Click(*launcher, u"A & B"_s);
+    running::RunGame(*launcher);
+    Click(*launcher, u"하나"_s);
+    running::RunGame(*launcher);
+
+    const shell::MenuModel menu = running::RunMenu(*launcher);
+    ASSERT_NE(EntryOf(menu, 11), nullptr);
+    EXPECT_EQ(EntryOf(menu, 10)->text, u"하나"_s);
+    EXPECT_EQ(EntryOf(menu, 11)->text, u"A && B"_s);
+    EXPECT_TRUE(EntryOf(menu, 4)->separator);
+    EXPECT_TRUE(EntryOf(menu, 2)->text.contains(u"하나"_s));
+
+    running::mnuRun_Click(*launcher, 11);
+    EXPECT_EQ(launcher->current.CurrentFolder, u"A & B"_s);
+    EXPECT_EQ(app.fakes.processes.Starts().size(), 3U);
+    EXPECT_EQ(launcher->recent.RecentFolders[0], u"A & B"_s);
+    EXPECT_EQ(launcher->recent.RecentFolders[1], u"하나"_s);
+
+    QDir(app.folder.Path(u"Games/하나"_s)).removeRecursively();
+    running::mnuRun_Click(*launcher, 11);
+    EXPECT_EQ(launcher->current.CurrentFolder, u"A & B"_s);
+    EXPECT_EQ(app.fakes.processes.Starts().size(), 3U);
+}

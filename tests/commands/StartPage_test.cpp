@@ -1,0 +1,86 @@
+#include "commands/Installation.h"
+#include "dosboxconf/StartCommandsFile.h"
+#include "dosboxconf/StartPageCommands.h"
+#include "library/CatalogueCommands.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace pelorin;
+using test::Click;
+using test::Installation;
+
+TEST(StartPage, EditsAndSavesTheCommandsOfTheGameOnHand)
+{
+    Installation app;
+    app.AddGame(u"하나"_s);
+    app.AddGame(u"둘"_s);
+    const auto launcher = app.Start();
+    Click(*launcher, u"하나"_s);
+    app.fakes.prompts.WillType(u"  game.com /x "_s);
+    dosboxconf::lstAutoexec_DblClick(*launcher, 0);
+    EXPECT_EQ(app.fakes.prompts.Asked().front().preset, u"game.com"_s);
+    dosboxconf::AddSelectedFile(launcher->screens.start);
+    dosboxconf::WriteAutoexecConf(*launcher);
+    EXPECT_EQ(
+        app.folder.ReadRaw(u"Games/하나/DosBox/autoexec.conf"_s), "game.com /x\r\nGAME.COM\r\n");
+
+    // What code page 949 can't keep leaves the file as it is and is told.
+    launcher->screens.start.lstAutoexec = {u"caf\u00e9"_s};
+    dosboxconf::WriteAutoexecConf(*launcher);
+    EXPECT_EQ(launcher->screens.status.notes.size(), 1U);
+    EXPECT_EQ(app.folder.ReadLines(u"Games/하나/DosBox/autoexec.conf"_s).size(), 2);
+
+    Click(*launcher, u"둘"_s);
+    EXPECT_EQ(launcher->screens.start.lstAutoexec, QStringList{u"game.com"_s});
+}
+
+TEST(StartPage, TheNextGameDoesNotInheritTheCd)
+{
+    Installation app;
+    app.AddGame(u"하나"_s);
+    app.AddGame(u"둘"_s);
+    app.folder.MakeTree({u"Games/하나/DosBox/CD/b.cue"_s, u"Games/하나/DosBox/CD/a.ISO"_s});
+    const auto launcher = app.Start();
+    Click(*launcher, u"하나"_s);
+    dosboxconf::chkCD_Click(*launcher, true);
+    EXPECT_EQ(launcher->screens.cd.lstCD, (QStringList{u"a.ISO"_s, u"b.cue"_s}));
+    dosboxconf::cmdSaveCD_Click(*launcher);
+    EXPECT_EQ(app.folder.ReadRaw(u"Games/하나/DosBox/CD.conf"_s), "0\r\n1\r\n");
+    EXPECT_EQ(launcher->current.CurrentTitle, u"하나 [CD]"_s);
+    const int row = launcher->screens.list.RowOf(u"하나"_s);
+    EXPECT_EQ(
+        launcher->screens.list.items.at(static_cast<std::size_t>(row)).text[0], u"하나 [CD]"_s);
+
+    QDir(app.folder.Path(u"Games/둘/DosBox/CD"_s)).removeRecursively();
+    Click(*launcher, u"둘"_s);
+    EXPECT_FALSE(launcher->screens.cd.chkCD);
+    dosboxconf::cmdSaveCD_Click(*launcher);
+    EXPECT_FALSE(app.folder.Exists(u"Games/둘/DosBox/CD.conf"_s));
+}
+
+TEST(Catalogue, AGameLeavesOnlyWhenTheBinTookIt)
+{
+    Installation app;
+    app.AddGame(u"하나"_s);
+    app.AddGame(u"둘"_s);
+    const auto launcher = app.Start();
+    app.fakes.bin.refuseAll = true;
+    EXPECT_FALSE(library::RemoveGameEntry(*launcher, u"둘"_s));
+    EXPECT_EQ(launcher->catalogue.size(), 2U);
+    app.fakes.bin.refuseAll = false;
+    for (const QString& name : {u""_s, u".."_s, u"../Games"_s}) {
+        EXPECT_FALSE(library::RemoveGameEntry(*launcher, name)) << name.toStdString();
+    }
+    EXPECT_TRUE(library::RemoveGameEntry(*launcher, u"둘"_s));
+    ASSERT_EQ(launcher->catalogue.size(), 1U);
+    EXPECT_EQ(launcher->catalogue.front().ListIndex, 1);
+    EXPECT_EQ(launcher->icons.Count(), 1);
+
+    EXPECT_TRUE(library::RemoveGameEntry(*launcher, u"하나"_s));
+    EXPECT_EQ(app.fakes.prompts.Asked().size(), 1U);
+    EXPECT_FALSE(launcher->screens.frame.picBack1Enabled);
+}
