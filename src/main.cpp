@@ -1,4 +1,143 @@
-int main()
+// Makes the ports, the Launcher and the form, wires the user's deeds to the commands, and holds no
+// rule.
+
+#include "archives/FileCommands.h"
+#include "dosboxconf/StartCommandsFile.h"
+#include "dosboxconf/StartPageCommands.h"
+#include "finding/FilterCommands.h"
+#include "forms/Deeds.h"
+#include "forms/QtPrompts.h"
+#include "forms/Shown.h"
+#include "forms/frmDosGames.h"
+#include "library/CatalogueCommands.h"
+#include "library/IconImages.h"
+#include "library/ShowinfoCommands.h"
+#include "platform/DesktopShellVerbs.h"
+#include "platform/DetachedProcesses.h"
+#include "platform/ProgramHost.h"
+#include "platform/QtTimers.h"
+#include "platform/XdgBin.h"
+#include "running/RunCommands.h"
+#include "shell/CommandLine.h"
+#include "shell/Launcher.h"
+#include "shell/LifecycleCommands.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+using namespace pelorin;
+
+namespace {
+
+void Say(const QString& text)
 {
-    return 0;
+    std::fputs(QString(text + u'\n').toLocal8Bit().constData(), stderr);
+}
+
+QStringList ArgumentsOf(int argc, char** argv)
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i) {
+        arguments << QString::fromLocal8Bit(argv[i]);
+    }
+    return arguments;
+}
+
+/// The folder of the executable, whatever the working folder and the links on the way.
+QString AppDir()
+{
+    return QFileInfo(u"/proc/self/exe"_s).canonicalPath();
+}
+
+library::IconPixels DefaultIcon(const shell::Places& places)
+{
+    const platform::Outcome<library::IconPixels> icon =
+        library::LoadIcon(places.InAppDir(u"pictures/default.png"_s));
+    if (!icon) {
+        Say(icon.Failure().text);
+    }
+    return icon.ValueOr(library::PlainIcon(library::kLargeIcon, 96, 96, 96));
+}
+
+void WireStartPage(forms::Deeds& deeds, shell::Launcher& launcher)
+{
+    dosboxconf::StartCommands& start = launcher.screens.start;
+    deeds.cmdAddExec_Click = [&] { dosboxconf::AddSelectedFile(start); };
+    deeds.cmdAddEmpty_Click = [&] { dosboxconf::AddEmptyLine(start); };
+    deeds.cmdDelete_Click = [&] { dosboxconf::DeleteLine(start); };
+    deeds.cmdUp_Click = [&] { dosboxconf::MoveLineUp(start); };
+    deeds.cmdDown_Click = [&] { dosboxconf::MoveLineDown(start); };
+    deeds.lstAutoexec_DblClick = [&](int row) { dosboxconf::lstAutoexec_DblClick(launcher, row); };
+    deeds.cmdSaveExec_Click = [&] { dosboxconf::WriteAutoexecConf(launcher); };
+    deeds.chkCD_Click = [&](bool checked) { dosboxconf::chkCD_Click(launcher, checked); };
+    deeds.chkMountCD_Click = [&](bool checked) { dosboxconf::chkMountCD_Click(launcher, checked); };
+    deeds.mnuCD_Click = [&](int index) { dosboxconf::mnuCD_Click(launcher, index); };
+    deeds.cmdSaveCD_Click = [&] { dosboxconf::cmdSaveCD_Click(launcher); };
+}
+
+void Wire(forms::Deeds& deeds, shell::Launcher& launcher)
+{
+    deeds.LVGamelist_ItemClick = [&] { library::LVGamelist_ItemClick(launcher); };
+    deeds.LVGamelist_SelectionMoved = [&] { library::LVGamelist_SelectionMoved(launcher); };
+    deeds.LVGamelist_DblClick = [&] { library::LVGamelist_DblClick(launcher); };
+    deeds.cmdRun_Click = [&] { running::RunGame(launcher); };
+    deeds.mnuRun = [&] { return running::RunMenu(launcher); };
+    deeds.mnuRun_Click = [&](int index) { running::mnuRun_Click(launcher, index); };
+    deeds.cmdRefresh_Click = [&] { library::cmdRefresh_Click(launcher); };
+    deeds.optViewmode_Click = [&](finding::View view) { finding::SetView(launcher, view); };
+    deeds.cmdCompact_Click = [&] { archives::cmdCompact_Click(launcher); };
+    deeds.Form_Unload = [&] { return shell::Form_Unload(launcher); };
+    WireStartPage(deeds, launcher);
+}
+
+int RunWindow(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    bool ending = false;
+    forms::QtPrompts prompts;
+    platform::DetachedProcesses processes([&ending] { return ending; });
+    platform::DesktopShellVerbs shellVerbs(processes, platform::SearchPath());
+    platform::XdgBin bin(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+    platform::QtTimers timers;
+    platform::Ports ports{processes, shellVerbs, bin, prompts, timers};
+
+    shell::Launcher launcher(ports);
+    launcher.places.appDir = AppDir();
+    launcher.searchPath = platform::SearchPath();
+    launcher.defaultIcon = DefaultIcon(launcher.places);
+    prompts.SetLanguage(launcher.lang);
+
+    forms::Deeds deeds;
+    Wire(deeds, launcher);
+    forms::frmDosGames form(
+        {launcher.screens, launcher.lang, launcher.icons, launcher.options, prompts}, deeds);
+    prompts.SetParent(&form);
+    if (const platform::Done loaded = shell::Form_Load(launcher); !loaded) {
+        const QString text = loaded.Failure().text;
+        Say(text);
+        prompts.Ask(platform::MessageBox{
+            text, u"Pelorin"_s, platform::Buttons::Ok, platform::BoxIcon::Exclamation});
+        return 1;
+    }
+    const int status = QApplication::exec();
+    ending = true;
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    // Relative names mean files beside the executable.
+    QDir::setCurrent(AppDir());
+    switch (shell::ParseCommandLine(ArgumentsOf(argc, argv)).task) {
+    case shell::CommandLine::Task::OpenWindow: return RunWindow(argc, argv);
+    case shell::CommandLine::Task::EndAtOnce: return 0;
+    default: Say(u"Pelorin: merge and split are not built yet"_s); return 1;
+    }
 }

@@ -62,4 +62,13 @@ void RefreshGameList(Launcher& launcher)
     }
 }
 
+void SetView(Launcher& launcher, View view)
+{
+    const platform::RedrawLock lock(launcher.screens.gate);
+    launcher.screens.list.view = view;
+    launcher.screens.list.changed.Tell(GameList::ViewMode);
+    launcher.screens.notice.visible = false;
+    launcher.screens.notice.changed.Tell(shell::BusyNotice::All);
+}
+
 } // namespace pelorin::finding

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "finding/GameList.h"
+
 namespace pelorin::shell {
 struct Launcher;
 }
@@ -9,5 +11,8 @@ namespace pelorin::finding {
 /// Rebuilds the list out of the Catalogue and gives it the keyboard with its first row selected;
 /// the search box gets it while the list is hidden. Everybody calls this one.
 void RefreshGameList(shell::Launcher& launcher);
+
+/// optViewmode: shows the list in that view; a notice over it goes.
+void SetView(shell::Launcher& launcher, View view);
 
 } // namespace pelorin::finding
