@@ -1,0 +1,112 @@
+#include "support/TestFolder.h"
+#include "support/XSession.h"
+#include "support/Xdotool.h"
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace pelorin::test;
+
+namespace {
+
+constexpr int kStepMs = 10'000;
+const QString kGame = u"Games/별 헤는 밤 (Star) [1]"_s;
+
+/// The installation as the build stages it, in a folder that is hard on programs.
+void Stage(const TestFolder& folder, const XSession& session)
+{
+    constexpr int kStageMs = 60'000;
+    const ToolResult staged = RunTool(
+        u"cmake"_s,
+        {u"--install"_s, QStringLiteral(PELORIN_BUILD_DIR), u"--prefix"_s, folder.Path()},
+        session.Environment(),
+        kStageMs);
+    ASSERT_EQ(staged.exitCode, 0) << staged.errors.toStdString();
+}
+
+/// What the system gives a program on a desktop and nothing that we made up for it.
+QProcessEnvironment PlainEnvironment(const XSession& session)
+{
+    QProcessEnvironment plain;
+    for (const QString& name : session.Environment().keys()) {
+        if (!name.startsWith(u"QT_"_s)) {
+            plain.insert(name, session.Environment().value(name));
+        }
+    }
+    return plain;
+}
+
+} // namespace
+
+TEST(StartGame, ByKeysAloneUpToTheFileThatTheGameWrites)
+{
+    const XSession session;
+    ASSERT_TRUE(session.IsUp());
+    const TestFolder app(u"내 펠로린 100% [1]"_s);
+    Stage(app, session);
+    ASSERT_FALSE(app.Exists(kGame + u"/READY.TXT"_s));
+
+    RunProgram pelorin(app.Path(u"Pelorin"_s), {}, PlainEnvironment(session));
+    const Xdotool person(session);
+    const auto window = person.WaitForWindow(u"펠로린 Ver\\."_s, kStepMs);
+    ASSERT_TRUE(window.has_value()) << pelorin.Output().toStdString();
+    ASSERT_TRUE(person.Activate(*window, kStepMs));
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return person.Title(*window).startsWith(u"별 헤는 밤"_s); }, kStepMs))
+        << person.Title(*window).toStdString();
+
+    person.Key(u"Return"_s);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return app.Exists(kGame + u"/READY.TXT"_s); }, kStepMs))
+        << pelorin.Output().toStdString();
+    const auto emulator = person.WaitForWindow(u"DOSBox 0\\.74"_s, kStepMs);
+    ASSERT_TRUE(emulator.has_value());
+    constexpr int kColoursBesidesBlack = 8;
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            return ColourCount(session.Screenshot(), person.Geometry(*emulator)) >
+                   kColoursBesidesBlack;
+        },
+        kStepMs));
+    EXPECT_TRUE(app.Exists(kGame + u"/DOSBOX/autoexec.conf"_s));
+    EXPECT_FALSE(app.Exists(kGame + u"/DosBox"_s));
+    EXPECT_FALSE(app.Exists(kGame + u"/dosbox"_s));
+
+    // The window stays usable while the game runs, and what it did is saved when it closes.
+    person.Close(*window);
+    ASSERT_TRUE(pelorin.WaitForEnd(kStepMs));
+    EXPECT_EQ(pelorin.ExitCode(), 0) << pelorin.Output().toStdString();
+    EXPECT_TRUE(app.ReadText(u"recent.sav"_s).startsWith(u"별 헤는 밤 (Star) [1]\u0001"_s));
+    EXPECT_EQ(app.ReadRaw(u"Gamelist.lst"_s).count('\n'), 1);
+    EXPECT_EQ(app.ReadLines(u"Launcher.cfg"_s).size(), 14);
+    EXPECT_TRUE(person.FindWindow(u"DOSBox 0\\.74"_s).has_value());
+}
+
+TEST(StartGame, EndsWithStatusOneWhenALanguageLineIsMissing)
+{
+    const XSession session;
+    ASSERT_TRUE(session.IsUp());
+    const TestFolder app;
+    Stage(app, session);
+    app.WriteLines(u"Language.dat"_s, {u"펠로린"_s});
+    RunProgram pelorin(app.Path(u"Pelorin"_s), {}, PlainEnvironment(session));
+    const Xdotool person(session);
+    const auto box = person.WaitForWindow(u"^Pelorin$"_s, kStepMs);
+    ASSERT_TRUE(box.has_value()) << pelorin.Output().toStdString();
+    ASSERT_TRUE(person.Activate(*box, kStepMs));
+    person.Key(u"Return"_s);
+    ASSERT_TRUE(pelorin.WaitForEnd(kStepMs));
+    EXPECT_EQ(pelorin.ExitCode(), 1);
+    EXPECT_TRUE(pelorin.Output().contains("Language.dat:2"));
+}
+
+TEST(StartGame, AnUnknownCommandLineOpensNothing)
+{
+    const IsolatedHome home;
+    RunProgram pelorin(
+        QStringLiteral(PELORIN_BUILD_DIR "/src/Pelorin"), {u"--help"_s}, home.Environment());
+    ASSERT_TRUE(pelorin.WaitForEnd(kStepMs));
+    EXPECT_EQ(pelorin.ExitCode(), 0);
+    EXPECT_TRUE(pelorin.Output().isEmpty());
+}
