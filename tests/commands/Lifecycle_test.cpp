@@ -118,7 +118,7 @@ TEST(Lifecycle, NamesTheFileAndLineThatItCantStartWithout)
     };
     const Row rows[] = {
         {"no language", u"Language.dat"_s, {}, u"Language.dat"_s},
-        {"short language", u"Language.dat"_s, {u"펠로린"_s, u"b"_s}, u":3"_s},
+        {"short language", u"Language.dat"_s, {u"펠로린"_s, u"b"_s}, u"line 3"_s},
         {"options without an end",
          u"option.dat"_s,
          {u""_s, u"@Tx"_s, u"t|k;1;<TEXT>"_s},

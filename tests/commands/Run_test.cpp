@@ -128,7 +128,7 @@ TEST(Run, TellsWhyNothingStarts)
          [](Installation&, shell::Launcher& launcher) {
              launcher.screens.start.lstAutoexec = QStringList(400, u"rem a long line"_s);
          },
-         u"4096"_s,
+         u"[autoexec]"_s,
          false},
         {"the system refuses",
          [](Installation& app, shell::Launcher&) {

@@ -98,7 +98,7 @@ TEST(StartGame, EndsWithStatusOneWhenALanguageLineIsMissing)
     person.Key(u"Return"_s);
     ASSERT_TRUE(pelorin.WaitForEnd(kStepMs));
     EXPECT_EQ(pelorin.ExitCode(), 1);
-    EXPECT_TRUE(pelorin.Output().contains("Language.dat:2"));
+    EXPECT_TRUE(pelorin.Output().contains("Language.dat: line 2"));
 }
 
 TEST(StartGame, AnUnknownCommandLineOpensNothing)
