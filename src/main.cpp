@@ -6,11 +6,11 @@
 #include "dosboxconf/StartPageCommands.h"
 #include "finding/FilterCommands.h"
 #include "forms/Deeds.h"
+#include "forms/Pictures.h"
 #include "forms/QtPrompts.h"
 #include "forms/Shown.h"
 #include "forms/frmDosGames.h"
 #include "library/CatalogueCommands.h"
-#include "library/IconImages.h"
 #include "library/ShowinfoCommands.h"
 #include "platform/DesktopShellVerbs.h"
 #include "platform/DetachedProcesses.h"
@@ -52,16 +52,6 @@ QStringList ArgumentsOf(int argc, char** argv)
 QString AppDir()
 {
     return QFileInfo(u"/proc/self/exe"_s).canonicalPath();
-}
-
-library::IconPixels DefaultIcon(const shell::Places& places)
-{
-    const platform::Outcome<library::IconPixels> icon =
-        library::LoadIcon(places.InAppDir(u"pictures/default.png"_s));
-    if (!icon) {
-        Say(icon.Failure().text);
-    }
-    return icon.ValueOr(library::PlainIcon(library::kLargeIcon, 96, 96, 96));
 }
 
 void WireStartPage(forms::Deeds& deeds, shell::Launcher& launcher)
@@ -109,13 +99,19 @@ int RunWindow(int argc, char** argv)
     shell::Launcher launcher(ports);
     launcher.places.appDir = AppDir();
     launcher.searchPath = platform::SearchPath();
-    launcher.defaultIcon = DefaultIcon(launcher.places);
+    launcher.defaultIcon = forms::DefaultGameIcon();
     prompts.SetLanguage(launcher.lang);
 
     forms::Deeds deeds;
     Wire(deeds, launcher);
     forms::frmDosGames form(
-        {launcher.screens, launcher.lang, launcher.icons, launcher.options, prompts}, deeds);
+        {launcher.screens,
+         launcher.lang,
+         launcher.settings,
+         launcher.icons,
+         launcher.options,
+         prompts},
+        deeds);
     prompts.SetParent(&form);
     if (const platform::Done loaded = shell::Form_Load(launcher); !loaded) {
         const QString text = loaded.Failure().text;
