@@ -22,7 +22,7 @@ PseudoKey PseudoKeyOf(const QString& key)
 {
     struct Row {
         QStringView key;
-        PseudoKey pseudo;
+        PseudoKey pseudo = PseudoKey::None;
     };
     static constexpr Row kRows[] = {
         {u"log", PseudoKey::Log},

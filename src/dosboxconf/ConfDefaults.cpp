@@ -11,7 +11,7 @@ namespace {
 
 struct Default {
     QStringView key;
-    std::int32_t value;
+    std::int32_t value = 0;
 };
 
 // Indexes into the value lists of option.dat, but for cycles (1 is "max") and the two steps of

@@ -287,7 +287,7 @@ Outcome<ConfReport> SaveGameConf(
         }
     }
     const OldFile care = stored.whole ? CareFor(stored.layout) : OldFile::KeepIfDamaged;
-    const Outcome<ConfReport> written = WriteConf(path, global, care);
+    Outcome<ConfReport> written = WriteConf(path, global, care);
     if (!written) {
         return written;
     }

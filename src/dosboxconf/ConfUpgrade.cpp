@@ -136,7 +136,7 @@ Translation TranslationOf(const QString& key)
 {
     struct Row {
         QStringView key;
-        Translation translation;
+        Translation translation = Translation::None;
     };
     static constexpr Row kRows[] = {
         {u"sensitivity", Translation::Sensitivity},

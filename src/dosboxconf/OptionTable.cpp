@@ -76,7 +76,7 @@ OptionKind KindOfMark(const QString& mark)
 {
     struct Mark {
         QStringView text;
-        OptionKind kind;
+        OptionKind kind = OptionKind::Other;
     };
     static constexpr Mark kMarks[] = {
         {u"<INDEX>", OptionKind::Index},
@@ -134,7 +134,7 @@ public:
         const QStringList pieces = row.split(u';');
         const QStringList names = pieces.first().split(u'|');
         const QStringList values = ValuesOf(pieces.value(1));
-        if (const QString reason = WhyNot(pieces, names, values); !reason.isEmpty()) {
+        if (QString reason = WhyNot(pieces, names, values); !reason.isEmpty()) {
             return reason;
         }
         const std::size_t at =

@@ -12,8 +12,7 @@ using dosboxconf::ReadCdFacts;
 
 namespace {
 
-class CdFileTest : public testing::Test {
-protected:
+struct CdFileTest : testing::Test {
     test::TestFolder folder;
     shell::Places places{folder.Path(), folder.Path(), folder.Path()};
     CdPanel panel;
@@ -43,9 +42,9 @@ TEST_F(CdFileTest, FillingByWhatTheFolderHolds)
 {
     struct Case {
         CdFacts facts;
-        bool chkCD;
-        bool visible;
-        bool chkMountCD;
+        bool chkCD = false;
+        bool visible = false;
+        bool chkMountCD = false;
         QStringList list;
     };
     // The former game had a CD with a drive for each image.

@@ -7,7 +7,6 @@
 
 using namespace Qt::StringLiterals;
 using namespace pelorin;
-using dosboxconf::Cell;
 using dosboxconf::ConfRequest;
 using dosboxconf::ConfText;
 using dosboxconf::OptionGrid;

@@ -49,7 +49,7 @@ QStringList ConfFilesTest::Current(Values values)
 
 QStringList ConfFilesTest::Old(bool marked, Values values)
 {
-    const int items = marked ? 21 : 11;
+    const qsizetype items = marked ? 21 : 11;
     QStringList lines(11 * items, u"0"_s);
     for (const auto& [cell, value] : values) {
         lines[cell.group * items + cell.item] = value;

@@ -10,8 +10,7 @@ namespace pelorin::dosboxconf {
 
 /// An AppDir, a game "Star" with a metadata folder and a game "Bare" without, and a small table of
 /// options whose cells stand below.
-class ConfFilesTest : public testing::Test {
-protected:
+struct ConfFilesTest : testing::Test {
     using Values = std::initializer_list<std::pair<Cell, QString>>;
 
     static constexpr int kLines = 1 + kCells;

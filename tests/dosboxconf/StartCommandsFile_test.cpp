@@ -38,8 +38,7 @@ TEST(StartCommandsFileTest, WhatTheCodePageCantKeepIsRefusedAndTheOldFileStands)
     EXPECT_FALSE(WriteAutoexecConf(places, u"Gone"_s, {u"a"_s}));
 }
 
-class StartListTest : public testing::Test {
-protected:
+struct StartListTest : testing::Test {
     void Set(const QStringList& lines, int row)
     {
         start.lstAutoexec = lines;
@@ -47,7 +46,7 @@ protected:
         told = 0;
     }
 
-    void Expect(const QStringList& lines, int row)
+    void Expect(const QStringList& lines, int row) const
     {
         EXPECT_EQ(start.lstAutoexec, lines);
         EXPECT_EQ(start.commandRow, row);

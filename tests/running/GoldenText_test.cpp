@@ -13,7 +13,6 @@
 
 using namespace Qt::StringLiterals;
 using namespace pelorin;
-using dosboxconf::Cell;
 using dosboxconf::OptionGrid;
 using platform::PathForm;
 using running::RunMode;
@@ -23,7 +22,8 @@ namespace {
 QStringList Strings(const QJsonValue& array)
 {
     QStringList strings;
-    for (const QJsonValue& value : array.toArray()) {
+    const QJsonArray values = array.toArray();
+    for (const auto& value : values) {
         strings << value.toString();
     }
     return strings;
@@ -122,7 +122,7 @@ TEST(GoldenTextTest, EveryStartEqualsTheOtherComposersByteForByte)
     const QJsonArray rows = expected[u"rows"_s].toArray();
     ASSERT_EQ(rows.size(), 20 * 3 * 6 * 6); // builds, log, CDs, modes
 
-    for (const QJsonValue& value : rows) {
+    for (const auto& value : rows) {
         const QJsonObject row = value.toObject();
         const QString build = row[u"build"_s].toString();
         SCOPED_TRACE(u"%1, %2, CD: %3, log %4"_s

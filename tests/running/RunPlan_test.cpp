@@ -73,8 +73,7 @@ TEST(RunPlanTest, GuestsAndTheLibraryRunUnderTheSvnBuild)
     EXPECT_EQ(ConfigFolder(RunMode::LibraryShell, u"Win98"_s), u"Win98"_s);
 }
 
-class RunOptionsTest : public testing::Test {
-protected:
+struct RunOptionsTest : testing::Test {
     RunOptionsTest()
     {
         grid.OptionValue[OptionGrid::Index(dosboxconf::kDirectXCell)] = values;
