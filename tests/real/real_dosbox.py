@@ -67,9 +67,11 @@ class Screen:
             number = pipe.readline().strip()
         assert number, "Xvfb does not start"
         self.env["DISPLAY"] = ":" + number
-        self.start(["openbox"])
-        check = ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"]
-        wait_until(lambda: "window id" in self.run(check), 10, "openbox manages the screen")
+        # A window that asks to be shown while openbox still starts may be forgotten, and SDL then
+        # waits for ever. What --startup names runs when it is done; its properties come earlier.
+        ready = pathlib.Path(self.env["HOME"]) / "openbox-ready"
+        self.start(["openbox", "--sm-disable", "--startup", f"touch '{ready}'"])
+        wait_until(ready.exists, 10, "openbox manages the screen")
 
     def start(self, command, **more):
         """Starts a program that ends with the screen at the latest."""
