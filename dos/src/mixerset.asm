@@ -50,12 +50,12 @@ MixerAnswers:
         mov     al, 22h                 ; master volume of the plain mixer, known to every kind
         call    ReadRegister
         mov     cl, al
-        mov     ah, 99h
+        mov     ah, 88h
         mov     al, 22h
         call    WriteRegister
         mov     al, 22h
         call    ReadRegister
-        and     al, 88h                 ; the lowest bit of each half is not kept by all cards
+        and     al, 0EEh                ; the lowest bit of each half is not kept by all cards
         mov     ch, al
         mov     ah, cl
         mov     al, 22h
