@@ -1,4 +1,4 @@
-; What glitters: sparks, risings that rise, the twinkling of the sky. None of it matters for the play.
+; What glitters: sparks, words that rise, the twinkling sky. None of it matters for the play.
 
 kSparks         equ 72
 kRisings         equ 4
@@ -112,7 +112,7 @@ AddRisingNumber:
         mov     ax, cx
         call    FormatShort
         add     si, Rising_size
-        cmp     si, risings + kRisings* Rising_size
+        cmp     si, risings + kRisings * Rising_size
         jb      .kept
         mov     si, risings
 .kept:  mov     [next_rising], si
@@ -176,7 +176,7 @@ ClearEffects:
         push    ds
         pop     es
         mov     di, sparks
-        mov     cx, kSparks * Spark_size + kRisings* Rising_size
+        mov     cx, kSparks * Spark_size + kRisings * Rising_size
         xor     al, al
         rep     stosb
         pop     es

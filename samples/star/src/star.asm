@@ -6,7 +6,9 @@
 ;   LAST.TXT    what happened in the last game, a line for each level done and one for the end
 ;   SCORES.DAT  the five best, a line each: initials, score, level
 ;
-; This file: start, end, the road from the title to the play and back.
+; This file: start, end, the road from the title to the play and back. Procedures keep DS and SS and
+; need the direction flag clear; what they take and give stands with each, and other registers are
+; lost unless they save them by pusha. Assemble with nasm -f bin.
 
         cpu     386
         org     100h
@@ -19,9 +21,9 @@ start:
         mov     ah, 4Ah                 ; give back what lies behind the program
         int     21h
         jc      NoMemory
+        call    ClearVariables
         call    AllocatePictures
         jc      NoMemory
-        call    ClearVariables
         call    GuardAgainstDos
         call    LoadScores
         mov     dx, name_ready
@@ -44,18 +46,14 @@ NoMemory:
         mov     ax, 4C01h
         int     21h
 
-; What is reserved behind the program's end has no content of its own in a .COM file.
+; A .COM file holds nothing of what is reserved behind its end.
 ClearVariables:
-        push    word [picture]
-        push    word [frame]
         push    ds
         pop     es
         mov     di, variables
         mov     cx, variables_end - variables
         xor     al, al
         rep     stosb
-        pop     word [frame]
-        pop     word [picture]
         ret
 
 ; Ctrl-C must not end the program with our interrupts in place, and a disk that fails must give an
@@ -85,10 +83,12 @@ MainLoop:
 .leave: ret
 
 %include "video.asm"
+%include "palette.asm"
 %include "timer.asm"
 %include "keyboard.asm"
 %include "sound.asm"
 %include "scenery.asm"
+%include "hangul.asm"
 %include "sprites.asm"
 %include "title.asm"
 %include "effects.asm"
