@@ -126,7 +126,9 @@ bool Xdotool::Activate(const WindowId& window, int timeoutMs) const
 
 void Xdotool::Close(const WindowId& window) const
 {
-    Run({u"windowclose"_s, QString::fromLatin1(window)});
+    // "windowclose" would destroy the window under the program's feet.
+    Run({u"windowactivate"_s, u"--sync"_s, QString::fromLatin1(window)});
+    Key(u"alt+F4"_s);
 }
 
 } // namespace pelorin::test
