@@ -48,14 +48,13 @@ start_display() {
     started+=($!)
     wait_for 30 "the display" test -s "$folder/number"
     export DISPLAY=:$(cat "$folder/number")
-    rm -rf "$folder"
     unset WAYLAND_DISPLAY
-    openbox >/dev/null 2>&1 &
+    # It announces itself before it manages windows; what it runs at its start comes after that.
+    openbox --sm-disable --startup "touch $folder/managed" >/dev/null 2>&1 &
     started+=($!)
-    wait_for 30 "the window manager" is_managed
+    wait_for 30 "the window manager" test -e "$folder/managed"
+    rm -rf "$folder"
 }
-
-is_managed() { xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; }
 
 is_running() { kill -0 "$1" 2>/dev/null; }
 is_gone() { ! is_running "$1"; }

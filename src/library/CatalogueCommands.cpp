@@ -42,25 +42,27 @@ void TellTroubles(Launcher& launcher, const Troubles& troubles)
     for (const platform::Error& error : troubles.kept) {
         story << error.text;
     }
-    const QString text =
-        troubles.count == 1
-            ? story.first()
-            : launcher.lang.OwnText(351, u"%1 files could not be read or written."_s)
-                  .arg(troubles.count);
+    const QString text = troubles.count == 1 ? story.first()
+                                             : launcher.lang.OwnText(
+                                                   351,
+                                                   u"<1> files could not be read or written."_s,
+                                                   {QString::number(troubles.count)});
     shell::TellNote(launcher, kCategory, text, story.join(u'\n'));
 }
 
 void TellLeftOut(Launcher& launcher, const ScanResult& scan)
 {
     if (scan.beyondBound > 0) {
-        const QString text =
-            launcher.lang.OwnText(352, u"%1 folders are left out: a library holds 32,767 games."_s);
-        shell::TellNote(launcher, kCategory, text.arg(scan.beyondBound));
+        const QString text = launcher.lang.OwnText(
+            352,
+            u"<1> folders are left out: a library holds 32,767 games."_s,
+            {QString::number(scan.beyondBound)});
+        shell::TellNote(launcher, kCategory, text);
     }
     if (!scan.refused.isEmpty()) {
-        const QString text = launcher.lang.OwnText(353, u"%1 folders can't be games."_s);
-        shell::TellNote(
-            launcher, kCategory, text.arg(scan.refused.size()), scan.refused.join(u'\n'));
+        const QString text = launcher.lang.OwnText(
+            353, u"<1> folders can't be games."_s, {QString::number(scan.refused.size())});
+        shell::TellNote(launcher, kCategory, text, scan.refused.join(u'\n'));
     }
 }
 
@@ -265,8 +267,10 @@ Done SaveCatalogue(Launcher& launcher)
     for (const QStringList& folders : {saved.Value().leftOut, saved.Value().maimed}) {
         if (!folders.isEmpty()) {
             const QString text = launcher.lang.OwnText(
-                354, u"%1 games hold characters that the list's file can't keep."_s);
-            shell::TellNote(launcher, kCategory, text.arg(folders.size()), folders.join(u'\n'));
+                354,
+                u"<1> games hold characters that the list's file can't keep."_s,
+                {QString::number(folders.size())});
+            shell::TellNote(launcher, kCategory, text, folders.join(u'\n'));
         }
     }
     return platform::Success();

@@ -93,9 +93,10 @@ void TellEnd(
     if (end.runMs >= kTooShortMs) {
         return;
     }
-    const QString headline =
-        launcher.lang.OwnText(340, u"%1: DOSBox ended after %2 s."_s)
-            .arg(title, QString::number(static_cast<double>(end.runMs) / 1000.0, 'f', 1));
+    const QString headline = launcher.lang.OwnText(
+        340,
+        u"<1>: DOSBox ended after <2> s."_s,
+        {title, QString::number(static_cast<double>(end.runMs) / 1000.0, 'f', 1)});
     const QString output = QString::fromLocal8Bit(end.output);
     shell::TellNote(
         launcher,
@@ -169,7 +170,7 @@ bool IsThere(Launcher& launcher, const QString& folder)
     shell::TellNote(
         launcher,
         kCategory,
-        launcher.lang.OwnText(342, u"%1: the game's folder is gone."_s).arg(folder));
+        launcher.lang.OwnText(342, u"<1>: the game's folder is gone."_s, {folder}));
     return false;
 }
 
@@ -181,7 +182,7 @@ bool IsPacked(Launcher& launcher, const QString& folder)
     shell::TellNote(
         launcher,
         kCategory,
-        launcher.lang.OwnText(343, u"%1: packed games can't be started yet."_s).arg(folder));
+        launcher.lang.OwnText(343, u"<1>: packed games can't be started yet."_s, {folder}));
     return true;
 }
 
@@ -225,15 +226,15 @@ void RunGame(Launcher& launcher)
         shell::TellNote(
             launcher,
             kCategory,
-            launcher.lang.OwnText(344, u"%1: its settings name a build that is not in the list."_s)
-                .arg(folder));
+            launcher.lang.OwnText(
+                344, u"<1>: its settings name a build that is not in the list."_s, {folder}));
         break;
     default:
         shell::TellNote(
             launcher,
             kCategory,
-            launcher.lang.OwnText(345, u"%1: games of %2 can't be started yet."_s)
-                .arg(folder, build));
+            launcher.lang.OwnText(
+                345, u"<1>: games of <2> can't be started yet."_s, {folder, build}));
     }
 }
 

@@ -23,6 +23,14 @@ bool IsKoreanName(const QString& name)
     return name == u"펠로린"_s;
 }
 
+QString Filled(QString text, const QStringList& values)
+{
+    for (qsizetype i = 0; i < values.size(); ++i) {
+        text.replace(u"<%1>"_s.arg(i + 1), values[i]);
+    }
+    return text;
+}
+
 } // namespace
 
 Outcome<LangTable> LangTable::FromLines(const QStringList& lines)
@@ -48,17 +56,13 @@ const QString& LangTable::operator[](int entry) const
 
 QString LangTable::Text(int entry, const QStringList& values) const
 {
-    QString text = (*this)[entry];
-    for (qsizetype i = 0; i < values.size(); ++i) {
-        text.replace(u"<%1>"_s.arg(i + 1), values[i]);
-    }
-    return text;
+    return Filled((*this)[entry], values);
 }
 
-QString LangTable::OwnText(int entry, const QString& english) const
+QString LangTable::OwnText(int entry, const QString& english, const QStringList& values) const
 {
     const QString& text = (*this)[entry];
-    return text.isEmpty() ? english : text;
+    return Filled(text.isEmpty() ? english : text, values);
 }
 
 bool LangTable::IsKorean() const

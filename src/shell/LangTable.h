@@ -23,7 +23,8 @@ public:
     /// Placeholders <1>, <2>, <3> replaced in this order, plainly.
     QString Text(int entry, const QStringList& values) const;
     /// Entries behind kLastEntry are our own and may be missing in a file: `english` stands in.
-    QString OwnText(int entry, const QString& english) const;
+    QString OwnText(
+        int entry, const QString& english, const QStringList& values = QStringList()) const;
 
     /// Entry 1 is exactly the Korean name.
     bool IsKorean() const;

@@ -36,9 +36,9 @@ platform::Done LoadSettings(Launcher& launcher)
         TellNote(launcher, kCategory, settings.replacementReason);
     }
     for (const QString& root : settings.lostRoots) {
-        const QString text =
-            launcher.lang.OwnText(348, u"%1 is not there; the default folder stands in."_s);
-        TellNote(launcher, kCategory, text.arg(root));
+        const QString text = launcher.lang.OwnText(
+            348, u"<1> is not there; the default folder stands in."_s, {root});
+        TellNote(launcher, kCategory, text);
     }
     return platform::Success();
 }
