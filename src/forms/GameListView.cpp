@@ -229,7 +229,9 @@ void GameListView::ShowSelection()
 
 void GameListView::TakeSelection()
 {
-    if (m_following) {
+    // Under a redraw lock the rows shown may be those of a former list: getting the focus, say,
+    // selects one of them, and that is no deed of the user's.
+    if (m_following || m_shown.screens.gate.Locked()) {
         return;
     }
     std::vector<int> rows;
