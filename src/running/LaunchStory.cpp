@@ -17,10 +17,7 @@ QString Quoted(const QString& argument)
 } // namespace
 
 QString LaunchStory(
-    const QString& headline,
-    const platform::ProcessRequest& request,
-    const QString& confText,
-    const QString& output)
+    const platform::ProcessRequest& request, const QString& confText, const QString& output)
 {
     QStringList command{Quoted(request.program)};
     for (const QString& argument : request.arguments) {
@@ -31,8 +28,6 @@ QString LaunchStory(
         environment << it.key() + u'=' + it.value();
     }
     const QStringList lines{
-        headline,
-        QString(),
         u"Command: "_s + command.join(u' '),
         u"Folder: "_s + request.workingFolder,
         u"Environment added: "_s + environment.join(u' '),

@@ -12,9 +12,6 @@ inline constexpr qint64 kTooShortMs = 3000;
 /// All that a start was made of, for the user who wants to know why it failed: command, folder,
 /// environment, the text of dosbox.conf, and what the program printed.
 QString LaunchStory(
-    const QString& headline,
-    const platform::ProcessRequest& request,
-    const QString& confText,
-    const QString& output);
+    const platform::ProcessRequest& request, const QString& confText, const QString& output);
 
 } // namespace pelorin::running

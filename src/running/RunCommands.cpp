@@ -99,10 +99,7 @@ void TellEnd(
         {title, QString::number(static_cast<double>(end.runMs) / 1000.0, 'f', 1)});
     const QString output = QString::fromLocal8Bit(end.output);
     shell::TellNote(
-        launcher,
-        kCategory,
-        headline,
-        LaunchStory(headline, launch.request, launch.confShown, output));
+        launcher, kCategory, headline, LaunchStory(launch.request, launch.confShown, output));
 }
 
 /// Writes dosbox.conf and starts the emulator; it is not waited for.
@@ -135,7 +132,7 @@ void LaunchDosbox(Launcher& launcher, const RunRequest& request, const QString& 
             launcher,
             kCategory,
             reason,
-            LaunchStory(reason, launch.Value().request, launch.Value().confShown, QString()));
+            LaunchStory(launch.Value().request, launch.Value().confShown, QString()));
         return;
     }
     if (EntersRecentList(request.mode)) {
