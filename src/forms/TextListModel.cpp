@@ -24,7 +24,10 @@ RowList::RowList(const QStringList& rows, int& row, QWidget* parent)
     , m_model(rows)
     , m_row(row)
 {
+    // Taking the model tells of a current row that is none.
+    m_showing = true;
     setModel(&m_model);
+    m_showing = false;
     setUniformItemSizes(true);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(SingleSelection);

@@ -1,7 +1,7 @@
-#include "commands/Installation.h"
 #include "library/CatalogueCommands.h"
 #include "shell/JobCommands.h"
 #include "shell/LifecycleCommands.h"
+#include "support/Installation.h"
 
 #include <QDir>
 #include <QFile>

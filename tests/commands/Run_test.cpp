@@ -1,6 +1,6 @@
-#include "commands/Installation.h"
 #include "library/ShowinfoCommands.h"
 #include "running/RunCommands.h"
+#include "support/Installation.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
-#include "commands/Installation.h"
 #include "dosboxconf/StartCommandsFile.h"
 #include "dosboxconf/StartPageCommands.h"
 #include "library/CatalogueCommands.h"
+#include "support/Installation.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "commands/Installation.h"
+#include "support/Installation.h"
 
 #include "library/IconImages.h"
 #include "library/ShowinfoCommands.h"
