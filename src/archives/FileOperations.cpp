@@ -1,13 +1,12 @@
 #include "archives/FileOperations.h"
 
 #include "archives/private/FileTrees.h"
+#include "archives/private/TreeWalk.h"
 #include "platform/Paths.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-
-#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 

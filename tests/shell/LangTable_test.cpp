@@ -20,7 +20,7 @@ QStringList Lines(int count, const QString& name)
     return lines;
 }
 
-LangTable TableOf(QStringList lines)
+LangTable TableOf(const QStringList& lines)
 {
     return LangTable::FromLines(lines).Take();
 }

@@ -100,10 +100,10 @@ TEST(LauncherCfg, WindowLines)
 {
     struct Case {
         QStringList window; // lines 2 to 4
-        bool maximized;
-        double left;
-        double width;
-        double height;
+        bool maximized = false;
+        double left = 0;
+        double width = 0;
+        double height = 0;
     };
     const Case cases[] = {
         {{u"0"_s, u"300"_s, u"12000,9000"_s}, true, 100, 0, 0},

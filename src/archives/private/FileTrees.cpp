@@ -1,8 +1,9 @@
 #include "archives/private/FileTrees.h"
 
+#include "archives/private/TreeWalk.h"
+
 #include <QFile>
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -11,7 +12,6 @@
 #include <climits>
 #include <cstdio>
 #include <cstdlib>
-#include <memory>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -21,24 +21,9 @@ namespace pelorin::archives {
 using platform::Done;
 using platform::Error;
 using platform::ErrorKind;
-using platform::Outcome;
 using platform::Success;
 
 namespace {
-
-constexpr mode_t kModeBits = 07777;
-
-Error Fault(ErrorKind kind, const QByteArray& path, const QString& reason)
-{
-    return Error{kind, u"%1: %2"_s.arg(QFile::decodeName(path), reason)};
-}
-
-/// What the system says about the call that has just failed.
-Error SystemFault(ErrorKind kind, const QByteArray& path)
-{
-    const int reason = errno;
-    return Fault(reason == ENOENT ? ErrorKind::NotFound : kind, path, qt_error_string(reason));
-}
 
 class Descriptor {
 public:
@@ -61,10 +46,6 @@ private:
     int m_descriptor;
 };
 
-struct CloseDirectory {
-    void operator()(DIR* directory) const { closedir(directory); }
-};
-
 bool MayGoOn(const KeepGoing& keepGoing)
 {
     return !keepGoing || keepGoing();
@@ -74,66 +55,6 @@ Error GivenUp(const QByteArray& path)
 {
     return Fault(ErrorKind::Abandoned, path, u"given up"_s);
 }
-
-using Visit = std::function<Done(const QByteArray& path, const struct stat& status)>;
-
-/// `before` is called for each thing of the tree, a folder ahead of what it holds; `after` for each
-/// folder behind that. Stops at the first error.
-// NOLINTNEXTLINE(misc-no-recursion)
-Done Walk(const QByteArray& path, const Visit& before, const Visit& after)
-{
-    struct stat status = {};
-    if (lstat(path.constData(), &status) != 0) {
-        return SystemFault(ErrorKind::Unreadable, path);
-    }
-    Done done = before(path, status);
-    if (!done || !S_ISDIR(status.st_mode)) {
-        return done;
-    }
-    const Outcome<QList<QByteArray>> names = NamesIn(path);
-    if (!names) {
-        return names.Failure();
-    }
-    for (const QByteArray& name : names.Value()) {
-        done = Walk(path + '/' + name, before, after);
-        if (!done) {
-            return done;
-        }
-    }
-    return after(path, status);
-}
-
-Done Nothing(const QByteArray& /*path*/, const struct stat& /*status*/)
-{
-    return Success();
-}
-
-QByteArray ParentOf(const QByteArray& path)
-{
-    const qsizetype slash = path.lastIndexOf('/');
-    return slash > 0 ? path.left(slash) : QByteArray("/");
-}
-
-/// A folder on another device than the one that the tree lies in is a mount point.
-class OneFileSystem {
-public:
-    explicit OneFileSystem(const QByteArray& root)
-    {
-        m_ok = stat(ParentOf(root).constData(), &m_parent) == 0;
-    }
-
-    Done Check(const QByteArray& path, const struct stat& status) const
-    {
-        if (m_ok && S_ISDIR(status.st_mode) && status.st_dev != m_parent.st_dev) {
-            return Fault(ErrorKind::Refused, path, u"is another file system"_s);
-        }
-        return Success();
-    }
-
-private:
-    struct stat m_parent = {};
-    bool m_ok = false;
-};
 
 bool WriteAll(int descriptor, const char* bytes, ssize_t count)
 {
@@ -276,7 +197,7 @@ Done CompareTrees(const QByteArray& from, const QByteArray& to)
             return same ? Success()
                         : Done(Fault(ErrorKind::Unwritable, path, u"did not arrive whole"_s));
         },
-        Nothing);
+        DoNothing);
 }
 
 /// On the disk, not only on its way there: the source is deleted next.
@@ -358,22 +279,6 @@ Error NoSuchThing(const QString& path)
     return Error{ErrorKind::NotFound, u"%1: %2"_s.arg(path, qt_error_string(ENOENT))};
 }
 
-Outcome<QList<QByteArray>> NamesIn(const QByteArray& folder)
-{
-    const std::unique_ptr<DIR, CloseDirectory> directory(opendir(folder.constData()));
-    if (!directory) {
-        return SystemFault(ErrorKind::Unreadable, folder);
-    }
-    QList<QByteArray> names;
-    while (const dirent* entry = readdir(directory.get())) {
-        const QByteArray name(static_cast<const char*>(entry->d_name));
-        if (name != "." && name != "..") {
-            names << name;
-        }
-    }
-    return names;
-}
-
 Done RemoveFile(const QByteArray& path)
 {
     return unlink(path.constData()) == 0 ? Success() : SystemFault(ErrorKind::Unwritable, path);
@@ -391,7 +296,7 @@ Done RemoveTree(const QByteArray& path)
             }
             return mounts.Check(thing, status);
         },
-        Nothing);
+        DoNothing);
     if (!done) {
         return done;
     }

@@ -4,12 +4,9 @@
 #include "platform/Outcome.h"
 
 #include <QByteArray>
-#include <QList>
 #include <QString>
 
-// Work on whole trees. Paths are bytes here: games come out of archives with names in all kinds of
-// encodings, and a name that is no UTF-8 wouldn't find its file again as a QString. Links are never
-// followed.
+// Removing, copying and moving whole trees. Paths are bytes, see TreeWalk.h.
 
 namespace pelorin::archives {
 
@@ -18,9 +15,6 @@ bool Stands(const QByteArray& path);
 bool Stands(const QString& path);
 
 platform::Error NoSuchThing(const QString& path);
-
-/// The names in a folder without "." and "..", in no order.
-platform::Outcome<QList<QByteArray>> NamesIn(const QByteArray& folder);
 
 platform::Done RemoveFile(const QByteArray& path);
 

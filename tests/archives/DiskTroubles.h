@@ -1,0 +1,110 @@
+#pragma once
+
+#include "platform/Outcome.h"
+#include "support/TestFolder.h"
+
+#include <QFile>
+#include <QString>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <csignal>
+
+// What stands in the way of file work: rights, full disks, other disks.
+
+namespace pelorin::test {
+
+inline constexpr uid_t kNobody = 65534;
+
+/// Runs the scope as an ordinary user, since root may do what a mode forbids.
+class OrdinaryUser {
+public:
+    explicit OrdinaryUser(const TestFolder& folder)
+    {
+        if (geteuid() != 0) {
+            return;
+        }
+        GiveAway(folder.Path());
+        for (const QString& entry : folder.Tree()) {
+            GiveAway(folder.Path(entry));
+        }
+        m_changed = seteuid(kNobody) == 0;
+    }
+    ~OrdinaryUser()
+    {
+        if (m_changed) {
+            EXPECT_EQ(seteuid(0), 0);
+        }
+    }
+    OrdinaryUser(const OrdinaryUser&) = delete;
+    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+
+private:
+    static void GiveAway(const QString& path)
+    {
+        EXPECT_EQ(lchown(QFile::encodeName(path).constData(), kNobody, kNobody), 0);
+    }
+    bool m_changed = false;
+};
+
+/// No file may grow beyond `bytes` within the scope: what a full disk looks like to a program.
+class SmallFiles {
+public:
+    explicit SmallFiles(rlim_t bytes)
+    {
+        m_signal = std::signal(SIGXFSZ, SIG_IGN);
+        EXPECT_EQ(getrlimit(RLIMIT_FSIZE, &m_before), 0);
+        const rlimit small{bytes, m_before.rlim_max};
+        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+    }
+    ~SmallFiles()
+    {
+        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &m_before), 0);
+        std::signal(SIGXFSZ, m_signal);
+    }
+    SmallFiles(const SmallFiles&) = delete;
+    SmallFiles& operator=(const SmallFiles&) = delete;
+
+private:
+    rlimit m_before = {};
+    void (*m_signal)(int) = nullptr;
+};
+
+/// A temporary folder on another file system than TestFolder's, where there is one.
+class OtherDisk {
+public:
+    OtherDisk()
+        : m_folder(QStringLiteral("/dev/shm/pelorin-XXXXXX"))
+    {}
+    bool IsOther(const TestFolder& than) const
+    {
+        return m_folder.isValid() && DeviceOf(m_folder.path()) != DeviceOf(than.Path());
+    }
+    QString Path(const QString& relative) const { return m_folder.filePath(relative); }
+
+private:
+    static dev_t DeviceOf(const QString& path)
+    {
+        struct stat status = {};
+        EXPECT_EQ(stat(QFile::encodeName(path).constData(), &status), 0);
+        return status.st_dev;
+    }
+    QTemporaryDir m_folder;
+};
+
+inline void SetMode(const QString& path, mode_t mode)
+{
+    EXPECT_EQ(chmod(QFile::encodeName(path).constData(), mode), 0) << path.toStdString();
+}
+
+inline platform::ErrorKind KindOf(const platform::Done& done)
+{
+    EXPECT_FALSE(done.Ok());
+    return done.Ok() ? platform::ErrorKind::Malformed : done.Failure().kind;
+}
+
+} // namespace pelorin::test
