@@ -2,9 +2,12 @@
 
 #include <gtest/gtest.h>
 
-// The main of tests that need widgets; ctest runs it offscreen.
+// The main of tests that need widgets: offscreen, also where ctest only asks for their names.
 int main(int argc, char** argv)
 {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     const QApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
