@@ -33,7 +33,7 @@ AddGameButton::AddGameButton(const Deeds& deeds, QWidget* parent)
     , m_deeds(deeds)
 {
     setObjectName(u"picAddGame"_s);
-    setIcon(SymbolIcon(u"add-game"_s));
+    setIcon(PictureIcon(u"add-game"_s));
     const int side = SmallSide(*this);
     setIconSize(QSize(side, side));
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);

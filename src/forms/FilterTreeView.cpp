@@ -1,5 +1,8 @@
 #include "forms/FilterTreeView.h"
 
+#include "forms/CellDelegate.h"
+#include "forms/Metrics.h"
+
 using namespace Qt::StringLiterals;
 
 namespace pelorin::forms {
@@ -130,6 +133,8 @@ FilterTreeView::FilterTreeView(const Shown& shown, const Deeds& deeds, QWidget* 
     setUniformRowHeights(true);
     setEditTriggers(NoEditTriggers);
     setFrameShape(QFrame::NoFrame);
+    setItemDelegate(new CellDelegate(this));
+    setIndentation(Ems(*this, 1.4));
     setExpandsOnDoubleClick(true);
     const auto keep = [this](const QModelIndex& index, bool expanded) {
         m_tree.roots[static_cast<std::size_t>(index.row())].expanded = expanded;

@@ -84,21 +84,23 @@ QVariant GameListModel::headerData(int section, Qt::Orientation orientation, int
     return m_list.columnCaptions[static_cast<std::size_t>(section)];
 }
 
-QPixmap GameListModel::Icon(int listIndex) const
+QIcon GameListModel::Icon(int listIndex) const
 {
     if (listIndex < 1 || listIndex > m_icons.Count()) {
         return {};
     }
-    if (const QPixmap* known = m_painted.object(listIndex)) {
+    if (const QIcon* known = m_painted.object(listIndex)) {
         return *known;
     }
     // The small icons are made for 16 dots; where there are more, the large one has more to show.
     const int dots = qRound(m_side * m_ratio);
     const library::IconPixels& icon =
         dots <= library::kSmallIcon ? m_icons.Small(listIndex - 1) : m_icons.Large(listIndex - 1);
-    auto* pixmap = new QPixmap(IconPixmap(icon, m_side, m_ratio));
-    const QPixmap shown = *pixmap;
-    m_painted.insert(listIndex, pixmap, dots * dots * 4);
+    const QPixmap pixmap = IconPixmap(icon, m_side, m_ratio);
+    QIcon shown(pixmap);
+    // A selected game's icon keeps its colours.
+    shown.addPixmap(pixmap, QIcon::Selected);
+    m_painted.insert(listIndex, new QIcon(shown), dots * dots * 4);
     return shown;
 }
 

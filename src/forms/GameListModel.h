@@ -5,7 +5,7 @@
 
 #include <QAbstractTableModel>
 #include <QCache>
-#include <QPixmap>
+#include <QIcon>
 
 #include <cstdint>
 
@@ -30,13 +30,13 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    QPixmap Icon(int listIndex) const;
+    QIcon Icon(int listIndex) const;
 
     const finding::GameList& m_list;
     const library::IconSheet& m_icons;
     int m_side = library::kSmallIcon;
     double m_ratio = 1.0;
-    mutable QCache<int, QPixmap> m_painted; // by listIndex; cost in bytes
+    mutable QCache<int, QIcon> m_painted; // by listIndex; cost in bytes
 };
 
 } // namespace pelorin::forms

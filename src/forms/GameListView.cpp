@@ -1,5 +1,6 @@
 #include "forms/GameListView.h"
 
+#include "forms/CellDelegate.h"
 #include "forms/FormUnits.h"
 #include "forms/Menus.h"
 #include "forms/Metrics.h"
@@ -10,7 +11,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
 
 #include <algorithm>
 #include <utility>
@@ -24,19 +24,6 @@ using finding::GameList;
 namespace {
 
 constexpr int kSettleMs = 60;
-
-/// Rows a little higher than the text, and alike, which spares measuring each.
-class RowDelegate : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
-    {
-        QSize size = QStyledItemDelegate::sizeHint(option, index);
-        const int height = option.fontMetrics.height();
-        return {size.width() + height / 2, qMax(size.height(), height + height / 2)};
-    }
-};
 
 /// The list's keys that are commands of their own.
 const Deeds::Deed* DeedOf(const Deeds& deeds, int key)
@@ -58,11 +45,14 @@ GameListView::GameListView(const Shown& shown, const Deeds& deeds, QWidget* pare
     , m_list(shown.screens.list)
     , m_model(m_list, shown.icons)
     , m_selection(&m_model)
+    , m_cells(new CellDelegate(this))
     , m_icons(new HookedView<QListView>(Hooks(), this))
     , m_details(new HookedView<QTreeView>(Hooks(), this))
     , m_listening(m_list.changed, [this](std::uint32_t changed) { Follow(changed); })
 {
     setObjectName(u"LVGamelist"_s);
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
     BuildViews();
     m_settle.setSingleShot(true);
     connect(&m_settle, &QTimer::timeout, this, [this] { Settle(); });
@@ -104,7 +94,8 @@ void GameListView::BuildViews()
     m_details->setItemsExpandable(false);
     m_details->setAllColumnsShowFocus(true);
     m_details->setAlternatingRowColors(true);
-    m_details->setItemDelegate(new RowDelegate(m_details));
+    m_details->setItemDelegate(new CellDelegate(m_details));
+    m_icons->setItemDelegate(m_cells);
     Prepare(*m_icons);
     Prepare(*m_details);
 
@@ -172,13 +163,14 @@ void GameListView::ShowViewMode()
     m_icons->setIconSize(QSize(side, side));
     m_details->setIconSize(QSize(side, side));
     const int gap = Gap(*this);
-    if (large) {
-        m_icons->setViewMode(QListView::IconMode);
-        m_icons->setGridSize(QSize(Ems(*this, 8), side + Lines(*this, 2.2) + 2 * gap));
-    } else {
-        m_icons->setViewMode(QListView::ListMode);
-        m_icons->setGridSize(QSize(Ems(*this, 15), side + gap));
-    }
+    m_icons->setViewMode(large ? QListView::IconMode : QListView::ListMode);
+    const QSize cell = large ? QSize(Ems(*this, 10), side + Lines(*this, 2.2) + gap)
+                             : QSize(Ems(*this, 18), side + gap);
+    m_cells->SetCell(cell);
+    m_icons->setGridSize(cell + QSize(gap, large ? gap : 0));
+    // Icons keep off the edge; the header of the details reaches it.
+    const bool details = m_list.view == finding::View::Details;
+    setContentsMargins(details ? 0 : gap, details ? 0 : gap, 0, 0);
     m_icons->setWordWrap(large);
     m_icons->setWrapping(true);
     m_icons->setMovement(QListView::Static);

@@ -18,6 +18,8 @@
 
 namespace pelorin::forms {
 
+class CellDelegate;
+
 /// What one of the two views passes on before or after it has done its own work.
 struct ViewHooks {
     std::function<bool(const QKeyEvent& event)> keyPressed; // true: done with it
@@ -112,6 +114,7 @@ private:
     finding::GameList& m_list;
     GameListModel m_model;
     QItemSelectionModel m_selection;
+    CellDelegate* m_cells;
     QListView* m_icons;
     QTreeView* m_details;
     QTimer m_settle;          // while a key repeats

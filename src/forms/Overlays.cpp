@@ -38,6 +38,7 @@ ProgressOverlay::ProgressOverlay(const Shown& shown, QWidget* parent)
     , m_listening(m_model.changed, [this](std::uint32_t) { Follow(); })
 {
     setObjectName(u"picProgress"_s);
+    setBackgroundRole(QPalette::Base);
     setFrameShape(StyledPanel);
     setAutoFillBackground(true);
     m_lblProgress->setObjectName(u"lblProgress"_s);

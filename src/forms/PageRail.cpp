@@ -9,7 +9,7 @@ namespace pelorin::forms {
 
 namespace {
 
-constexpr double kTabEms = 4.9;
+constexpr double kTabEms = 5.5;
 constexpr double kTabLines = 4.3;
 constexpr double kRailLines = 31;
 constexpr int kSelectedAlpha = 46;
@@ -70,9 +70,9 @@ void PageRail::PaintTab(QPainter& painter, int index) const
         painter.setPen(Qt::NoPen);
         painter.setBrush(palette().color(QPalette::Highlight));
         painter.drawRoundedRect(
-            QRectF(tab.right() - gap / 2.0, tab.top() + gap, gap / 2.0, tab.height() - 2.0 * gap),
-            gap / 4.0,
-            gap / 4.0);
+            QRectF(tab.right() - gap / 3.0, tab.top() + gap, gap / 3.0, tab.height() - 2.0 * gap),
+            gap / 6.0,
+            gap / 6.0);
     }
     const int side = qRound(SmallSide(*this) * 1.35);
     const QRect picture(

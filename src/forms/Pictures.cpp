@@ -7,6 +7,7 @@
 #include <QImageReader>
 #include <QPainter>
 #include <QPalette>
+#include <QPixmapCache>
 
 using namespace Qt::StringLiterals;
 
@@ -34,11 +35,11 @@ QImage DrawSvg(const QByteArray& svg, QSize pixels)
 /// highlight, at the moment of drawing.
 class SvgEngine : public QIconEngine {
 public:
-    explicit SvgEngine(QByteArray svg)
-        : m_svg(std::move(svg))
+    explicit SvgEngine(QString name)
+        : m_name(std::move(name))
     {}
 
-    QIconEngine* clone() const override { return new SvgEngine(m_svg); }
+    QIconEngine* clone() const override { return new SvgEngine(m_name); }
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
     {
@@ -58,7 +59,21 @@ public:
             palette.color(group, selected ? QPalette::HighlightedText : QPalette::ButtonText);
         const QColor accent = disabled || selected ? text : palette.color(QPalette::Highlight);
         const int side = qMin(size.width(), size.height());
-        const QByteArray svg = QByteArray(m_svg)
+        const QString key = u"pelorin %1 %2 %3 %4x%5"_s.arg(m_name, text.name(), accent.name())
+                                .arg(size.width())
+                                .arg(size.height());
+        QPixmap drawn;
+        if (!QPixmapCache::find(key, &drawn)) {
+            drawn = Draw(size, side, text, accent);
+            QPixmapCache::insert(key, drawn);
+        }
+        return drawn;
+    }
+
+private:
+    QPixmap Draw(QSize size, int side, const QColor& text, const QColor& accent) const
+    {
+        const QByteArray svg = SvgText(m_name)
                                    .replace("currentColor", text.name().toLatin1())
                                    .replace("accentColor", accent.name().toLatin1());
         QImage image(size, QImage::Format_ARGB32_Premultiplied);
@@ -71,42 +86,36 @@ public:
         return QPixmap::fromImage(image);
     }
 
-private:
-    QByteArray m_svg;
+    QString m_name;
 };
 
 } // namespace
 
-QIcon SymbolIcon(const QString& name)
+QIcon PictureIcon(const QString& name)
 {
-    return QIcon(new SvgEngine(SvgText(name)));
-}
-
-QIcon ColourIcon(const QString& name)
-{
-    return QIcon(new SvgEngine(SvgText(name)));
+    return QIcon(new SvgEngine(name));
 }
 
 QIcon ApplicationIcon()
 {
-    return ColourIcon(u"pelorin"_s);
+    return PictureIcon(u"pelorin"_s);
 }
 
 library::IconPixels DefaultGameIcon()
 {
     const QSize size(library::kLargeIcon, library::kLargeIcon);
-    QImage image(size, QImage::Format_RGB888);
+    QImage image(size, QImage::Format_RGB32);
     image.fill(Qt::white);
     const QImage drawn = DrawSvg(SvgText(u"game"_s), size);
     if (!drawn.isNull()) {
         QPainter painter(&image);
         painter.drawImage(0, 0, drawn);
     }
-    const QImage swapped = image.rgbSwapped();
+    const QImage bgr = image.convertToFormat(QImage::Format_BGR888);
     library::IconPixels pixels{library::kLargeIcon, {}};
     for (int y = 0; y < library::kLargeIcon; ++y) {
-        pixels.bgr.append(
-            reinterpret_cast<const char*>(swapped.constScanLine(y)), library::kLargeIcon * 3);
+        const auto* row = reinterpret_cast<const char*>(bgr.constScanLine(y));
+        pixels.bgr.append(row, qsizetype{3} * library::kLargeIcon);
     }
     return pixels;
 }

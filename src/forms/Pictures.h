@@ -11,12 +11,9 @@
 
 namespace pelorin::forms {
 
-/// A line picture in the colours of the palette at hand, so that it suits a dark one as well.
-/// `name` without ".svg".
-QIcon SymbolIcon(const QString& name);
-
-/// A picture in its own colours.
-QIcon ColourIcon(const QString& name);
+/// The picture `name`.svg. What it draws in "currentColor" and "accentColor" takes the text and
+/// highlight colours of the palette at the moment of drawing, so that it suits a dark one as well.
+QIcon PictureIcon(const QString& name);
 
 /// The program's own.
 QIcon ApplicationIcon();

@@ -17,7 +17,7 @@ namespace pelorin::forms {
 
 namespace {
 
-constexpr double kPageEms = 24;
+constexpr double kPageEms = 28;
 
 struct Tab {
     const char16_t* picture;
@@ -59,7 +59,7 @@ void RightPanel::BuildRail()
 {
     m_rail->setObjectName(u"tabInfo"_s);
     for (const Tab& tab : kTabs) {
-        m_rail->addTab(SymbolIcon(QString::fromUtf16(tab.picture)), QString());
+        m_rail->addTab(PictureIcon(QString::fromUtf16(tab.picture)), QString());
     }
     connect(m_rail, &QTabBar::currentChanged, this, [this](int index) {
         const int tab = index + 1;

@@ -20,8 +20,6 @@ public:
     void ShowTab();
     void TakeTexts();
     PageRail* Rail() const { return m_rail; }
-    /// picInfo(0), which makes the smallest width together with this panel.
-    QWidget* FirstPage() const { return m_pages.front(); }
 
 private:
     static constexpr int kPages = 6;

@@ -118,7 +118,7 @@ StatusPanels::StatusPanels(const Shown& shown, const Deeds& deeds, QWidget* pare
             Do(deeds.SBDirectory_PanelClick, number);
         });
     }
-    m_panels[3]->setIcon(SymbolIcon(u"note"_s));
+    m_panels[3]->setIcon(PictureIcon(u"note"_s));
     m_panels[3]->SetClickable(true);
     connect(m_panels[3], &StatusPanel::clicked, this, [this] { TellNotes(); });
     ShowTexts();

@@ -1,5 +1,6 @@
 #include "forms/Toolbar.h"
 
+#include "forms/MenuButton.h"
 #include "forms/Menus.h"
 #include "forms/Metrics.h"
 #include "forms/OwnTexts.h"
@@ -34,7 +35,7 @@ Toolbar::Toolbar(const Shown& shown, const Deeds& deeds, QWidget* parent)
     m_row->setSpacing(gap / 3);
     AddRunButtons();
     AddGap();
-    QToolButton* const cmdOpenFolder = AddButton(u"cmdOpenFolder"_s, u"folder"_s, {});
+    QToolButton* const cmdOpenFolder = AddMenuButton(u"cmdOpenFolder"_s, u"folder"_s);
     GiveMenu(*cmdOpenFolder, u"mnuFolder"_s, deeds.mnuFolder, deeds.mnuFolder_Click);
     AddButton(u"cmdRefresh"_s, u"refresh"_s, deeds.cmdRefresh_Click);
     AddGap();
@@ -52,19 +53,31 @@ Toolbar::Toolbar(const Shown& shown, const Deeds& deeds, QWidget* parent)
     ShowTitlePicture();
 }
 
+void Toolbar::Dress(QToolButton& button, const QString& name, const QString& picture)
+{
+    button.setObjectName(name);
+    button.setIcon(PictureIcon(picture));
+    const int side = SmallSide(*this);
+    button.setIconSize(QSize(side, side));
+    button.setAutoRaise(true);
+    button.setFocusPolicy(Qt::TabFocus);
+    m_row->addWidget(&button);
+}
+
 QToolButton* Toolbar::AddButton(
     const QString& name, const QString& picture, const Deeds::Deed& deed)
 {
     auto* button = new QToolButton(this);
-    button->setObjectName(name);
-    button->setIcon(SymbolIcon(picture));
-    const int side = SmallSide(*this);
-    button->setIconSize(QSize(side, side));
-    button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::TabFocus);
+    Dress(*button, name, picture);
     button->setEnabled(static_cast<bool>(deed));
     connect(button, &QToolButton::clicked, this, [deed] { Do(deed); });
-    m_row->addWidget(button);
+    return button;
+}
+
+QToolButton* Toolbar::AddMenuButton(const QString& name, const QString& picture)
+{
+    auto* button = new MenuButton(this);
+    Dress(*button, name, picture);
     return button;
 }
 
@@ -76,10 +89,9 @@ void Toolbar::AddRunButtons()
     QFont bold = run->font();
     bold.setBold(true);
     run->setFont(bold);
-    QToolButton* const more = AddButton(u"cmdRun_1"_s, {}, {});
-    more->setAutoRaise(false);
     // Its picture is the icon of a game that has none.
-    more->setIcon(ColourIcon(u"game"_s));
+    QToolButton* const more = AddMenuButton(u"cmdRun_1"_s, u"game"_s);
+    more->setAutoRaise(false);
     GiveMenu(*more, u"mnuRun"_s, m_deeds.mnuRun, m_deeds.mnuRun_Click);
     // Both are one thing to the eye.
     run->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
@@ -142,6 +154,13 @@ bool Toolbar::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
+int Toolbar::VespraLeft() const
+{
+    m_row->invalidate();
+    return m_row->minimumSize().width() - m_row->contentsMargins().right() -
+           m_cmdVespra->sizeHint().width();
+}
+
 void Toolbar::ShowViewMode()
 {
     m_optViewmode.button(static_cast<int>(m_shown.screens.list.view))->setChecked(true);
@@ -150,7 +169,7 @@ void Toolbar::ShowViewMode()
 void Toolbar::ShowTitlePicture()
 {
     const bool korean = m_shown.settings.TitleLanguageKorean;
-    m_picture2->setIcon(SymbolIcon(korean ? u"title-korean"_s : u"title-english"_s));
+    m_picture2->setIcon(PictureIcon(korean ? u"title-korean"_s : u"title-english"_s));
 }
 
 void Toolbar::TakeTexts()

@@ -21,6 +21,8 @@ public:
     /// Kept free for picAddGame.
     QWidget* AddGamePlace() const { return m_addGamePlace; }
     QWidget* Vespra() const { return m_cmdVespra; }
+    /// Where cmdVespra stands once the row has the room that it needs.
+    int VespraLeft() const;
     QLineEdit* Find() const { return m_txtFind; }
     void ShowViewMode();
     void ShowTitlePicture();
@@ -31,7 +33,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void Dress(QToolButton& button, const QString& name, const QString& picture);
     QToolButton* AddButton(const QString& name, const QString& picture, const Deeds::Deed& deed);
+    QToolButton* AddMenuButton(const QString& name, const QString& picture);
     void AddRunButtons();
     void AddViewButtons();
     void AddFind();

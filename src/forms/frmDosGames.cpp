@@ -30,8 +30,8 @@ using shell::MainFrame;
 namespace {
 
 constexpr double kTreeEms = 11;
-constexpr double kDesignEms = 76;
-constexpr double kDesignLines = 42;
+constexpr double kDesignEms = 108;
+constexpr double kDesignLines = 50;
 
 QFrame* VerticalLine(QWidget* parent)
 {
@@ -66,8 +66,8 @@ frmDosGames::frmDosGames(const Shown& shown, const Deeds& deeds)
     m_status = new StatusPanels(shown, deeds, this);
     setStatusBar(m_status);
     BuildKeys();
-    resize(Ems(*this, kDesignEms), Lines(*this, kDesignLines));
     Follow(MainFrame::Caption | MainFrame::Panels | MainFrame::Language);
+    resize(Ems(*this, kDesignEms), Lines(*this, kDesignLines));
     m_list->View()->setFocus();
 }
 
@@ -177,16 +177,12 @@ void frmDosGames::ShowMinimumSize()
         setMinimumSize(1, 1);
         return;
     }
-    m_toolbar->layout()->activate();
-    m_toolbar->adjustSize();
-    m_picBack1->layout()->activate();
     const QSize frame = frameGeometry().size() - geometry().size();
-    const QWidget& vespra = *m_toolbar->Vespra();
     shell::FrameParts parts;
-    parts.cmdVespraLeft = UnitsOf(vespra.mapTo(m_toolbar, QPoint(0, 0)).x());
-    parts.cmdVespraWidth = UnitsOf(vespra.width());
+    parts.cmdVespraLeft = UnitsOf(m_toolbar->VespraLeft());
+    parts.cmdVespraWidth = UnitsOf(m_toolbar->Vespra()->sizeHint().width());
     parts.picBack1Width = UnitsOf(m_picBack1->minimumWidth());
-    parts.picInfo0Left = UnitsOf(m_picBack1->FirstPage()->mapTo(m_picBack1, QPoint(0, 0)).x());
+    parts.picInfo0Left = UnitsOf(m_picBack1->layout()->contentsMargins().left());
     parts.outerWidth = UnitsOf(width() + frame.width());
     parts.innerWidth = UnitsOf(width());
     parts.tabInfoHeight = UnitsOf(m_picBack1->Rail()->sizeHint().height());

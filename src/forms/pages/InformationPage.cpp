@@ -1,5 +1,6 @@
 #include "forms/pages/InformationPage.h"
 
+#include "forms/MenuButton.h"
 #include "forms/Menus.h"
 #include "forms/Metrics.h"
 #include "forms/Pictures.h"
@@ -87,7 +88,7 @@ QLayout* InformationPage::BuildGenres()
 {
     const auto build =
         [this](const QString& name, const Deeds::Menu& menu, const Deeds::IndexDeed& chosen) {
-            auto* genre = new QToolButton(this);
+            auto* genre = new MenuButton(this);
             genre->setObjectName(name);
             genre->setToolButtonStyle(Qt::ToolButtonTextOnly);
             genre->setFocusPolicy(Qt::TabFocus);
@@ -137,7 +138,7 @@ QWidget* InformationPage::BuildMedia()
     pic1->setFrameShape(QFrame::StyledPanel);
     pic1->setAlignment(Qt::AlignCenter);
     pic1->setPixmap(
-        SymbolIcon(u"picture"_s)
+        PictureIcon(u"picture"_s)
             .pixmap(
                 QSize(LargeSide(*this), LargeSide(*this)), devicePixelRatioF(), QIcon::Disabled));
     auto* row = new QHBoxLayout;
@@ -181,7 +182,7 @@ void InformationPage::ShowIcon()
         image = reader.read();
     }
     if (image.isNull()) {
-        m_cmdIcon->setIcon(ColourIcon(u"game"_s));
+        m_cmdIcon->setIcon(PictureIcon(u"game"_s));
         return;
     }
     const double ratio = devicePixelRatioF();

@@ -31,7 +31,7 @@ QAbstractButton* Page::AddPicture(const QString& name, const QString& picture, b
 {
     auto* button = new QToolButton(this);
     button->setObjectName(name);
-    button->setIcon(SymbolIcon(picture));
+    button->setIcon(PictureIcon(picture));
     const int side = SmallSide(*this);
     button->setIconSize(QSize(side, side));
     button->setFocusPolicy(Qt::TabFocus);

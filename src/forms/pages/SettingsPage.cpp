@@ -69,8 +69,8 @@ QLayout* SettingsPage::BuildPosition()
         AddPush(u"cmdRememberPos"_s, static_cast<bool>(m_deeds.cmdRememberPos_Click));
     connect(
         remember, &QAbstractButton::clicked, this, [this] { Do(m_deeds.cmdRememberPos_Click); });
-    grid->addWidget(set, 1, 0, 1, 2);
-    grid->addWidget(remember, 1, 2, 1, 2);
+    grid->addWidget(set, 1, 0, 1, 4);
+    grid->addWidget(remember, 2, 0, 1, 4);
     return grid;
 }
 

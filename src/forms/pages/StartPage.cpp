@@ -1,5 +1,6 @@
 #include "forms/pages/StartPage.h"
 
+#include "forms/MenuButton.h"
 #include "forms/Menus.h"
 #include "forms/Metrics.h"
 
@@ -117,7 +118,7 @@ QWidget* StartPage::BuildCd()
         Do(m_deeds.chkMountCD_Click, checked);
     });
     foot->addWidget(m_chkMountCD, 1);
-    auto* cmdCD = new QToolButton(m_picCD);
+    auto* cmdCD = new MenuButton(m_picCD);
     cmdCD->setObjectName(u"cmdCD"_s);
     cmdCD->setFocusPolicy(Qt::TabFocus);
     cmdCD->setToolButtonStyle(Qt::ToolButtonTextOnly);
