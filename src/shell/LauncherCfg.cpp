@@ -150,15 +150,15 @@ Outcome<LauncherCfg> ParseLauncherCfg(const QStringList& lines)
     if (!in.AtEnd()) {
         in.Next();
     }
+    // The two oldest forms end here. One that goes on has all four lines: the short form of a
+    // minimized window hasn't, and is told from an old one by that.
     cfg.txtDosboxPos = {u"0"_s, u"0"_s};
     if (!in.AtEnd()) {
         cfg.txtDosboxPos[0] = in.Next();
         cfg.txtDosboxPos[1] = in.Next();
+        cfg.chkDosboxMove = platform::RoundHalfEven(in.Number(in.Next())) != 0;
+        cfg.cmbDosboxMove = in.Choice(-1, kMoveDelays - 1);
     }
-    // No test for the end here: a file that ends before these two lines is not one of the old forms
-    // that are still understood.
-    cfg.chkDosboxMove = platform::RoundHalfEven(in.Number(in.Next())) != 0;
-    cfg.cmbDosboxMove = in.Choice(-1, kMoveDelays - 1);
     if (!in.AtEnd()) {
         ReadWidths(in, cfg);
     }

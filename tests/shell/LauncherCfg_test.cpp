@@ -86,12 +86,21 @@ TEST(LauncherCfg, OldFormsEndEarlier)
     EXPECT_EQ(withoutWidths.columnWidths, kDefaultColumnWidths);
     EXPECT_TRUE(withoutWidths.titleLanguageKorean);
     EXPECT_EQ(withoutWidths.cmbDosboxMove, 9);
+
+    const LauncherCfg withoutPlacement = Parsed(WholeFile().mid(0, 8));
+    EXPECT_EQ(withoutPlacement.gamesRoot, WholeFile().at(5));
+    EXPECT_EQ(withoutPlacement.txtDosboxPos, (std::array<QString, 2>{u"0"_s, u"0"_s}));
+    EXPECT_FALSE(withoutPlacement.chkDosboxMove);
+    EXPECT_EQ(withoutPlacement.cmbDosboxMove, 4);
+
+    const LauncherCfg withoutRoots = Parsed(WholeFile().mid(0, 5));
+    EXPECT_TRUE(withoutRoots.gamesRoot.isEmpty());
+    EXPECT_EQ(withoutRoots.left, Parsed(WholeFile()).left);
 }
 
 TEST(LauncherCfg, FileThatEndsElsewhereNamesTheFirstMissingLine)
 {
-    // The forms of 5 and 8 lines miss what line 11 and 12 hold, and these must be there.
-    for (int count = 0; count < 12; ++count) {
+    for (const int count : {0, 1, 2, 3, 4, 6, 9, 10, 11}) {
         EXPECT_EQ(FaultOf(WholeFile().mid(0, count)), u"line %1: missing"_s.arg(count + 1));
     }
 }

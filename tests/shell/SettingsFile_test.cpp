@@ -137,8 +137,8 @@ TEST(SettingsFile, DamagedFileIsKeptAndReplacedOnce)
     const Case cases[] = {
         {u"empty"_s, {}},
         {u"cut off in the roots"_s, whole.mid(0, 6)},
-        {u"cut off behind the fifth line"_s, whole.mid(0, 5)},
-        {u"cut off behind the eighth line"_s, whole.mid(0, 8)},
+        {u"cut off behind the sixth line"_s, whole.mid(0, 6)},
+        {u"cut off behind the ninth line"_s, whole.mid(0, 9)},
         {u"no delay"_s, whole.mid(0, 11)},
         {u"seven widths"_s, sevenWidths},
         {u"no such view"_s, noSuchView},
