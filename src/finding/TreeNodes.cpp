@@ -17,7 +17,7 @@ using library::GameEntry;
 
 struct RootRow {
     QStringView key;
-    int captionEntry;
+    int captionEntry = 0;
 };
 
 constexpr std::array<RootRow, 10> kRoots{{
@@ -35,7 +35,7 @@ constexpr std::array<RootRow, 10> kRoots{{
 
 struct ValueCategory {
     QStringView key;
-    QString GameEntry::*field;
+    QString GameEntry::*field = nullptr;
 };
 
 // "language" holds the times of release and "released" the languages: the keys are crossed, the

@@ -162,13 +162,13 @@ platform::Done SaveSheet(
         // The list belongs to the sheet that is about to go. Should the program end before the new
         // list is written, a missing one is noticed; one of another order would not be.
         const auto dropList = [&] { return DeleteIfThere(listPath); };
-        const platform::Done written = WriteIconSheet(path, icons, positions, dropList);
+        platform::Done written = WriteIconSheet(path, icons, positions, dropList);
         if (!written) {
             return written;
         }
     }
     for (const QString& former : {u"IconList.jpg"_s, u"SmallIconList.jpg"_s}) {
-        const platform::Done gone = DeleteIfThere(places.InAppDir(former));
+        platform::Done gone = DeleteIfThere(places.InAppDir(former));
         if (!gone) {
             return gone;
         }

@@ -103,13 +103,14 @@ QString ReadGenreFile(GameFiles& files, GenreFile which, QStringView missing, Tr
 /// Writes both genre files by the old code and drops Extra.dat.
 Genres ConvertOldGenre(GameFiles& files, const QString& code, GenreForm form, Troubles& troubles)
 {
-    const auto hit = std::find_if(kOldGenres.begin(), kOldGenres.end(), [&](const OldGenre& genre) {
-        return genre.code == code;
-    });
+    const auto* const hit =
+        std::find_if(kOldGenres.begin(), kOldGenres.end(), [&](const OldGenre& genre) {
+            return genre.code == code;
+        });
     const OldGenre& genre = hit == kOldGenres.end() ? kOtherGenre : *hit;
     const QStringView english =
         form == GenreForm::Scan ? genre.englishAtScan : genre.englishInPanel;
-    const Genres genres{genre.korean.toString(), english.toString()};
+    Genres genres{genre.korean.toString(), english.toString()};
 
     const platform::Done korean = WriteGenre(files, GenreFile::Korean, genres.korean);
     const platform::Done second = WriteGenre(files, GenreFile::English, genres.english);
@@ -131,11 +132,11 @@ Genres ConvertOldGenre(GameFiles& files, const QString& code, GenreForm form, Tr
 
 platform::Done WriteMetaLines(GameFiles& files, const QString& name, const QStringList& lines)
 {
-    const platform::Done made = MakeMetaDir(files);
+    platform::Done made = MakeMetaDir(files);
     if (!made) {
         return made;
     }
-    const platform::Done written = platform::WriteLines(files.MetaPath(name), lines);
+    platform::Done written = platform::WriteLines(files.MetaPath(name), lines);
     if (written && !files.HasMetaFile(name)) {
         files.NoteMetaFile(name);
     }
@@ -199,16 +200,16 @@ QString LostInInfo(const InfoText& info)
 
 platform::Done WriteInfo(GameFiles& files, const InfoText& info, Loss loss)
 {
-    const platform::Done made = MakeMetaDir(files);
+    platform::Done made = MakeMetaDir(files);
     if (!made) {
         return made;
     }
     const QString name = u"info.txt"_s;
     const QString path = files.MetaPath(name);
     const QString text = InfoFileText(info);
-    const platform::Done written =
-        loss == Loss::Refuse ? platform::WriteText(path, text)
-                             : platform::WriteBytes(path, platform::EncodeCp949(text).bytes);
+    platform::Done written = loss == Loss::Refuse
+                                 ? platform::WriteText(path, text)
+                                 : platform::WriteBytes(path, platform::EncodeCp949(text).bytes);
     if (written && !files.HasMetaFile(name)) {
         files.NoteMetaFile(name);
     }

@@ -99,7 +99,7 @@ QString DetectStartFile(const GameFiles& files)
     const std::array<QString, 5> names{u"play"_s, u"game"_s, u"start"_s, u"go"_s, files.folder};
     for (const QString& ending : {u".bat"_s, u".exe"_s, u".com"_s}) {
         for (const QString& name : names) {
-            const QString candidate = name + ending;
+            QString candidate = name + ending;
             if (files.HasGameFile(candidate)) {
                 return candidate;
             }

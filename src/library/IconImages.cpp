@@ -84,7 +84,7 @@ Bitmap OnWhite(const Bitmap& bitmap)
 /// FreeImage's rows go from the bottom up.
 IconPixels PixelsOf(FIBITMAP* bitmap, int side)
 {
-    IconPixels icon{side, QByteArray(side * side * kBytesAPixel, Qt::Uninitialized)};
+    IconPixels icon{side, QByteArray(qsizetype{side} * side * kBytesAPixel, Qt::Uninitialized)};
     const auto rowBytes = static_cast<std::size_t>(side) * kBytesAPixel;
     for (int y = 0; y < side; ++y) {
         std::memcpy(
@@ -194,7 +194,7 @@ IconPixels PlainIcon(int side, std::uint8_t blue, std::uint8_t green, std::uint8
     const std::array<char, kBytesAPixel> pixel{
         static_cast<char>(blue), static_cast<char>(green), static_cast<char>(red)};
     IconPixels icon{side, QByteArray()};
-    icon.bgr.reserve(side * side * kBytesAPixel);
+    icon.bgr.reserve(qsizetype{side} * side * kBytesAPixel);
     for (int i = 0; i < side * side; ++i) {
         icon.bgr.append(pixel.data(), kBytesAPixel);
     }

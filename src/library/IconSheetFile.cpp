@@ -77,7 +77,8 @@ qsizetype RowOffset(SheetSize size, int column, int y)
 
 IconPixels CutIcon(const QByteArray& band, SheetSize size, int column)
 {
-    IconPixels icon{kLargeIcon, QByteArray(kLargeIcon * kIconRowBytes, Qt::Uninitialized)};
+    IconPixels icon{
+        kLargeIcon, QByteArray(qsizetype{kLargeIcon} * kIconRowBytes, Qt::Uninitialized)};
     char* to = icon.bgr.data();
     for (int y = 0; y < kLargeIcon; ++y, to += kIconRowBytes) {
         std::memcpy(to, band.constData() + RowOffset(size, column, y), kIconRowBytes);
@@ -185,7 +186,7 @@ platform::Done WriteIconSheet(
     if (!written || !file.flush()) {
         return FileError(platform::ErrorKind::Unwritable, file);
     }
-    const platform::Done ready = beforeReplacing();
+    platform::Done ready = beforeReplacing();
     if (!ready) {
         return ready;
     }

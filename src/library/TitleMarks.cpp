@@ -62,7 +62,7 @@ QString MarkedTitle(const QString& title, const MarkFacts& facts, const shell::L
     }
     if (facts.edited) {
         marked += u' ' + lang[kEditedEntry];
-        const auto mark =
+        const auto* const mark =
             std::find_if(kBuildMarks.begin(), kBuildMarks.end(), [&](const BuildMark& candidate) {
                 return candidate.build == facts.build;
             });

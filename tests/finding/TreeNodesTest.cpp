@@ -121,9 +121,9 @@ QStringList ByInsertion(const Catalogue& catalogue, QString GameEntry::*field)
         falling.insert(at, value);
     }
     QStringList rising;
-    for (auto value = falling.rbegin(); value != falling.rend(); ++value) {
-        if (!QString(*value).remove(u' ').isEmpty()) {
-            rising << *value;
+    for (const QString& value : falling) {
+        if (!QString(value).remove(u' ').isEmpty()) {
+            rising.prepend(value);
         }
     }
     return rising;

@@ -57,14 +57,15 @@ struct Library {
 /// The sheet as FreeImage draws and writes it.
 QByteArray SheetByFreeImage(const IconSheet& icons, int width, int height)
 {
+    constexpr std::size_t kRowBytes = 32 * 3;
     FIBITMAP* bitmap = FreeImage_Allocate(width, height, 24);
     for (int n = 0; n < icons.Count(); ++n) {
         for (int y = 0; y < 32; ++y) {
             const int row = height - 1 - (n / 512 * 32 + y);
             std::memcpy(
-                FreeImage_GetScanLine(bitmap, row) + n % 512 * 32 * 3,
-                icons.Large(n).bgr.constData() + y * 32 * 3,
-                32 * 3);
+                FreeImage_GetScanLine(bitmap, row) + static_cast<std::size_t>(n % 512) * kRowBytes,
+                icons.Large(n).bgr.constData() + static_cast<std::size_t>(y) * kRowBytes,
+                kRowBytes);
         }
     }
     FIMEMORY* memory = FreeImage_OpenMemory(nullptr, 0);

@@ -15,7 +15,7 @@ namespace {
 
 class GameFilesTest : public testing::Test {
 protected:
-    GameFiles List(const QString& folder) { return ListGame(m_library.places, folder); }
+    GameFiles List(const QString& folder) const { return ListGame(m_library.places, folder); }
 
     test::LibraryFolder m_library;
     test::TestFolder& m_root = m_library.root;

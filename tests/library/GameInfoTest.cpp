@@ -15,7 +15,7 @@ namespace {
 
 class GameInfoTest : public testing::Test {
 protected:
-    GameFiles List() { return library::ListGame(m_library.places, u"Folder"_s); }
+    GameFiles List() const { return library::ListGame(m_library.places, u"Folder"_s); }
     void Put(const QString& name, const QString& text)
     {
         m_root.WriteText(u"Games/Folder/DosBox/"_s + name, text);

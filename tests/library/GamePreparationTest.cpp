@@ -20,7 +20,7 @@ const IconPixels& DefaultIcon()
 
 class PreparationTest : public testing::Test {
 protected:
-    GameFiles List(const QString& folder = u"Folder"_s)
+    GameFiles List(const QString& folder = u"Folder"_s) const
     {
         return library::ListGame(m_library.places, folder);
     }

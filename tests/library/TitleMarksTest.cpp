@@ -44,7 +44,7 @@ TEST(TitleMarks, InOrderAndMerged)
 
 class ReadGameTest : public testing::Test {
 protected:
-    GameFiles List() { return library::ListGame(m_library.places, u"Folder"_s); }
+    GameFiles List() const { return library::ListGame(m_library.places, u"Folder"_s); }
 
     test::LibraryFolder m_library;
     test::TestFolder& m_root = m_library.root;
