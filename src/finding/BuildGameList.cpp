@@ -1,7 +1,5 @@
 #include "finding/BuildGameList.h"
 
-#include "platform/Paths.h"
-
 #include <QHash>
 
 #include <algorithm>
@@ -11,10 +9,11 @@ namespace pelorin::finding {
 
 namespace {
 
-/// Which positions are to be shown.
-std::vector<bool> Passing(
-    TitleOrder& order, const ListSource& source, const std::vector<int>& filterIndex)
+/// Gives each position that is to be shown its row in the order of titles, the others -1.
+std::vector<int> RowsByTitle(
+    TitleOrder& order, const ListSource& source, const std::vector<int>& filterIndex, int& rowCount)
 {
+    const std::vector<int>& sorted = order.Sorted(source.catalogue);
     std::vector<bool> passing(source.catalogue.size());
     const QString term = SearchForm(source.txtFind);
     for (const int position : filterIndex) {
@@ -22,7 +21,14 @@ std::vector<bool> Passing(
             passing[static_cast<std::size_t>(position)] = true;
         }
     }
-    return passing;
+    std::vector<int> rows(source.catalogue.size(), -1);
+    rowCount = 0;
+    for (const int position : sorted) {
+        if (passing[static_cast<std::size_t>(position)]) {
+            rows[static_cast<std::size_t>(position)] = rowCount++;
+        }
+    }
+    return rows;
 }
 
 /// Sorts rows by the texts of a column, each distinct text collated once. Rows with one text stay
@@ -85,7 +91,7 @@ GameItem ItemOf(
     const library::GameEntry& entry, const QStringList& buildNames, bool titleLanguageKorean)
 {
     GameItem item;
-    item.folder = platform::LastPathSegment(entry.Folder);
+    item.folder = entry.Folder;
     item.tag = titleLanguageKorean ? entry.GenreK : entry.GenreE;
     item.listIndex = entry.ListIndex;
     item.text = {
@@ -106,14 +112,16 @@ ListOutcome BuildGameList(
     const ListSource& source,
     const std::vector<int>& filterIndex)
 {
-    const std::vector<int>& sorted = order.Sorted(source.catalogue);
-    const std::vector<bool> passing = Passing(order, source, filterIndex);
+    int rowCount = 0;
+    const std::vector<int> rows = RowsByTitle(order, source, filterIndex, rowCount);
     list.items.clear();
-    for (const int position : sorted) {
-        const auto at = static_cast<std::size_t>(position);
-        if (passing[at]) {
-            list.items.push_back(
-                ItemOf(source.catalogue[at], source.buildNames, source.TitleLanguageKorean));
+    list.items.resize(static_cast<std::size_t>(rowCount));
+    // In the order of the Catalogue, which lies in memory like that: in the order of the rows each
+    // entry would have to be fetched, and that is far slower.
+    for (std::size_t position = 0; position < rows.size(); ++position) {
+        if (rows[position] >= 0) {
+            list.items[static_cast<std::size_t>(rows[position])] =
+                ItemOf(source.catalogue[position], source.buildNames, source.TitleLanguageKorean);
         }
     }
     SortItems(list.items, list.sort, order.Collator());

@@ -1,9 +1,7 @@
 #include "finding/TitleOrder.h"
 
 #include "finding/BuildGameList.h"
-#include "platform/Paths.h"
 
-#include <QHash>
 #include <QSet>
 
 #include <algorithm>
@@ -23,7 +21,7 @@ const QString& TitleOf(const library::GameEntry& entry, bool titleLanguageKorean
 QString DisplayTitle(const library::GameEntry& entry, bool titleLanguageKorean)
 {
     const QString& title = TitleOf(entry, titleLanguageKorean);
-    return title.isEmpty() ? platform::LastPathSegment(entry.Folder) : title;
+    return title.isEmpty() ? entry.Folder : title;
 }
 
 TitleOrder::TitleOrder(const QLocale& locale, bool titleLanguageKorean)
@@ -88,6 +86,7 @@ void TitleOrder::Replace(int head, int oldEnd, int newEnd, const library::Catalo
     QHash<QString, QCollatorSortKey> keys;
     for (auto old = m_known.begin() + head; old != m_known.begin() + oldEnd; ++old) {
         keys.insert(old->title, old->key);
+        CountFolder(old->folder, -1);
     }
     std::vector<Known> fresh;
     fresh.reserve(static_cast<std::size_t>(newEnd - head));
@@ -101,6 +100,7 @@ void TitleOrder::Replace(int head, int oldEnd, int newEnd, const library::Catalo
             key != keys.cend() ? *key
                                : m_collator.sortKey(DisplayTitle(*entry, m_titleLanguageKorean)),
             std::nullopt});
+        CountFolder(entry->Folder, 1);
     }
     m_known.erase(m_known.begin() + head, m_known.begin() + oldEnd);
     m_known.insert(
@@ -131,8 +131,23 @@ void TitleOrder::Replace(int head, int oldEnd, int newEnd, const library::Catalo
         before);
 }
 
+void TitleOrder::CountFolder(const QString& folder, int change)
+{
+    int& count = m_folders[folder];
+    m_twins -= count > 1 ? 1 : 0;
+    count += change;
+    m_twins += count > 1 ? 1 : 0;
+    if (count == 0) {
+        m_folders.remove(folder);
+    }
+}
+
 void TitleOrder::DropTwins()
 {
+    if (m_twins == 0) {
+        m_sorted = m_everything;
+        return;
+    }
     QSet<QString> folders;
     folders.reserve(static_cast<qsizetype>(m_known.size()));
     std::vector<bool> twin(m_known.size());

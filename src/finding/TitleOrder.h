@@ -3,6 +3,7 @@
 #include "library/GameEntry.h"
 
 #include <QCollator>
+#include <QHash>
 #include <QLocale>
 #include <QString>
 
@@ -44,12 +45,15 @@ private:
     bool Matches(const Known& known, const library::GameEntry& entry) const;
     bool Before(int a, int b) const;
     void Replace(int head, int oldEnd, int newEnd, const library::Catalogue& catalogue);
+    void CountFolder(const QString& folder, int change);
     void DropTwins();
 
     QCollator m_collator;
     bool m_titleLanguageKorean;
     std::vector<Known> m_known;    // by position
     std::vector<int> m_everything; // all positions, sorted
+    QHash<QString, int> m_folders; // how often each stands in m_known
+    int m_twins = 0;               // folders that stand more than once
     std::vector<int> m_sorted;     // without those whose folder stands before
 };
 

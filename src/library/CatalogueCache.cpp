@@ -3,6 +3,7 @@
 #include "library/GameFiles.h"
 #include "library/GameInfo.h"
 #include "library/IconSheetFile.h"
+#include "library/private/TextPool.h"
 #include "platform/Numbers.h"
 #include "platform/Paths.h"
 #include "platform/TextFile.h"
@@ -211,6 +212,7 @@ platform::Outcome<Catalogue> CatalogueFromLine(const QString& line)
     Catalogue catalogue(static_cast<std::size_t>(records.size()));
     QSet<QString> folders;
     folders.reserve(records.size());
+    TextPool pool;
     for (std::size_t i = 0; i < catalogue.size(); ++i) {
         GameEntry& entry = catalogue[i];
         const bool whole = ReadRecord(records[static_cast<qsizetype>(i)], entry);
@@ -219,6 +221,7 @@ platform::Outcome<Catalogue> CatalogueFromLine(const QString& line)
         }
         entry.ListIndex = static_cast<std::int16_t>(i + 1);
         folders.insert(entry.Folder);
+        pool.ShareFacts(entry);
     }
     return catalogue;
 }

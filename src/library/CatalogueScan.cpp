@@ -1,6 +1,7 @@
 #include "library/CatalogueScan.h"
 
 #include "library/GamePreparation.h"
+#include "library/private/TextPool.h"
 #include "platform/Paths.h"
 #include "shell/Places.h"
 
@@ -121,9 +122,11 @@ private:
         ProgressSteps steps(m_progress, Phase::Reading, count);
         m_progress.Begin(Phase::Reading, std::max(1, count));
         m_result.catalogue.reserve(m_listed.size());
+        TextPool pool;
         for (int i = 0; i < count; ++i) {
             GameFiles files = Lengthen(m_places, m_listed[static_cast<std::size_t>(i)]);
             m_result.catalogue.push_back(ReadGameFolder(files, i, m_rules, m_result.troubles));
+            pool.ShareFacts(m_result.catalogue.back());
             if (!steps.At(i)) {
                 return false;
             }
