@@ -57,7 +57,7 @@ struct Library {
 /// The sheet as FreeImage draws and writes it.
 QByteArray SheetByFreeImage(const IconSheet& icons, int width, int height)
 {
-    constexpr std::size_t kRowBytes = 32 * 3;
+    constexpr std::size_t kRowBytes = 96;
     FIBITMAP* bitmap = FreeImage_Allocate(width, height, 24);
     for (int n = 0; n < icons.Count(); ++n) {
         for (int y = 0; y < 32; ++y) {

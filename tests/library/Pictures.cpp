@@ -68,7 +68,7 @@ IcoPicture IcoDib(int side, Colour colour)
         const std::uint8_t pixel[]{colour.blue, colour.green, colour.red, colour.alpha};
         data.append(reinterpret_cast<const char*>(pixel), 4);
     }
-    data.append(qsizetype{(side + 31) / 32 * 4} * side, '\0'); // mask
+    data.append(qsizetype{4} * ((side + 31) / 32) * side, '\0'); // mask
     return {data, side};
 }
 
