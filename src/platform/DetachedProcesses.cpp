@@ -25,7 +25,7 @@ namespace pelorin::platform {
 
 namespace {
 
-constexpr qint64 kKeptOutput = 64 * 1024;
+constexpr qint64 kKeptOutput = 65'536;
 constexpr int kTrimEveryMs = 10'000;
 constexpr int kPollMs = 50;
 

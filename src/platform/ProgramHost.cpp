@@ -171,7 +171,7 @@ QString FindExecutable(const QStringList& folders, const QStringList& names)
 {
     for (const QString& name : names) {
         for (const QString& folder : folders) {
-            const QString path = folder + u'/' + name;
+            QString path = folder + u'/' + name;
             if (QDir::isAbsolutePath(folder) && IsExecutableFile(path)) {
                 return path;
             }

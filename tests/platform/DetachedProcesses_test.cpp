@@ -28,28 +28,28 @@ class DetachedProcessesTest : public testing::Test {
 protected:
     ProcessRequest Script(const QString& body)
     {
-        folder.WriteScript(u"run.sh"_s, body);
-        return Program(folder.Path(u"run.sh"_s));
+        m_folder.WriteScript(u"run.sh"_s, body);
+        return Program(m_folder.Path(u"run.sh"_s));
     }
     ProcessRequest Program(const QString& path, const QStringList& arguments = {}) const
     {
         ProcessRequest request;
         request.program = path;
         request.arguments = arguments;
-        request.workingFolder = folder.Path();
+        request.workingFolder = m_folder.Path();
         return request;
     }
     QByteArray OutputOf(const ProcessRequest& request)
     {
-        const auto end = processes.RunAndWait(request);
+        const auto end = m_processes.RunAndWait(request);
         EXPECT_TRUE(end) << (end ? "" : end.Failure().text.toStdString());
         return end ? end.Value().output : QByteArray();
     }
     /// We have no child left, neither running nor dead.
     static bool HasNoChild() { return waitpid(-1, nullptr, WNOHANG) == -1 && errno == ECHILD; }
 
-    TestFolder folder{u"게임 방 [1] %HOME% #2"_s};
-    DetachedProcesses processes;
+    TestFolder m_folder{u"게임 방 [1] %HOME% #2"_s};
+    DetachedProcesses m_processes;
 };
 
 TEST_F(DetachedProcessesTest, ArgumentsArriveAsTheyAre)
@@ -74,20 +74,20 @@ TEST_F(DetachedProcessesTest, FolderEnvironmentAndBothStreams)
     auto request = Script(
         u"pwd\necho \"$PELORIN_TEST_KEPT $PELORIN_TEST_SET\" >&2\nread line || echo eof\n"_s);
     request.environment[u"PELORIN_TEST_SET"_s] = u"새 값"_s;
-    EXPECT_EQ(QString::fromUtf8(OutputOf(request)), folder.Path() + u"\nkept 새 값\neof\n"_s);
+    EXPECT_EQ(QString::fromUtf8(OutputOf(request)), m_folder.Path() + u"\nkept 새 값\neof\n"_s);
     qunsetenv("PELORIN_TEST_KEPT");
     qunsetenv("PELORIN_TEST_SET");
 }
 
 TEST_F(DetachedProcessesTest, WhatCanNotBeStartedSaysWhy)
 {
-    folder.WriteScript(u"plain.sh"_s, u"exit 0\n"_s);
-    folder.WriteRaw(u"notes.txt"_s, "just text\n");
-    folder.WriteRaw(u"noloader"_s, "#!/no/such/shell -x\n");
-    folder.WriteRaw(u"garbage"_s, "MZ no program of this system");
-    folder.MakeLink(u"broken"_s, u"/no/such/program"_s);
+    m_folder.WriteScript(u"plain.sh"_s, u"exit 0\n"_s);
+    m_folder.WriteRaw(u"notes.txt"_s, "just text\n");
+    m_folder.WriteRaw(u"noloader"_s, "#!/no/such/shell -x\n");
+    m_folder.WriteRaw(u"garbage"_s, "MZ no program of this system");
+    m_folder.MakeLink(u"broken"_s, u"/no/such/program"_s);
     for (const QString& name : {u"noloader"_s, u"garbage"_s}) {
-        QFile::setPermissions(folder.Path(name), QFile::ReadOwner | QFile::ExeOwner);
+        QFile::setPermissions(m_folder.Path(name), QFile::ReadOwner | QFile::ExeOwner);
     }
     struct Case {
         QString program;
@@ -96,15 +96,15 @@ TEST_F(DetachedProcessesTest, WhatCanNotBeStartedSaysWhy)
         QString inText;
     };
     const Case cases[] = {
-        {folder.Path(u"none"_s), folder.Path(), ErrorKind::NotFound, u"none"_s},
-        {folder.Path(u"broken"_s), folder.Path(), ErrorKind::NotFound, u"broken"_s},
-        {folder.Path(u"notes.txt"_s), folder.Path(), ErrorKind::Refused, u"notes.txt"_s},
-        {folder.Path(u"noloader"_s), folder.Path(), ErrorKind::Refused, u"/no/such/shell"_s},
-        {folder.Path(u"garbage"_s), folder.Path(), ErrorKind::Refused, u"garbage"_s},
-        {folder.Path(), folder.Path(), ErrorKind::Refused, u"folder"_s},
-        {u"plain.sh"_s, folder.Path(), ErrorKind::Refused, u"plain.sh"_s},
-        {folder.Path(u"plain.sh"_s), folder.Path(u"gone"_s), ErrorKind::NotFound, u"gone"_s},
-        {folder.Path(u"plain.sh"_s), QString(), ErrorKind::NotFound, u"working folder"_s},
+        {m_folder.Path(u"none"_s), m_folder.Path(), ErrorKind::NotFound, u"none"_s},
+        {m_folder.Path(u"broken"_s), m_folder.Path(), ErrorKind::NotFound, u"broken"_s},
+        {m_folder.Path(u"notes.txt"_s), m_folder.Path(), ErrorKind::Refused, u"notes.txt"_s},
+        {m_folder.Path(u"noloader"_s), m_folder.Path(), ErrorKind::Refused, u"/no/such/shell"_s},
+        {m_folder.Path(u"garbage"_s), m_folder.Path(), ErrorKind::Refused, u"garbage"_s},
+        {m_folder.Path(), m_folder.Path(), ErrorKind::Refused, u"folder"_s},
+        {u"plain.sh"_s, m_folder.Path(), ErrorKind::Refused, u"plain.sh"_s},
+        {m_folder.Path(u"plain.sh"_s), m_folder.Path(u"gone"_s), ErrorKind::NotFound, u"gone"_s},
+        {m_folder.Path(u"plain.sh"_s), QString(), ErrorKind::NotFound, u"working folder"_s},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.program.toStdString());
@@ -112,12 +112,12 @@ TEST_F(DetachedProcessesTest, WhatCanNotBeStartedSaysWhy)
         request.workingFolder = c.workingFolder;
         bool ended = false;
         const Done started =
-            processes.StartDetached(request, [&](const ProcessEnd&) { ended = true; });
+            m_processes.StartDetached(request, [&](const ProcessEnd&) { ended = true; });
         ASSERT_FALSE(started);
         EXPECT_EQ(started.Failure().kind, c.kind);
         EXPECT_TRUE(started.Failure().text.contains(c.inText))
             << started.Failure().text.toStdString();
-        EXPECT_FALSE(processes.RunAndWait(request));
+        EXPECT_FALSE(m_processes.RunAndWait(request));
         QCoreApplication::processEvents();
         EXPECT_FALSE(ended);
         EXPECT_TRUE(HasNoChild());
@@ -140,7 +140,7 @@ TEST_F(DetachedProcessesTest, EndIsToldOnceWithStatusAndOutputAndLeavesNoZombie)
         SCOPED_TRACE(c.body.toStdString());
         int calls = 0;
         ProcessEnd end;
-        ASSERT_TRUE(processes.StartDetached(Script(c.body), [&](const ProcessEnd& told) {
+        ASSERT_TRUE(m_processes.StartDetached(Script(c.body), [&](const ProcessEnd& told) {
             ++calls;
             end = told;
         }));
@@ -160,11 +160,11 @@ TEST_F(DetachedProcessesTest, ManyAtOnceEndInTheirOwnOrder)
 {
     QStringList order;
     for (const QString& seconds : {u"0.4"_s, u"0.05"_s, u"0.2"_s}) {
-        ASSERT_TRUE(processes.StartDetached(
+        ASSERT_TRUE(m_processes.StartDetached(
             Program(u"/bin/sleep"_s, {seconds}),
             [&order, seconds](const ProcessEnd&) { order << seconds; }));
     }
-    ASSERT_TRUE(processes.StartDetached(Program(u"/bin/true"_s), nullptr));
+    ASSERT_TRUE(m_processes.StartDetached(Program(u"/bin/true"_s), nullptr));
     ASSERT_TRUE(QTest::qWaitFor([&] { return order.size() == 3; }, kPatienceMs));
     EXPECT_EQ(order, (QStringList{u"0.05"_s, u"0.2"_s, u"0.4"_s}));
     EXPECT_TRUE(HasNoChild());
@@ -198,18 +198,18 @@ TEST_F(DetachedProcessesTest, ProgramGetsNoneOfOurDescriptorsAndOurSignalsReset)
 
 TEST_F(DetachedProcessesTest, ProgramOutlivesUs)
 {
-    folder.WriteScript(u"run.sh"_s, u"sleep 0.6\necho printed\necho done > result\n"_s);
+    m_folder.WriteScript(u"run.sh"_s, u"sleep 0.6\necho printed\necho done > result\n"_s);
     const pid_t us = fork();
     if (us == 0) {
         DetachedProcesses own;
-        const Done started = own.StartDetached(Program(folder.Path(u"run.sh"_s)), nullptr);
+        const Done started = own.StartDetached(Program(m_folder.Path(u"run.sh"_s)), nullptr);
         _exit(started ? 0 : 1);
     }
     int status = -1;
     ASSERT_EQ(waitpid(us, &status, 0), us);
     ASSERT_EQ(status, 0);
-    EXPECT_FALSE(folder.Exists(u"result"_s));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return folder.Exists(u"result"_s); }, kPatienceMs));
+    EXPECT_FALSE(m_folder.Exists(u"result"_s));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return m_folder.Exists(u"result"_s); }, kPatienceMs));
 }
 
 TEST_F(DetachedProcessesTest, WaitRunsEventsAndEndsAtOnce)
@@ -220,7 +220,7 @@ TEST_F(DetachedProcessesTest, WaitRunsEventsAndEndsAtOnce)
     timer.start(20);
     QElapsedTimer clock;
     clock.start();
-    const auto end = processes.RunAndWait(Script(u"sleep 0.5\n"_s));
+    const auto end = m_processes.RunAndWait(Script(u"sleep 0.5\n"_s));
     const qint64 took = clock.elapsed();
     ASSERT_TRUE(end);
     EXPECT_GE(ticks, 5);
@@ -232,10 +232,10 @@ TEST_F(DetachedProcessesTest, WaitInsideAWait)
 {
     std::optional<ProcessEnd> inner;
     QTimer::singleShot(0, [&] {
-        const auto end = processes.RunAndWait(Program(u"/bin/sleep"_s, {u"0.3"_s}));
+        const auto end = m_processes.RunAndWait(Program(u"/bin/sleep"_s, {u"0.3"_s}));
         inner = end ? std::optional(end.Value()) : std::nullopt;
     });
-    const auto outer = processes.RunAndWait(Program(u"/usr/bin/printf"_s, {u"outer"_s}));
+    const auto outer = m_processes.RunAndWait(Program(u"/usr/bin/printf"_s, {u"outer"_s}));
     ASSERT_TRUE(outer);
     EXPECT_EQ(outer.Value().output, "outer");
     EXPECT_TRUE(inner.has_value());
@@ -248,14 +248,14 @@ TEST_F(DetachedProcessesTest, WaitIsAbandonedWhenWeEnd)
     QTimer::singleShot(50, [&] { ending = true; });
     const auto request = Script(u"sleep 0.8\necho done > result\n"_s);
     const auto end = mortal.RunAndWait(request);
-    EXPECT_FALSE(folder.Exists(u"result"_s)) << "the wait must not last until its end";
+    EXPECT_FALSE(m_folder.Exists(u"result"_s)) << "the wait must not last until its end";
     ASSERT_FALSE(end);
     EXPECT_EQ(end.Failure().kind, ErrorKind::Abandoned);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return folder.Exists(u"result"_s); }, kPatienceMs))
+    EXPECT_TRUE(QTest::qWaitFor([&] { return m_folder.Exists(u"result"_s); }, kPatienceMs))
         << "the child goes on";
     EXPECT_TRUE(QTest::qWaitFor([] { return HasNoChild(); }, kPatienceMs));
 
-    folder.WriteRaw(u"result"_s, "");
+    m_folder.WriteRaw(u"result"_s, "");
     const auto late = mortal.RunAndWait(request);
     ASSERT_FALSE(late);
     EXPECT_EQ(late.Failure().kind, ErrorKind::Abandoned);
@@ -268,7 +268,7 @@ TEST_F(DetachedProcessesTest, WaitIsAbandonedWhenTheApplicationQuits)
     std::optional<ErrorKind> kind;
     QTimer::singleShot(0, [&] {
         QTimer::singleShot(50, [] { QCoreApplication::exit(0); });
-        const auto end = processes.RunAndWait(Program(u"/bin/sleep"_s, {u"0.8"_s}));
+        const auto end = m_processes.RunAndWait(Program(u"/bin/sleep"_s, {u"0.8"_s}));
         kind = end ? std::nullopt : std::optional(end.Failure().kind);
     });
     QElapsedTimer clock;

@@ -15,10 +15,11 @@ namespace {
 
 class ProgramHostTest : public testing::Test {
 protected:
-    void SetUp() override { folder.MakeTree({u"app/DOSBox/0.74_SVN/"_s, u"bin/"_s, u"work/"_s}); }
+    void SetUp() override { m_folder.MakeTree({u"app/DOSBox/0.74_SVN/"_s, u"bin/"_s, u"work/"_s}); }
     ProgramHost Host() const
     {
-        return ProgramHost(folder.Path(u"app"_s), {u"."_s, u"relative"_s, folder.Path(u"bin"_s)});
+        return ProgramHost(
+            m_folder.Path(u"app"_s), {u"."_s, u"relative"_s, m_folder.Path(u"bin"_s)});
     }
     /// What is started, relative to the test's folder, with its leading arguments; or the error.
     QString Found(const Outcome<HostProgram>& host) const
@@ -27,12 +28,12 @@ protected:
             return u"missing: "_s + host.Failure().text;
         }
         QStringList parts = QStringList(host.Value().program) + host.Value().leading;
-        return parts.replaceInStrings(folder.Path() + u'/', QString()).join(u' ') +
+        return parts.replaceInStrings(m_folder.Path() + u'/', QString()).join(u' ') +
                (host.Value().pathForm == PathForm::Windows ? u" (Windows)"_s : QString());
     }
     QString Find(const QString& program) const { return Found(Host().Find(program)); }
 
-    TestFolder folder;
+    TestFolder m_folder;
 };
 
 TEST_F(ProgramHostTest, NativeProgramBesideThenWineThenAnErrorThatNamesIt)
@@ -41,30 +42,30 @@ TEST_F(ProgramHostTest, NativeProgramBesideThenWineThenAnErrorThatNamesIt)
     EXPECT_TRUE(Find(dosbox).startsWith(u"missing: neither ")) << Find(dosbox).toStdString();
     EXPECT_TRUE(Find(u"DOSBox\\None\\dosbox.exe"_s).contains(u"DOSBox/None"));
 
-    folder.WriteRaw(u"app/DOSBox/0.74_SVN/DOSBox.exe"_s, "MZ");
+    m_folder.WriteRaw(u"app/DOSBox/0.74_SVN/DOSBox.exe"_s, "MZ");
     EXPECT_TRUE(Find(dosbox).contains(u"/DOSBox.exe is a Windows program, and Wine"));
-    folder.WriteScript(u"bin/wine64"_s, QString());
+    m_folder.WriteScript(u"bin/wine64"_s, QString());
     EXPECT_EQ(Find(dosbox), u"bin/wine64 app/DOSBox/0.74_SVN/DOSBox.exe (Windows)"_s);
-    folder.WriteScript(u"bin/wine"_s, QString());
+    m_folder.WriteScript(u"bin/wine"_s, QString());
     EXPECT_EQ(Find(dosbox), u"bin/wine app/DOSBox/0.74_SVN/DOSBox.exe (Windows)"_s);
 
-    folder.WriteScript(u"app/DOSBox/0.74_SVN/DosBox"_s, QString());
+    m_folder.WriteScript(u"app/DOSBox/0.74_SVN/DosBox"_s, QString());
     EXPECT_EQ(Find(dosbox), u"app/DOSBox/0.74_SVN/DosBox"_s);
     EXPECT_EQ(Find(u"dosbox/0.74_svn/DOSBOX.EXE"_s), u"app/DOSBox/0.74_SVN/DosBox"_s);
     EXPECT_EQ(
-        Find(folder.Path(u"app/dosbox/0.74_svn/dosbox.exe"_s)), u"app/DOSBox/0.74_SVN/DosBox"_s);
+        Find(m_folder.Path(u"app/dosbox/0.74_svn/dosbox.exe"_s)), u"app/DOSBox/0.74_SVN/DosBox"_s);
     EXPECT_TRUE(Host().Find(dosbox).Value().environment.isEmpty());
 }
 
 TEST_F(ProgramHostTest, DebuggerGetsATerminal)
 {
     const QString debugger = u"DOSBox\\0.74_SVN\\dosbox_debug.exe"_s;
-    folder.WriteScript(u"app/DOSBox/0.74_SVN/dosbox-debug"_s, QString());
+    m_folder.WriteScript(u"app/DOSBox/0.74_SVN/dosbox-debug"_s, QString());
     EXPECT_EQ(Find(debugger), u"app/DOSBox/0.74_SVN/dosbox-debug"_s);
     EXPECT_EQ(Host().Find(debugger).Value().environment.value(u"TERM"_s), u"dumb"_s);
 
     const auto request =
-        Host().Find(debugger).Value().Request({u"-nolog"_s}, folder.Path(), ShowState::Minimized);
+        Host().Find(debugger).Value().Request({u"-nolog"_s}, m_folder.Path(), ShowState::Minimized);
     EXPECT_EQ(request.arguments, QStringList{u"-nolog"_s});
     EXPECT_EQ(request.environment.value(u"TERM"_s), u"dumb"_s);
     EXPECT_EQ(request.show, ShowState::Minimized);
@@ -72,50 +73,50 @@ TEST_F(ProgramHostTest, DebuggerGetsATerminal)
 
 TEST_F(ProgramHostTest, WhatLiesBesideMustBeAProgram)
 {
-    folder.WriteScript(u"bin/wine"_s, QString());
-    folder.MakeTree({u"games/Star/STAR.EXE"_s, u"games/Star/star/"_s, u"games/Moon/MOON.EXE"_s});
+    m_folder.WriteScript(u"bin/wine"_s, QString());
+    m_folder.MakeTree({u"games/Star/STAR.EXE"_s, u"games/Star/star/"_s, u"games/Moon/MOON.EXE"_s});
     EXPECT_EQ(
-        Find(folder.Path(u"games/Star/Star.exe"_s)), u"bin/wine games/Star/STAR.EXE (Windows)"_s);
-    folder.WriteRaw(u"games/Moon/moon"_s, "a game's data, executable on a disk without rights");
-    QFile::setPermissions(folder.Path(u"games/Moon/moon"_s), QFile::ReadOwner | QFile::ExeOwner);
+        Find(m_folder.Path(u"games/Star/Star.exe"_s)), u"bin/wine games/Star/STAR.EXE (Windows)"_s);
+    m_folder.WriteRaw(u"games/Moon/moon"_s, "a game's data, executable on a disk without rights");
+    QFile::setPermissions(m_folder.Path(u"games/Moon/moon"_s), QFile::ReadOwner | QFile::ExeOwner);
     EXPECT_EQ(
-        Find(folder.Path(u"games/Moon/MOON.EXE"_s)), u"bin/wine games/Moon/MOON.EXE (Windows)"_s);
+        Find(m_folder.Path(u"games/Moon/MOON.EXE"_s)), u"bin/wine games/Moon/MOON.EXE (Windows)"_s);
     const auto request = Host()
-                             .Find(folder.Path(u"games/Moon/MOON.EXE"_s))
+                             .Find(m_folder.Path(u"games/Moon/MOON.EXE"_s))
                              .Value()
-                             .Request({u"/w"_s}, folder.Path());
-    EXPECT_EQ(request.arguments, (QStringList{folder.Path(u"games/Moon/MOON.EXE"_s), u"/w"_s}));
+                             .Request({u"/w"_s}, m_folder.Path());
+    EXPECT_EQ(request.arguments, (QStringList{m_folder.Path(u"games/Moon/MOON.EXE"_s), u"/w"_s}));
 }
 
 TEST_F(ProgramHostTest, TroubleWithTheNativeProgramIsNamed)
 {
-    folder.MakeLink(u"app/DOSBox/0.74_SVN/dosbox"_s, u"/no/such/dosbox"_s);
+    m_folder.MakeLink(u"app/DOSBox/0.74_SVN/dosbox"_s, u"/no/such/dosbox"_s);
     EXPECT_TRUE(Find(u"DOSBox\\0.74_SVN\\dosbox.exe"_s)
                     .endsWith(u"is a link to /no/such/dosbox, which is missing"));
-    folder.WriteRaw(u"app/tool"_s, "#!/bin/sh\n");
+    m_folder.WriteRaw(u"app/tool"_s, "#!/bin/sh\n");
     EXPECT_TRUE(Find(u"tool.exe"_s).contains(u"app/tool is no program"));
-    folder.WriteRaw(u"app/readme.txt"_s, "text");
+    m_folder.WriteRaw(u"app/readme.txt"_s, "text");
     EXPECT_TRUE(Find(u"readme.txt"_s).startsWith(u"missing: "));
-    folder.WriteScript(u"app/update.sh"_s, QString());
+    m_folder.WriteScript(u"app/update.sh"_s, QString());
     EXPECT_EQ(Find(u"update.sh"_s), u"app/update.sh"_s);
 }
 
 TEST_F(ProgramHostTest, ToolsBesideUsThenOnTheSearchPathNeverInTheWorkingFolder)
 {
     const QString before = QDir::currentPath();
-    ASSERT_TRUE(QDir::setCurrent(folder.Path(u"work"_s)));
-    folder.WriteScript(u"work/7z"_s, QString());
-    folder.WriteScript(u"work/relative/7z"_s, QString());
+    ASSERT_TRUE(QDir::setCurrent(m_folder.Path(u"work"_s)));
+    m_folder.WriteScript(u"work/7z"_s, QString());
+    m_folder.WriteScript(u"work/relative/7z"_s, QString());
     const auto found = [this](const QString& name) { return Found(Host().FindTool(name)); };
     EXPECT_TRUE(found(u"7z.exe"_s).startsWith(u"missing: "));
     for (const QString& name : {u"bin/7za"_s, u"bin/7z"_s, u"bin/7zz"_s, u"app/7za"_s}) {
-        folder.WriteScript(name, QString());
+        m_folder.WriteScript(name, QString());
         EXPECT_EQ(found(u"7z.exe"_s), name);
     }
-    folder.MakeTree({u"app/7z/"_s, u"app/7zz"_s}); // a folder, and a file that is no program
+    m_folder.MakeTree({u"app/7z/"_s, u"app/7zz"_s}); // a folder, and a file that is no program
     EXPECT_EQ(found(u"7z.exe"_s), u"app/7za"_s);
 
-    folder.WriteScript(u"app/urldownloader"_s, QString());
+    m_folder.WriteScript(u"app/urldownloader"_s, QString());
     EXPECT_EQ(found(u"UrlDownloader.exe"_s), u"app/urldownloader"_s);
     for (const QString& name : {u"../bin/7z"_s, u"bin\\7z.exe"_s, u".."_s, QString()}) {
         EXPECT_EQ(Host().FindTool(name).Failure().kind, ErrorKind::Refused);

@@ -105,7 +105,7 @@ TEST(OutsideProgramsTest, DesktopOpensPathsThatAreHardOnShellsAndAddresses)
     const auto opened = [&](const platform::Done& done) {
         EXPECT_TRUE(done);
         const bool came = QTest::qWaitFor([&] { return home.Exists(u"opened"_s); }, kPatienceMs);
-        const QString what = came ? QString::fromUtf8(home.ReadRaw(u"opened"_s)) : u"nothing"_s;
+        QString what = came ? QString::fromUtf8(home.ReadRaw(u"opened"_s)) : u"nothing"_s;
         QFile::remove(home.Path(u"opened"_s));
         return what;
     };

@@ -80,7 +80,7 @@ QByteArray RunProgram::ReadLine(int timeoutMs)
         const qsizetype end = Output().indexOf('\n', m_read);
         if (end >= 0) {
             // Never null, which an empty line's would be.
-            const QByteArray line = QByteArray("") + m_output.mid(m_read, end - m_read);
+            QByteArray line = QByteArray("") + m_output.mid(m_read, end - m_read);
             m_read = end + 1;
             return line;
         }
