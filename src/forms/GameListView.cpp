@@ -25,6 +25,12 @@ namespace {
 
 constexpr int kSettleMs = 60;
 
+/// Stored widths are for 96 dots an inch.
+double DotsScale(const QWidget& widget)
+{
+    return widget.logicalDpiX() / 96.0;
+}
+
 /// The list's keys that are commands of their own.
 const Deeds::Deed* DeedOf(const Deeds& deeds, int key)
 {
@@ -197,7 +203,7 @@ void GameListView::ShowColumns()
     for (int column = 0; column < finding::kColumns; ++column) {
         const double units = m_list.columnWidths[static_cast<std::size_t>(column)];
         if (units > 0) {
-            header.resizeSection(column, PixelsOf(units));
+            header.resizeSection(column, PixelsOf(units * DotsScale(*this)));
         }
     }
     header.setSortIndicator(
@@ -250,7 +256,7 @@ void GameListView::TakeColumnWidths()
     }
     for (int column = 0; column < finding::kColumns; ++column) {
         m_list.columnWidths[static_cast<std::size_t>(column)] =
-            UnitsOf(m_details->header()->sectionSize(column));
+            UnitsOf(m_details->header()->sectionSize(column)) / DotsScale(*this);
     }
 }
 

@@ -10,6 +10,7 @@
 #include "forms/pages/ToolsPage.h"
 
 #include <QHBoxLayout>
+#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
@@ -18,6 +19,8 @@ namespace pelorin::forms {
 namespace {
 
 constexpr double kPageEms = 28;
+/// What the smallest height of the window has beside tabInfo and the status bar: 135 form units.
+constexpr int kOverRail = 9;
 
 struct Tab {
     const char16_t* picture;
@@ -45,12 +48,19 @@ RightPanel::RightPanel(const Shown& shown, const Deeds& deeds, QWidget* parent)
 {
     setObjectName(u"picBack_1"_s);
     BuildRail();
-    auto* row = new QHBoxLayout(this);
     const int gap = Gap(*this);
-    row->setContentsMargins(2 * gap, 2 * gap, gap, 2 * gap);
+    auto* pages = new QVBoxLayout;
+    pages->setContentsMargins(0, 2 * gap, 0, 2 * gap);
+    pages->addWidget(m_stack);
+    auto* rail = new QVBoxLayout;
+    rail->setContentsMargins(0, kOverRail, 0, 0);
+    rail->addWidget(m_rail);
+    rail->addStretch();
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(2 * gap, 0, gap, 0);
     row->setSpacing(gap);
-    row->addWidget(m_stack, 1);
-    row->addWidget(m_rail, 0, Qt::AlignTop);
+    row->addLayout(pages, 1);
+    row->addLayout(rail);
     setFixedWidth(Ems(*this, kPageEms) + m_rail->sizeHint().width() + 4 * gap);
     ShowTab();
 }

@@ -54,7 +54,7 @@ protected:
 private:
     TextListModel m_model;
     int& m_row;
-    bool m_showing = true; // the program changes the list, not the user
+    bool m_showing = false; // the program changes the list, not the user
     std::function<void(int row)> m_activated;
     std::function<void(int row)> m_chosen;
 };

@@ -37,6 +37,7 @@ void WindowGeometry::Show()
     } else {
         m_window.show();
     }
+    Remember();
 }
 
 void WindowGeometry::FitFrame()

@@ -1,0 +1,290 @@
+#include "WindowFixture.h"
+#include "forms/GameListModel.h"
+#include "forms/Pictures.h"
+#include "library/IconImages.h"
+#include "platform/Notifier.h"
+
+#include <QAbstractItemView>
+#include <QHeaderView>
+#include <QLabel>
+#include <QListView>
+#include <QTreeView>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::test {
+
+using finding::GameList;
+using finding::View;
+
+class GameListViewTest : public WindowTest {
+protected:
+    QAbstractItemView* Icons() const { return Find<QAbstractItemView>("LVGamelist_icons"); }
+    QAbstractItemView* Details() const { return Find<QAbstractItemView>("LVGamelist_details"); }
+
+    void ShowView(View view)
+    {
+        screens.list.view = view;
+        screens.list.changed.Tell(GameList::ViewMode);
+    }
+    static QPoint CentreOf(const QAbstractItemView& view, int row)
+    {
+        return view.visualRect(view.model()->index(row, 0)).center();
+    }
+    static void Click(QAbstractItemView& view, int row, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers, CentreOf(view, row));
+    }
+    static void SendKey(QWidget& widget, QEvent::Type type, int key, bool repeats)
+    {
+        QKeyEvent event(type, key, Qt::NoModifier, QString(), repeats);
+        QCoreApplication::sendEvent(&widget, &event);
+    }
+};
+
+TEST_F(GameListViewTest, AClickWritesTheSelectionBeforeItTellsIt)
+{
+    int selectedThen = -1;
+    deeds.LVGamelist_ItemClick = [&] {
+        did << u"ItemClick"_s;
+        selectedThen = screens.list.selected;
+    };
+    Open();
+    Click(*Icons(), 2);
+    EXPECT_EQ(did, (QStringList{u"ItemClick"_s, u"SelectionMoved"_s}));
+    EXPECT_EQ(selectedThen, 2);
+    EXPECT_EQ(screens.list.selectedRows, std::vector<int>{2});
+}
+
+TEST_F(GameListViewTest, TheProgramsSelectionIsShownAndTellsNothing)
+{
+    Open();
+    screens.list.Select(3);
+    EXPECT_EQ(Icons()->currentIndex().row(), 3);
+    EXPECT_EQ(Details()->selectionModel()->selectedRows().size(), 1);
+    screens.list.Select(-1);
+    EXPECT_FALSE(Icons()->currentIndex().isValid());
+    EXPECT_EQ(did, QStringList());
+}
+
+TEST_F(GameListViewTest, BothViewsShareTheSelection)
+{
+    Open();
+    Click(*Icons(), 1);
+    Click(*Icons(), 3, Qt::ControlModifier);
+    ShowView(View::Details);
+    EXPECT_TRUE(Details()->isVisible());
+    EXPECT_FALSE(Icons()->isVisible());
+    EXPECT_EQ(Details()->selectionModel()->selectedRows().size(), 2);
+    EXPECT_EQ(Details()->currentIndex().row(), 3);
+    EXPECT_TRUE(Details()->hasFocus());
+    Click(*Details(), 4);
+    ShowView(View::LargeIcons);
+    EXPECT_EQ(Icons()->currentIndex().row(), 4);
+    EXPECT_EQ(screens.list.selectedRows, std::vector<int>{4});
+}
+
+TEST_F(GameListViewTest, AllCanBeSelectedByKeys)
+{
+    screens.list.Select(2);
+    Open();
+    QTest::keyClick(Icons(), Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(screens.list.selectedRows, (std::vector<int>{0, 1, 2, 3, 4}));
+    EXPECT_EQ(screens.list.selected, 2);
+}
+
+TEST_F(GameListViewTest, TheSelectionFollowsKeysAtOnceAndSettlesOnTheRelease)
+{
+    screens.list.view = View::List;
+    Open();
+    QWidget& view = *Icons();
+    SendKey(view, QEvent::KeyPress, Qt::Key_Down, false);
+    EXPECT_EQ(screens.list.selected, 1);
+    EXPECT_EQ(did, QStringList{u"ItemClick"_s});
+    SendKey(view, QEvent::KeyRelease, Qt::Key_Down, false);
+    EXPECT_EQ(did, (QStringList{u"ItemClick"_s, u"SelectionMoved"_s}));
+    // At the upper edge nothing moves, and the release shows the game all the same.
+    did.clear();
+    SendKey(view, QEvent::KeyPress, Qt::Key_Home, false);
+    SendKey(view, QEvent::KeyRelease, Qt::Key_Home, false);
+    SendKey(view, QEvent::KeyPress, Qt::Key_Up, false);
+    SendKey(view, QEvent::KeyRelease, Qt::Key_Up, false);
+    EXPECT_EQ(did, (QStringList{u"ItemClick"_s, u"SelectionMoved"_s, u"SelectionMoved"_s}));
+}
+
+TEST_F(GameListViewTest, ARepeatingKeySettlesNowAndThen)
+{
+    screens.list.view = View::List;
+    Open();
+    QWidget& view = *Icons();
+    for (int i = 0; i < 3; ++i) {
+        SendKey(view, QEvent::KeyPress, Qt::Key_Down, i > 0);
+        SendKey(view, QEvent::KeyRelease, Qt::Key_Down, true);
+    }
+    EXPECT_EQ(screens.list.selected, 3);
+    EXPECT_EQ(did.count(u"SelectionMoved"_s), 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return did.count(u"SelectionMoved"_s) == 1; }));
+    SendKey(view, QEvent::KeyRelease, Qt::Key_Down, false);
+    EXPECT_EQ(did.count(u"SelectionMoved"_s), 2);
+}
+
+TEST_F(GameListViewTest, EnterRunsOnceHoweverLongItIsHeld)
+{
+    Open();
+    SendKey(*Icons(), QEvent::KeyPress, Qt::Key_Return, false);
+    SendKey(*Icons(), QEvent::KeyPress, Qt::Key_Return, true);
+    EXPECT_EQ(did, QStringList{u"DblClick"_s});
+    screens.list.items.clear();
+    screens.list.Select(-1);
+    screens.list.changed.Tell(GameList::Reset);
+    SendKey(*Icons(), QEvent::KeyPress, Qt::Key_Return, false);
+    EXPECT_EQ(did, QStringList{u"DblClick"_s});
+}
+
+TEST_F(GameListViewTest, ADoubleClickRuns)
+{
+    Open();
+    const QPoint place = CentreOf(*Icons(), 0);
+    QTest::mouseClick(Icons()->viewport(), Qt::LeftButton, {}, place);
+    QTest::mouseDClick(Icons()->viewport(), Qt::LeftButton, {}, place);
+    EXPECT_EQ(did.count(u"DblClick"_s), 1);
+}
+
+TEST_F(GameListViewTest, DeleteNeedsItsOwnPress)
+{
+    Open();
+    SendKey(*Icons(), QEvent::KeyRelease, Qt::Key_Delete, false);
+    EXPECT_EQ(did, QStringList());
+    SendKey(*Icons(), QEvent::KeyPress, Qt::Key_Delete, false);
+    for (int i = 0; i < 3; ++i) {
+        SendKey(*Icons(), QEvent::KeyPress, Qt::Key_Delete, true);
+        SendKey(*Icons(), QEvent::KeyRelease, Qt::Key_Delete, true);
+    }
+    SendKey(*Icons(), QEvent::KeyRelease, Qt::Key_Delete, false);
+    EXPECT_EQ(did, QStringList{u"Delete"_s});
+}
+
+TEST_F(GameListViewTest, ARebuildIsOneResetAndKeepsAwayFromLostRows)
+{
+    Open();
+    screens.list.Select(4);
+    int resets = 0;
+    QObject::connect(Icons()->model(), &QAbstractItemModel::modelReset, Icons(), [&] { ++resets; });
+    {
+        const platform::RedrawLock lock(screens.gate);
+        screens.list.items.resize(2);
+        screens.list.changed.Tell(GameList::Reset);
+        // The views are asked to paint while they still believe in five rows.
+        EXPECT_EQ(Icons()->model()->data(Icons()->model()->index(4, 0)), QVariant());
+        window->grab();
+        screens.list.changed.Tell(GameList::Reset);
+        screens.list.Select(1);
+    }
+    EXPECT_EQ(resets, 1);
+    EXPECT_EQ(Icons()->currentIndex().row(), 1);
+    EXPECT_EQ(did, QStringList());
+}
+
+TEST_F(GameListViewTest, ColumnsAreFifteenUnitsAPixel)
+{
+    screens.list.view = View::Details;
+    screens.list.columnWidths = {4500, 1200, 1620, 1200, 735, 570, 930, 915};
+    screens.list.columnCaptions[4] = u"Maker"_s;
+    deeds.LVGamelist_ColumnClick = NoteIndex(u"Column"_s);
+    Open();
+    QHeaderView& header = *Find<QTreeView>("LVGamelist_details")->header();
+    EXPECT_EQ(header.sectionSize(0), 300);
+    EXPECT_EQ(header.sectionSize(5), 38);
+    EXPECT_EQ(header.model()->headerData(4, Qt::Horizontal, Qt::DisplayRole), u"Maker"_s);
+    // Untouched widths stay as they were stored, whatever their pixels are.
+    EXPECT_DOUBLE_EQ(screens.list.columnWidths[4], 735);
+    header.resizeSection(1, 100);
+    EXPECT_DOUBLE_EQ(screens.list.columnWidths[1], 1500);
+    QTest::mouseClick(
+        header.viewport(),
+        Qt::LeftButton,
+        {},
+        QPoint(header.sectionViewportPosition(2) + 20, header.height() / 2));
+    EXPECT_EQ(did, QStringList{u"Column 2"_s});
+}
+
+TEST_F(GameListViewTest, TheListSaysWhetherItIsShown)
+{
+    Open();
+    EXPECT_TRUE(screens.list.visible);
+    window->hide();
+    EXPECT_FALSE(screens.list.visible);
+}
+
+TEST(GameListModelTest, IconsComeFromTheSheetInTheSizeOfTheView)
+{
+    library::IconSheet icons;
+    icons.Append(library::PlainIcon(32, 200, 100, 50));
+    icons.Append(library::PlainIcon(32, 10, 20, 30));
+    GameList list;
+    list.items.resize(4);
+    list.items[0].listIndex = 2;
+    list.items[1].listIndex = 3; // none of the sheet's
+    list.items[2].listIndex = 0;
+    forms::GameListModel model(list, icons);
+    const auto icon = [&](int row) {
+        return model.data(model.index(row, 0), Qt::DecorationRole).value<QIcon>();
+    };
+    model.SetIconSize(32, 2.0);
+    const QPixmap pixmap = icon(0).pixmap(QSize(32, 32), 2.0);
+    EXPECT_EQ(pixmap.size(), QSize(64, 64));
+    EXPECT_EQ(pixmap.toImage().pixelColor(5, 5), QColor(30, 20, 10));
+    EXPECT_TRUE(icon(1).isNull());
+    EXPECT_TRUE(icon(2).isNull());
+    EXPECT_EQ(model.data(model.index(0, 1), Qt::DecorationRole), QVariant());
+
+    icons.Set(1, library::PlainIcon(32, 0, 0, 255));
+    EXPECT_EQ(icon(0).pixmap(32).toImage().pixelColor(5, 5), QColor(30, 20, 10));
+    model.Follow(GameList::Icons);
+    EXPECT_EQ(icon(0).pixmap(32).toImage().pixelColor(5, 5), QColor(255, 0, 0));
+}
+
+TEST(GameListModelTest, ToolTipsShowTitlesAsTheyStand)
+{
+    library::IconSheet icons;
+    GameList list;
+    list.items.resize(1);
+    list.items[0].text[0] = u"<b>A & B</b>"_s;
+    const forms::GameListModel model(list, icons);
+    EXPECT_EQ(model.data(model.index(0, 0), Qt::ToolTipRole), u"&lt;b&gt;A &amp; B&lt;/b&gt;"_s);
+    EXPECT_EQ(model.data(model.index(0, 1), Qt::ToolTipRole), QVariant());
+}
+
+TEST(PicturesTest, TheDefaultGameIconIsDrawnOnWhite)
+{
+    const library::IconPixels icon = forms::DefaultGameIcon();
+    ASSERT_EQ(icon.side, 32);
+    ASSERT_EQ(icon.bgr.size(), 32 * 32 * 3);
+    EXPECT_EQ(icon.bgr.left(3), QByteArray("\xff\xff\xff"));
+    EXPECT_NE(icon.bgr, QByteArray(icon.bgr.size(), '\xff'));
+    EXPECT_FALSE(forms::ApplicationIcon().pixmap(64).toImage().pixelColor(32, 10).alpha() == 0);
+}
+
+TEST(PicturesTest, LinePicturesFollowThePalette)
+{
+    const QPalette before = QApplication::palette();
+    const auto lightest = [] {
+        int value = 0;
+        const QImage image = forms::PictureIcon(u"up"_s).pixmap(24).toImage();
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor colour = image.pixelColor(x, image.height() / 2);
+            value = colour.alpha() > 200 ? qMax(value, colour.lightness()) : value;
+        }
+        return value;
+    };
+    QPalette palette = before;
+    palette.setColor(QPalette::ButtonText, Qt::black);
+    QApplication::setPalette(palette);
+    EXPECT_EQ(lightest(), 0);
+    palette.setColor(QPalette::ButtonText, Qt::white);
+    QApplication::setPalette(palette);
+    EXPECT_EQ(lightest(), 255);
+    QApplication::setPalette(before);
+}
+
+} // namespace pelorin::test

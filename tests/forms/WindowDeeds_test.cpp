@@ -1,0 +1,311 @@
+#include "WindowFixture.h"
+#include "forms/FormUnits.h"
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QProgressBar>
+#include <QTabBar>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::test {
+
+class WindowDeedsTest : public WindowTest {
+protected:
+    /// The menu as it stands when it opens.
+    QMenu* OpenedMenu(const char* name) const
+    {
+        auto* menu = Find<QMenu>(name);
+        Q_EMIT menu->aboutToShow();
+        return menu;
+    }
+    static QAction* Entry(const QMenu& menu, const QString& name)
+    {
+        auto* action = menu.findChild<QAction*>(name);
+        EXPECT_NE(action, nullptr) << name.toStdString();
+        return action;
+    }
+    void Press(const char* name) const
+    {
+        QTest::mouseClick(Find<QAbstractButton>(name), Qt::LeftButton);
+    }
+};
+
+TEST_F(WindowDeedsTest, ControlsWithoutACommandAreShownAndDisabled)
+{
+    deeds.cmdRefresh_Click = Note(u"Refresh"_s);
+    Open();
+    for (const char* name :
+         {"cmdRun_0",
+          "cmdRun_1",
+          "cmdOpenFolder",
+          "Picture2",
+          "optViewmode_2",
+          "txtFind",
+          "cmdFind",
+          "picAddGame",
+          "cmdVespra",
+          "cmdSaveInfo",
+          "cmdIcon_1",
+          "lblGenreK"}) {
+        EXPECT_TRUE(Find(name)->isVisible()) << name;
+        EXPECT_FALSE(Find(name)->isEnabled()) << name;
+    }
+    EXPECT_TRUE(Find("cmdRefresh")->isEnabled());
+}
+
+TEST_F(WindowDeedsTest, TheRunMenuIsAskedForEachTimeItOpens)
+{
+    shell::MenuModel model{
+        {0, u"Random"_s}, {1, {}, true, true}, {2, u"[A && B]"_s}, {3, u"Prompt"_s, false}};
+    deeds.mnuRun = [&] { return model; };
+    deeds.mnuRun_Click = NoteIndex(u"mnuRun"_s);
+    Open();
+    const QMenu& menu = *OpenedMenu("mnuRunRoot");
+    ASSERT_EQ(menu.actions().size(), 4);
+    EXPECT_TRUE(menu.actions()[1]->isSeparator());
+    EXPECT_EQ(Entry(menu, u"mnuRun_2"_s)->text(), u"[A && B]"_s);
+    EXPECT_FALSE(Entry(menu, u"mnuRun_3"_s)->isEnabled());
+    model.push_back({24, u"Recent"_s});
+    OpenedMenu("mnuRunRoot");
+    ASSERT_EQ(menu.actions().size(), 5);
+    Entry(menu, u"mnuRun_24"_s)->trigger();
+    EXPECT_EQ(did, QStringList{u"mnuRun 24"_s});
+}
+
+TEST_F(WindowDeedsTest, TheGameMenuOpensForASelectionOnly)
+{
+    int asked = 0;
+    deeds.mnuGame = [&] {
+        ++asked;
+        return shell::MenuModel{{20, u"Store"_s}};
+    };
+    deeds.mnuGame_Click = NoteIndex(u"mnuGame"_s);
+    Open();
+    auto* list = Find<QAbstractItemView>("LVGamelist_icons");
+    QTest::mouseClick(
+        list->viewport(),
+        Qt::RightButton,
+        {},
+        list->viewport()->rect().bottomRight() - QPoint(3, 3));
+    EXPECT_EQ(asked, 0);
+    const QRect row = list->visualRect(list->model()->index(2, 0));
+    QTest::mouseClick(list->viewport(), Qt::RightButton, {}, row.center());
+    EXPECT_EQ(asked, 1);
+    EXPECT_EQ(screens.list.selected, 2);
+    did.clear();
+    auto* menu = Find<QMenu>("mnuGameRoot");
+    Entry(*menu, u"mnuGame_20"_s)->trigger();
+    menu->close();
+    EXPECT_EQ(did, QStringList{u"mnuGame 20"_s});
+}
+
+TEST_F(WindowDeedsTest, ViewButtonsAskAndFollowTheModel)
+{
+    deeds.optViewmode_Click = [&](finding::View view) {
+        did << u"view %1"_s.arg(static_cast<int>(view));
+    };
+    Open();
+    EXPECT_TRUE(Find<QToolButton>("optViewmode_1")->isChecked());
+    Press("optViewmode_3");
+    EXPECT_EQ(did, QStringList{u"view 3"_s});
+    screens.list.view = finding::View::LargeIcons;
+    screens.list.changed.Tell(finding::GameList::ViewMode);
+    EXPECT_TRUE(Find<QToolButton>("optViewmode_0")->isChecked());
+    EXPECT_FALSE(Find<QToolButton>("optViewmode_3")->isChecked());
+}
+
+TEST_F(WindowDeedsTest, TheSearchBoxIsWrittenWhileTypingAndSearchedOnEnter)
+{
+    deeds.cmdFind_Click = [&] { did << u"find "_s + screens.search.txtFind; };
+    deeds.txtFind_Esc = [&] { did << u"esc "_s + screens.search.txtFind; };
+    Open();
+    auto* txtFind = Find<QLineEdit>("txtFind");
+    QTest::keyClicks(txtFind, u"star"_s);
+    EXPECT_EQ(screens.search.txtFind, u"star"_s);
+    EXPECT_EQ(did, QStringList());
+    QTest::keyClick(txtFind, Qt::Key_Return);
+    QTest::keyClick(txtFind, Qt::Key_Escape);
+    EXPECT_EQ(did, (QStringList{u"find star"_s, u"esc "_s}));
+    EXPECT_EQ(txtFind->text(), QString());
+}
+
+TEST_F(WindowDeedsTest, TheListsKeysReachTheirCommands)
+{
+    deeds.cmdRefresh_Click = Note(u"refresh"_s);
+    deeds.cmdFind_Click = Note(u"find"_s);
+    deeds.RenameGameFolder = Note(u"rename"_s);
+    Open();
+    auto* list = Find("LVGamelist_icons");
+    window->activateWindow();
+    QTest::keyClick(list, Qt::Key_F5);
+    QTest::keyClick(list, Qt::Key_F4);
+    QTest::keyClick(list, Qt::Key_F4, Qt::ShiftModifier);
+    EXPECT_EQ(did, (QStringList{u"refresh"_s, u"rename"_s}));
+    screens.search.txtFind = u"abc"_s;
+    screens.search.changed.Tell(1);
+    QTest::keyClick(list, Qt::Key_F3);
+    EXPECT_TRUE(Find("txtFind")->hasFocus());
+    EXPECT_EQ(Find<QLineEdit>("txtFind")->selectedText(), u"abc"_s);
+}
+
+TEST_F(WindowDeedsTest, StatusPanelsHandOnTheirClicks)
+{
+    deeds.SBDirectory_PanelClick = NoteIndex(u"panel"_s);
+    Open();
+    EXPECT_FALSE(Find("SBDirectory_4")->isVisible());
+    screens.status.Tell(u"first"_s, u"first story"_s);
+    screens.status.Tell(u"second\nmore"_s, {});
+    EXPECT_TRUE(Find("SBDirectory_4")->isVisible());
+    EXPECT_EQ(Find<QAbstractButton>("SBDirectory_4")->text(), u"second"_s);
+    for (const char* name : {"SBDirectory_1", "SBDirectory_2", "SBDirectory_3", "SBDirectory_4"}) {
+        Press(name);
+    }
+    EXPECT_EQ(did, (QStringList{u"panel 2"_s, u"panel 3"_s}));
+    EXPECT_EQ(prompts.Texts(), QStringList{u"second\nmore\n\nfirst\nfirst story"_s});
+}
+
+TEST_F(WindowDeedsTest, TabsAreCountedFromOneAndTwoShareAPage)
+{
+    deeds.tabInfo_Click = NoteIndex(u"tab"_s);
+    options.GroupCaption = {u"sdl"_s, u"cpu"_s};
+    const dosboxconf::Cell cell{1, 0};
+    const auto at = dosboxconf::OptionGrid::Index(cell);
+    options.OptionTitle[at] = u"Core"_s;
+    options.OptionKinds[at] = dosboxconf::OptionKind::Index;
+    options.OptionValue[at] = {u"auto"_s, u"dynamic"_s};
+    Open();
+    EXPECT_EQ(window->findChild<QWidget*>(u"picInfo_2"_s), nullptr);
+    auto* tabs = Find<QTabBar>("tabInfo");
+    tabs->setCurrentIndex(2);
+    EXPECT_TRUE(Find("picInfo_2")->isVisible());
+    EXPECT_EQ(screens.frame.tabInfo, 3);
+    Find<QComboBox>("cmbConfigSub")->setCurrentIndex(1);
+    auto* values = Find<QAbstractItemView>("lstConfig");
+    ASSERT_EQ(values->model()->rowCount(), 1);
+    EXPECT_EQ(values->model()->index(0, 0).data(), u"auto"_s);
+    // Another game's settings were loaded meanwhile.
+    options.OptionSelection[at] = 1;
+    tabs->setCurrentIndex(3);
+    EXPECT_TRUE(Find("picInfo_2")->isVisible());
+    EXPECT_EQ(values->model()->index(0, 0).data(), u"dynamic"_s);
+    EXPECT_EQ(did, (QStringList{u"tab 3"_s, u"tab 4"_s}));
+    // The program's choice is shown and not reported as the user's.
+    ShowTab(1);
+    EXPECT_EQ(tabs->currentIndex(), 0);
+    EXPECT_EQ(did.size(), 2);
+}
+
+TEST_F(WindowDeedsTest, TheStartPageWritesRowsAndHandsOnWhatToDo)
+{
+    screens.start.lstAutoexec = {u"CD GAME"_s, u"PLAY"_s};
+    screens.start.commandRow = 1;
+    deeds.lstAutoexec_DblClick = NoteIndex(u"edit"_s);
+    deeds.mnuCD_Click = NoteIndex(u"cd"_s);
+    deeds.cmdSaveCD_Click = Note(u"save cd"_s);
+    Open();
+    ShowTab(2);
+    auto* commands = Find<QAbstractItemView>("lstAutoexec");
+    EXPECT_EQ(commands->currentIndex().row(), 1);
+    EXPECT_EQ(screens.start.commandRow, 1);
+    const QPoint first = commands->visualRect(commands->model()->index(0, 0)).center();
+    QTest::mouseClick(commands->viewport(), Qt::LeftButton, {}, first);
+    EXPECT_EQ(screens.start.commandRow, 0);
+    QTest::mouseDClick(commands->viewport(), Qt::LeftButton, {}, first);
+    const QMenu& menu = *OpenedMenu("mnuCDRoot");
+    EXPECT_EQ(Entry(menu, u"mnuCD_0"_s)->text(), u"E51"_s);
+    Entry(menu, u"mnuCD_1"_s)->trigger();
+    // Without a CD the panel is hidden; to save that there is none must still be possible.
+    EXPECT_FALSE(Find("picCD")->isVisible());
+    Press("cmdSaveCD");
+    EXPECT_EQ(did, (QStringList{u"edit 0"_s, u"cd 1"_s, u"save cd"_s}));
+}
+
+TEST_F(WindowDeedsTest, ThePlacementIsWrittenByTheUserOnly)
+{
+    deeds.cmdMoveDosbox_Click = NoteIndex(u"nudge"_s);
+    Open();
+    ShowTab(5);
+    screens.placement.txtDosboxPos = {u"12"_s, u"x7"_s};
+    screens.placement.cmbDosboxMove = -1;
+    screens.placement.changed.Tell(shell::PlacementPanel::All);
+    auto* y = Find<QLineEdit>("txtDosboxPos_1");
+    EXPECT_EQ(y->text(), u"x7"_s);
+    EXPECT_EQ(screens.placement.cmbDosboxMove, -1);
+    QTest::keyClicks(y, u"0"_s);
+    EXPECT_EQ(screens.placement.txtDosboxPos[1], u"x70"_s);
+    Find<QCheckBox>("chkDosboxMove")->click();
+    EXPECT_TRUE(screens.placement.chkDosboxMove);
+    Press("cmdMoveDosbox_3");
+    EXPECT_EQ(did, QStringList{u"nudge 3"_s});
+}
+
+TEST_F(WindowDeedsTest, NoticeAndProgressStayReadableOverDisabledPanels)
+{
+    Open();
+    screens.frame.picBack0Enabled = false;
+    screens.frame.changed.Tell(shell::MainFrame::Panels);
+    screens.notice.visible = true;
+    screens.notice.lblMessage = u"Packing"_s;
+    screens.notice.colour = 16711680;
+    screens.notice.changed.Tell(shell::BusyNotice::All);
+    screens.progress.visible = true;
+    screens.progress.maximum = 9;
+    screens.progress.value = 4;
+    screens.progress.changed.Tell(shell::ProgressPanel::All);
+    auto* message = Find<QLabel>("lblMessage");
+    EXPECT_TRUE(message->isVisible());
+    EXPECT_TRUE(message->isEnabled());
+    EXPECT_EQ(message->palette().color(QPalette::WindowText), QColor(0, 0, 255));
+    EXPECT_EQ(Find<QProgressBar>("pbProgress")->value(), 4);
+    // In the middle of the list, also after the window has grown.
+    window->resize(window->size() + QSize(200, 100));
+    QCoreApplication::processEvents();
+    const auto centre = [&](const char* name) {
+        return Find(name)->mapTo(window.get(), Find(name)->rect().center());
+    };
+    EXPECT_LE((centre("picMessage") - centre("LVGamelist")).manhattanLength(), 2);
+    EXPECT_FALSE(Find("LVGamelist_icons")->isEnabled());
+}
+
+TEST_F(WindowDeedsTest, TheSmallestSizeIsMadeOfWhatIsShown)
+{
+    Open();
+    window->resize(1, 1);
+    QCoreApplication::processEvents();
+    const QWidget& vespra = *Find("cmdVespra");
+    const int left = vespra.mapTo(Find("picBack_0"), QPoint(0, 0)).x();
+    const QWidget& picBack1 = *Find("picBack_1");
+    const int pageLeft = Find("picInfo_0")->mapTo(&picBack1, QPoint(0, 0)).x();
+    EXPECT_EQ(window->width(), left + vespra.width() + picBack1.width() + pageLeft);
+    EXPECT_EQ(window->height(), Find("tabInfo")->height() + 9 + Find("SBDirectory")->height());
+    // Growing gives the left panel all of it.
+    const int panel = picBack1.width();
+    window->resize(window->size() + QSize(300, 0));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(picBack1.width(), panel);
+    EXPECT_EQ(vespra.mapTo(Find("picBack_0"), QPoint(0, 0)).x(), left);
+}
+
+TEST_F(WindowDeedsTest, StoredGeometryComesBackAndADesignedSizeStays)
+{
+    screens.frame.left = 450;
+    screens.frame.top = 300;
+    screens.frame.width = 18000;
+    screens.frame.height = 10500;
+    Open();
+    EXPECT_EQ(window->frameGeometry(), QRect(30, 20, 1200, 700));
+    EXPECT_DOUBLE_EQ(screens.frame.width, 18000);
+    EXPECT_DOUBLE_EQ(screens.frame.left, 450);
+    const double widthBefore = screens.frame.width;
+    window->showMaximized();
+    EXPECT_EQ(screens.frame.state, shell::MainFrame::State::Maximized);
+    EXPECT_DOUBLE_EQ(screens.frame.width, widthBefore);
+}
+
+} // namespace pelorin::test
