@@ -57,6 +57,9 @@ void AddGameButton::StandOver(QWidget* place)
 
 void AddGameButton::TakeSize()
 {
+    if (m_place == nullptr) {
+        return;
+    }
     m_place->setFixedSize(sizeHint());
     Follow();
 }

@@ -100,7 +100,7 @@ QIcon GameListModel::Icon(int listIndex) const
     QIcon shown(pixmap);
     // A selected game's icon keeps its colours.
     shown.addPixmap(pixmap, QIcon::Selected);
-    m_painted.insert(listIndex, new QIcon(shown), dots * dots * 4);
+    m_painted.insert(listIndex, new QIcon(shown), qsizetype{4} * dots * dots);
     return shown;
 }
 

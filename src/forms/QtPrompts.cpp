@@ -78,6 +78,7 @@ Answer QtPrompts::Ask(const platform::MessageBox& box)
     dialog.setTextFormat(Qt::PlainText);
     const std::vector<Choice> choices = ChoicesOf(box.buttons);
     std::vector<QPushButton*> buttons;
+    buttons.reserve(choices.size());
     for (const Choice& choice : choices) {
         buttons.push_back(dialog.addButton(Words(choice.words), choice.role));
     }

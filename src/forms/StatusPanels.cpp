@@ -144,9 +144,10 @@ void StatusPanels::TellNotes()
 {
     QStringList stories;
     const std::vector<shell::Note>& notes = m_shown.screens.status.notes;
-    for (auto note = notes.rbegin(); note != notes.rend(); ++note) {
-        const bool more = !note->story.isEmpty() && note->story != note->text;
-        stories << (more ? note->text + u"\n"_s + note->story : note->text);
+    for (const shell::Note& note : notes) {
+        const bool more = !note.story.isEmpty() && note.story != note.text;
+        // The newest first.
+        stories.prepend(more ? note.text + u"\n"_s + note.story : note.text);
     }
     m_shown.prompts.ShowReport(Own(m_shown.lang, kOwnNotes), stories.join(u"\n\n"_s));
 }

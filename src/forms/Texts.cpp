@@ -21,8 +21,8 @@ enum class Kind {
 };
 
 struct ControlText {
-    const char16_t* control;
-    Kind kind;
+    const char16_t* control = u"";
+    Kind kind = Kind::Caption;
     OwnEntry text;
 };
 

@@ -18,7 +18,7 @@ using platform::Answer;
 using platform::Buttons;
 
 class QtPromptsTest : public testing::Test {
-protected:
+public:
     /// Does it to the next dialog that opens.
     static void WhenOpen(const std::function<void(QDialog& dialog)>& act)
     {

@@ -27,7 +27,7 @@ inline shell::LangTable NumberedLanguage(const QString& prefix = QStringLiteral(
 
 /// The main window over models that a test fills by hand. `did` lists the deeds in order.
 class WindowTest : public testing::Test {
-protected:
+public:
     WindowTest()
     {
         lang = NumberedLanguage();
