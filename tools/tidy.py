@@ -24,8 +24,6 @@ import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 TIDY = "clang-tidy-14"
-# Sources that nobody has looked at with the linter yet, one a line; the list only gets shorter.
-PENDING = ROOT / "tools/tidy-pending.txt"
 OURS = re.compile(r"(src|tools|tests)/([a-z0-9]+/)*[A-Za-z0-9_]+\.cpp")
 INCLUDE = re.compile(rb'^[ \t]*#[ \t]*include[ \t]*"([^"]+)"', re.MULTILINE)
 LIBRARIES = ["qt6-base-dev", "libfreeimage-dev", "libgtest-dev", "libgmock-dev", "libstdc++-12-dev"]
@@ -78,10 +76,7 @@ def read_commands(build):
 
 def wanted_sources(names, commands, includes):
     if not names:
-        pending = set(PENDING.read_text().split()) if PENDING.is_file() else set()
-        left = [source for source in commands if str(source.relative_to(ROOT)) in pending]
-        print(f"clang-tidy: {len(left)} sources of {PENDING.name} are left out for now")
-        return sorted(set(commands) - set(left))
+        return sorted(commands)
     asked = {pathlib.Path(name).resolve() for name in names}
     wanted = [source for source in commands if asked & includes.reached_from(source)]
     unknown = asked - {file for source in wanted for file in includes.reached_from(source)}

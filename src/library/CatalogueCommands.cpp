@@ -240,7 +240,7 @@ Done RemoveGameEntry(Launcher& launcher, const QString& folder)
     if (!platform::IsPlainName(folder)) {
         return platform::Error{platform::ErrorKind::Refused, folder};
     }
-    const Done binned = launcher.ports.bin.MoveToBin(launcher.places.GameDir(folder));
+    Done binned = launcher.ports.bin.MoveToBin(launcher.places.GameDir(folder));
     if (!binned) {
         return binned;
     }

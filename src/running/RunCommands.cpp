@@ -105,7 +105,7 @@ void TellEnd(
 /// Writes dosbox.conf and starts the emulator; it is not waited for.
 platform::Done StartLaunch(Launcher& launcher, const QString& title, const Launch& launch)
 {
-    if (const platform::Done written = platform::WriteBytes(launch.confPath, launch.confBytes);
+    if (platform::Done written = platform::WriteBytes(launch.confPath, launch.confBytes);
         !written) {
         return written;
     }

@@ -93,10 +93,10 @@ platform::Done Form_Load(Launcher& launcher)
     frame.minimumSizeHook = !archives::FileExists(launcher.places.InAppDir(u"NoHook"_s));
     launcher.BuildStamp = OwnBuildStamp();
     ClearObsoleteFolder(launcher);
-    if (const platform::Done read = ReadLanguage(launcher); !read) {
+    if (platform::Done read = ReadLanguage(launcher); !read) {
         return read;
     }
-    if (const platform::Done loaded = LoadSettings(launcher); !loaded) {
+    if (platform::Done loaded = LoadSettings(launcher); !loaded) {
         return loaded;
     }
     launcher.flags.ConfigListFocused = false;

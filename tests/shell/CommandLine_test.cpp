@@ -10,8 +10,8 @@ TEST(CommandLine, SortsEveryFormOfIt)
 {
     struct Row {
         QStringList arguments;
-        CommandLine::Task task;
-        qsizetype pieces;
+        CommandLine::Task task = CommandLine::Task::OpenWindow;
+        qsizetype pieces = 0;
     };
     const Row rows[] = {
         {{}, CommandLine::Task::OpenWindow, 0},

@@ -50,7 +50,7 @@ std::unique_ptr<shell::Launcher> Installation::Start()
     return launcher;
 }
 
-void Installation::AddGame(const QString& name, const QString& meta)
+void Installation::AddGame(const QString& name, const QString& meta) const
 {
     const QString game = u"Games/"_s + name;
     folder.MakeTree({game + u"/GAME.COM"_s, game + u'/' + meta + u'/'});

@@ -20,7 +20,7 @@ public:
     std::unique_ptr<shell::Launcher> Start();
 
     /// A game folder with a start file; `meta` is the spelling of its metadata folder.
-    void AddGame(const QString& name, const QString& meta = QStringLiteral("DosBox"));
+    void AddGame(const QString& name, const QString& meta = QStringLiteral("DosBox")) const;
 
     TestFolder folder{QStringLiteral("펠로린 [앱]")};
     FakePorts fakes;
