@@ -25,7 +25,8 @@ packages_of() {
 # Prints those of the named packages that are not installed.
 missing_packages() {
     local have
-    have=$(dpkg-query -W -f='${Package} ${db:Status-Status}\n' "$@" 2>/dev/null |
+    # dpkg-query fails when it never heard of one of them, and that is no reason to stop.
+    have=$({ dpkg-query -W -f='${Package} ${db:Status-Status}\n' "$@" 2>/dev/null || true; } |
         sed -n 's/ installed$//p')
     local name
     for name in "$@"; do
