@@ -79,7 +79,7 @@ foreach(line IN LISTS assembly_lines)
     set(depfile ${CMAKE_CURRENT_BINARY_DIR}/CMakeFiles/stage_${depfile}.d)
     pelorin_stage(${staged} ${source}
         COMMAND ${NASM_EXECUTABLE} -f bin -Werror -I ${source_folder}/
-            -MD ${depfile} -o ${stage}/${staged} ${source}
+            -I ${CMAKE_CURRENT_SOURCE_DIR}/samples/lib/ -MD ${depfile} -o ${stage}/${staged} ${source}
         DEPFILE ${depfile})
 endforeach()
 

@@ -119,26 +119,6 @@ AddRisingNumber:
         popa
         ret
 
-; AX as a number without leading zeros at DI, ended by 0.
-FormatShort:
-        pusha
-        xor     cx, cx
-        mov     bx, 10
-.digit: xor     dx, dx
-        div     bx
-        push    dx
-        inc     cx
-        test    ax, ax
-        jnz     .digit
-.put:   pop     ax
-        add     al, '0'
-        mov     [di], al
-        inc     di
-        loop    .put
-        mov     byte [di], 0
-        popa
-        ret
-
 MoveRisings:
         mov     si, risings
         mov     cx, kRisings
@@ -252,5 +232,33 @@ PutSkyPixel:
         mov     [es:di], bl
 .kept:  pop     di
 .done:  ret
+
+; Darkens a rectangle, so that text can be read on it. AX = x, DX = y, CX = width, BP = height.
+ShadeRect:
+        pusha
+        imul    di, dx, kWidth
+        add     di, ax
+.row:   push    cx
+        push    di
+.pixel: mov     al, [es:di]
+        cmp     al, kHill
+        jae     .ramp
+        sub     al, kSky                ; the sky is one long ramp
+        shr     al, 2
+        add     al, kSky
+        jmp     .put
+.ramp:  mov     ah, al
+        and     ax, 0F00Fh
+        shr     al, 2
+        or      al, ah
+.put:   stosb
+        loop    .pixel
+        pop     di
+        pop     cx
+        add     di, kWidth
+        dec     bp
+        jnz     .row
+        popa
+        ret
 
 seed_effects:   dw 99

@@ -206,19 +206,6 @@ DrawPause:
         mov     word [text_scale], 1
         jmp     ShowFrame
 
-; AX as two digits at DI.
-FormatTwo:
-        push    bx
-        cmp     ax, 99
-        jbe     .fits
-        mov     ax, 99
-.fits:  mov     bl, 10
-        div     bl
-        add     ax, '00'
-        mov     [di], ax
-        pop     bx
-        ret
-
 ; `score` as six digits at DI.
 FormatScore:
         pushad

@@ -6,70 +6,12 @@
 ;   LAST.TXT    what happened in the last game, a line for each level done and one for the end
 ;   SCORES.DAT  the five best, a line each: initials, score, level
 ;
-; This file: start, end, the road from the title to the play and back. Procedures keep DS and SS and
-; need the direction flag clear; what they take and give stands with each, and other registers are
-; lost unless they save them by pusha. Assemble with nasm -f bin.
+; This file: the road from the title to the play and back. What several programs use lies in
+; samples/lib.
 
-        cpu     386
-        org     100h
+%include "start.asm"
 
-start:
-        cld
-        mov     sp, stack_top
-        mov     bx, stack_top + 15
-        shr     bx, 4
-        mov     ah, 4Ah                 ; give back what lies behind the program
-        int     21h
-        jc      NoMemory
-        call    ClearVariables
-        call    AllocatePictures
-        jc      NoMemory
-        call    GuardAgainstDos
-        call    LoadScores
-        mov     dx, name_ready
-        call    RemoveFile
-        call    EnterGraphics
-        call    TakeTimer
-        call    TakeKeyboard
-        call    MainLoop
-        call    FadeOut
-        call    ReleaseKeyboard
-        call    ReleaseTimer
-        call    LeaveGraphics
-        mov     ax, 4C00h
-        int     21h
-
-NoMemory:
-        mov     dx, text_no_memory
-        mov     ah, 9
-        int     21h
-        mov     ax, 4C01h
-        int     21h
-
-; A .COM file holds nothing of what is reserved behind its end.
-ClearVariables:
-        push    ds
-        pop     es
-        mov     di, variables
-        mov     cx, variables_end - variables
-        xor     al, al
-        rep     stosb
-        ret
-
-; Ctrl-C must not end the program with our interrupts in place, and a disk that fails must give an
-; error, not a question. DOS puts both vectors back at the end.
-GuardAgainstDos:
-        mov     dx, IgnoreBreak
-        mov     ax, 2523h
-        int     21h
-        mov     dx, FailDisk
-        mov     ax, 2524h
-        int     21h
-        ret
-FailDisk:
-        mov     al, 3
-IgnoreBreak:
-        iret
+Prepare equ LoadScores
 
 ; Title, play, initials, scores; until Esc at the title.
 MainLoop:
@@ -82,11 +24,14 @@ MainLoop:
         jmp     MainLoop
 .leave: ret
 
-%include "video.asm"
+%include "screen.asm"
 %include "palette.asm"
 %include "timer.asm"
 %include "keyboard.asm"
 %include "sound.asm"
+%include "numbers.asm"
+%include "files.asm"
+%include "colours.asm"
 %include "scenery.asm"
 %include "hangul.asm"
 %include "sprites.asm"
@@ -96,20 +41,13 @@ MainLoop:
 %include "play.asm"
 %include "things.asm"
 %include "playscreen.asm"
-%include "files.asm"
+%include "log.asm"
 %include "scores.asm"
 
 text_no_memory: db "Counting Stars at Night needs 200 KB of free memory.", 13, 10, "$"
 
 ; Variables without content at the start; they lie behind the program in memory only.
 section .bss
-variables:
-picture:        resw 1
-frame:          resw 1
-font:           resw 2
-palette:        resb kPaletteBytes
-sprite_x:       resw 1
-rows_left:      resb 1
 stroke_shading: resb 1
 stroke_growth:  resw 1
 stroke_colour:  resb 1

@@ -128,3 +128,9 @@ meteor_age:       dw kMeteorEach - 60
 text_title:       db "COUNTING STARS AT NIGHT", 0
 text_press_enter: db "PRESS ENTER", 0
 text_title_keys:  db "S scores    M sound    Esc leave", 0
+
+tune_title:
+                notes kE4,14, 0,2, kG4,14, 0,2, kA4,30, 0,2, kG4,14, 0,2, kE4,14, 0,2, kD4,30, 0,2, \
+                      kE4,14, 0,2, kG4,14, 0,2, kC5,30, 0,2, kA4,14, 0,2, kG4,46, 0,2, \
+                      kA4,14, 0,2, kC5,14, 0,2, kD5,30, 0,2, kC5,14, 0,2, kA4,14, 0,2, kG4,30, 0,2, \
+                      kE4,14, 0,2, kD4,14, 0,2, kC4,60

@@ -119,36 +119,8 @@ FillRect:
         popa
         ret
 
-; Darkens a rectangle, so that text can be read on it. AX = x, DX = y, CX = width, BP = height.
-ShadeRect:
-        pusha
-        imul    di, dx, kWidth
-        add     di, ax
-.row:   push    cx
-        push    di
-.pixel: mov     al, [es:di]
-        cmp     al, kHill
-        jae     .ramp
-        sub     al, kSky                ; the sky is one long ramp
-        shr     al, 2
-        add     al, kSky
-        jmp     .put
-.ramp:  mov     ah, al
-        and     ax, 0F00Fh
-        shr     al, 2
-        or      al, ah
-.put:   stosb
-        loop    .pixel
-        pop     di
-        pop     cx
-        add     di, kWidth
-        dec     bp
-        jnz     .row
-        popa
-        ret
-
 ; A sprite is a byte for its width, one for its height, and a letter a pixel; `colour_of_letter`
-; tells the colours. SI = sprite, AX = x, DX = y of its upper left corner, which may lie outside.
+; of the program tells the colours. SI = sprite, AX = x, DX = y of its upper left corner, which may lie outside.
 DrawSprite:
         pusha
         mov     [sprite_x], ax
@@ -320,3 +292,11 @@ RandomBelow:
 
 text_scale:     dw 1
 text_shading:   dw 0
+
+section .bss
+picture:        resw 1
+frame:          resw 1
+font:           resw 2
+sprite_x:       resw 1
+rows_left:      resb 1
+section .text

@@ -90,12 +90,6 @@ kG5     equ NOTE(784)
 kA5     equ NOTE(880)
 kC6     equ NOTE(1047)
 
-tune_title:
-                notes kE4,14, 0,2, kG4,14, 0,2, kA4,30, 0,2, kG4,14, 0,2, kE4,14, 0,2, kD4,30, 0,2, \
-                      kE4,14, 0,2, kG4,14, 0,2, kC5,30, 0,2, kA4,14, 0,2, kG4,46, 0,2, \
-                      kA4,14, 0,2, kC5,14, 0,2, kD5,30, 0,2, kC5,14, 0,2, kA4,14, 0,2, kG4,30, 0,2, \
-                      kE4,14, 0,2, kD4,14, 0,2, kC4,60
-
 tune:           dw 0
 note_left:      db 0
 sound_off:      db 0

@@ -1,4 +1,4 @@
-; Files in the current directory. When the disk refuses, the game goes on without a word.
+; Files in the current directory. When the disk refuses, the program goes on without a word.
 
 ; Tells other programs, once, that the title can be seen.
 TellReady:
@@ -11,35 +11,8 @@ TellReady:
         call    WriteFile
 .done:  ret
 
-; The log of one game: begun anew, a line for each night that was counted, one for the end.
-BeginLog:
-        mov     dx, name_log
-        xor     cx, cx
-        jmp     WriteFile
-
-LogNight:
-        mov     ax, [level]
-        mov     di, text_log_level
-        call    FormatTwo
-        mov     di, text_log_score
-        call    FormatScore
-        mov     si, text_log_night
-        mov     cx, kLogNightBytes
-        jmp     AppendLog
-
-LogEnd:
-        mov     ax, [level]
-        mov     di, text_end_level
-        call    FormatTwo
-        mov     di, text_end_score
-        call    FormatScore
-        mov     si, text_log_end
-        mov     cx, kLogEndBytes
-        ; fall through
-
-; CX bytes from SI behind the log.
-AppendLog:
-        mov     dx, name_log
+; CX bytes from SI behind what the file DX holds.
+AppendFile:
         mov     ax, 3D01h
         int     21h
         jc      .done
@@ -99,16 +72,6 @@ ReadFile:
 .done:  ret
 
 name_ready:     db "READY.TXT", 0
-name_scores:    db "SCORES.DAT", 0
-name_log:       db "LAST.TXT", 0
 text_ready:     db "READY", 13, 10
 kReadyBytes     equ $ - text_ready
 told_ready:     db 0
-text_log_night: db "LEVEL "
-text_log_level: db "00 DONE "
-text_log_score: db "000000", 13, 10
-kLogNightBytes  equ $ - text_log_night
-text_log_end:   db "GAME OVER LEVEL "
-text_end_level: db "00 SCORE "
-text_end_score: db "000000", 13, 10
-kLogEndBytes    equ $ - text_log_end
