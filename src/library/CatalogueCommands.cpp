@@ -55,13 +55,13 @@ void TellLeftOut(Launcher& launcher, const ScanResult& scan)
     if (scan.beyondBound > 0) {
         const QString text = launcher.lang.OwnText(
             352,
-            u"<1> folders are left out: a library holds 32,767 games."_s,
+            u"Folders left out: <1>. A library holds 32,767 games."_s,
             {QString::number(scan.beyondBound)});
         shell::TellNote(launcher, kCategory, text);
     }
     if (!scan.refused.isEmpty()) {
         const QString text = launcher.lang.OwnText(
-            353, u"<1> folders can't be games."_s, {QString::number(scan.refused.size())});
+            353, u"Folders that can't be games: <1>"_s, {QString::number(scan.refused.size())});
         shell::TellNote(launcher, kCategory, text, scan.refused.join(u'\n'));
     }
 }
@@ -268,7 +268,7 @@ Done SaveCatalogue(Launcher& launcher)
         if (!folders.isEmpty()) {
             const QString text = launcher.lang.OwnText(
                 354,
-                u"<1> games hold characters that the list's file can't keep."_s,
+                u"Games with characters that the list's file can't keep: <1>"_s,
                 {QString::number(folders.size())});
             shell::TellNote(launcher, kCategory, text, folders.join(u'\n'));
         }
