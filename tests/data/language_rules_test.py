@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
-"""language_rules_test.py ROOT: checks data/ko/Language.dat and data/ko/option.dat.
+"""language_rules_test.py ROOT: checks Language.dat and option.dat of each language in data/.
 
 The program reads both by position: line n is text n, and cell (group, item) is an option. So the
 checks are for what a slip in an editor breaks without a word: a line lost or moved, a placeholder
 dropped, a mark that the titles can't lose again, a row that shifts the fixed cells, a list that is
-too short for a stored index. Ends with 0, or with 1 after a line for each fault.
+too short for a stored index. And for what drifts apart: one language from the other, the files
+from the English that is built in. Ends with 0, or with 1 after a line for each fault.
 """
 
 import pathlib
@@ -20,43 +21,54 @@ COUNT = 339
 UNUSED = {68, 69, 70, *range(78, 86), *range(102, 106), 110, 116, 139, *range(145, 149), 150, 162,
           *range(180, 184), 186, 206}  # fmt: skip
 
-# Texts that the program compares, appends, or shows in two places with one sense.
+# Texts that the program compares, appends, or shows in two places with one sense: the line, and
+# its wording in each language. None is free.
+LANGUAGES = ("ko", "en")
 FIXED = {
-    1: "펠로린",
-    2: "잠시만 기다려 주세요.",
-    3: "전체 <1> 수 : ",
-    4: "작업 중입니다. 잠시만 기다려 주세요.",
-    11: "폴더 열기 메뉴", 12: "게임 폴더", 14: "설정 폴더", 15: "게임 전체 폴더",
-    16: "내보내기 폴더",
-    13: "장르(영문)", 30: "장르",
-    18: "게임 정보", 19: "시작 명령", 20: "전역 설정", 21: "게임 설정", 22: "환경 설정",
-    256: "도구 내려받기",
-    26: "그림", 27: "녹화/녹음", 28: "매뉴얼", 29: "설명",
-    37: "게임 제목", 38: "게임 전체 폴더 열기", 39: "목록 새로 고침", 204: "내보내기 폴더 열기",
-    40: "압축 상태", 41: "압축된 게임", 42: "압축되지 않은 게임",
-    60: "REM",  # goes into the start commands as it stands
-    106: "폴더 :",
-    113: r"<1> 게임 폴더가 이미 있습니다.\n예/아니오를 묻는 경우 [예]를 누르면 기존 내용이 "
-         r"지워지거나 바뀝니다.",
-    114: "명령이 입력되지 않았습니다.",
-    118: "폴더를 옮기는 중입니다.", 218: "폴더를 옮기는 중입니다.",
-    119: "<1> : 게임에 추가합니다.", 121: "<1> : 추가하지 않았습니다.",
-    151: "내보내기 작업이 끝났습니다.",
-    154: "전체 <1>개 중 <3>개의 게임",
-    160: "압축을 푸는 중입니다. 잠시만 기다려 주세요.",
-    163: "[CD]", 164: "[편집]", 257: " [압축]",
-    173: "기존 아이콘은 바뀝니다. 계속할까요?", 174: "이 그림을 게임의 아이콘으로 저장합니다.",
-    175: "아이콘 저장",
-    221: "설정만 처리했습니다. 실행된 프로그램은 없습니다.", 222: "게임 설정",
-    223: "파일을 실행하지 않았습니다",
-    258: r"이 게임은 압축되어 있습니다.\n실행하려면 먼저 압축을 풀어야 합니다. (예 = 지금 풀기)",
-    259: "압축된 게임",
-    272: "대기 중",
-    287: "압축할 게임이 없습니다. 이미 압축되어 있습니다.",
-    291: "압축을 풀 게임이 없습니다. 압축된 상태가 아닙니다.",
-    307: "제작사", 308: "발매 시기", 309: "언어", 310: "제작 국가",
-    311: "삭제하지 못함 : ",
-    317: "[<1>]의 세부설정",
+    1: ("펠로린", "Pelorin"),  # the name decides the language
+    2: ("잠시만 기다려 주세요.", "Please wait."),
+    3: ("전체 <1> 수 : ", "Games: "),
+    4: ("작업 중입니다. 잠시만 기다려 주세요.", "Working. Please wait."),
+    11: ("폴더 열기 메뉴", None), 12: ("게임 폴더", None), 14: ("설정 폴더", None),
+    15: ("게임 전체 폴더", None), 16: ("내보내기 폴더", None),
+    13: ("장르(영문)", "Genre (English)"), 30: ("장르", "Genre (Korean)"),
+    18: ("게임 정보", None), 19: ("시작 명령", None), 20: ("전역 설정", None),
+    21: ("게임 설정", None), 22: ("환경 설정", None), 256: ("도구 내려받기", None),
+    26: ("그림", None), 27: ("녹화/녹음", None), 28: ("매뉴얼", None), 29: ("설명", None),
+    37: ("게임 제목", None), 38: ("게임 전체 폴더 열기", None), 39: ("목록 새로 고침", None),
+    204: ("내보내기 폴더 열기", None),
+    40: ("압축 상태", None), 41: ("압축된 게임", "Packed"), 42: ("압축되지 않은 게임", "Not packed"),
+    60: ("REM", "REM"),  # goes into the start commands as it stands
+    106: ("폴더 :", "Folder:"),
+    113: (r"<1> 게임 폴더가 이미 있습니다.\n예/아니오를 묻는 경우 [예]를 누르면 기존 내용이 "
+          r"지워지거나 바뀝니다.",
+          r"The game folder <1> already exists.\nIf you are asked Yes or No, Yes deletes or "
+          r"replaces what is in it."),
+    114: ("명령이 입력되지 않았습니다.", "No command was typed."),
+    118: ("폴더를 옮기는 중입니다.", "Moving the folder."),
+    218: ("폴더를 옮기는 중입니다.", "Moving the folder."),
+    119: ("<1> : 게임에 추가합니다.", "<1>: adding to the library."),
+    121: ("<1> : 추가하지 않았습니다.", "<1>: not added."),
+    151: ("내보내기 작업이 끝났습니다.", "The export job has ended."),
+    154: ("전체 <1>개 중 <3>개의 게임", "<3> of <1> games"),
+    160: ("압축을 푸는 중입니다. 잠시만 기다려 주세요.", "Unpacking. Please wait."),
+    163: ("[CD]", "[CD]"), 164: ("[편집]", "[Ed]"), 257: (" [압축]", " [Packed]"),
+    173: ("기존 아이콘은 바뀝니다. 계속할까요?", None),
+    174: ("이 그림을 게임의 아이콘으로 저장합니다.", None),
+    175: ("아이콘 저장", None),
+    221: ("설정만 처리했습니다. 실행된 프로그램은 없습니다.",
+          "Only the configuration was processed. No program was started."),
+    222: ("게임 설정", "Game configuration"),
+    223: ("파일을 실행하지 않았습니다", "The file was not run"),
+    258: (r"이 게임은 압축되어 있습니다.\n실행하려면 먼저 압축을 풀어야 합니다. (예 = 지금 풀기)",
+          r"This game is packed.\nIt has to be unpacked before it can run. (Yes = unpack now)"),
+    259: ("압축된 게임", "Packed game"),
+    272: ("대기 중", "Waiting"),
+    287: ("압축할 게임이 없습니다. 이미 압축되어 있습니다.", "Nothing to pack: already packed."),
+    291: ("압축을 풀 게임이 없습니다. 압축된 상태가 아닙니다.", "Nothing to unpack: not packed."),
+    307: ("제작사", None), 308: ("발매 시기", None), 309: ("언어", None), 310: ("제작 국가", None),
+    311: ("삭제하지 못함 : ", "Not deleted: "),
+    317: ("[<1>]의 세부설정", "Details of [<1>]"),
 }  # fmt: skip
 
 # The mark of each build index that has one.
@@ -68,6 +80,7 @@ MARK = re.compile(r"\[[^\[\], ](?:[^\[\],]*[^\[\], ])?\]")
 ONE = [3, 111, 112, 113, 115, 119, 120, 121, 125, 126, 131, 132, 133, 136, 140, 141, 142, 143, 144,
        153, 155, 157, 158, 161, 172, 207, 208, 209, 226, 247, 252, 253, 255, 260, 261, 273, 274,
        313, 316, 317]  # fmt: skip
+# <1> of 3 is a Korean word.
 PLACEHOLDERS = {
     **{number: {"<1>"} for number in ONE},
     **{number: {"<1>", "<2>"} for number in (122, 124, 128, 130, 276)},
@@ -110,15 +123,17 @@ SWITCHES = {"DirectX": "false", "Menu": "true", "fullscreen": "false", "waitoner
 NOT_IN_A_FILE_NAME = re.compile(r'[\\/:*?"<>|]')
 
 
-def read_text(path):
+def read_text(root, language, name):
+    path = root / "data" / language / name
+    name = f"{language}/{name}"
     data = path.read_bytes()
     text = data.decode("utf-8")
     if b"\r" in data:
-        raise ValueError(f"{path.name}: CR in it; the repository keeps LF")
+        raise ValueError(f"{name}: CR in it; the repository keeps LF")
     if text.startswith("\ufeff"):
-        raise ValueError(f"{path.name}: starts with a byte order mark")
+        raise ValueError(f"{name}: starts with a byte order mark")
     if not text.endswith("\n"):
-        raise ValueError(f"{path.name}: the last line has no end")
+        raise ValueError(f"{name}: the last line has no end")
     return text
 
 
@@ -129,17 +144,26 @@ def code_page_faults(name, lines):
             yield f"{name}:{number}: code page 949 has no {''.join(lost)}"
 
 
-def line_faults(lines):
+def fixed(number, language):
+    """The wording that a line must have in a language; None where it is free."""
+    return FIXED.get(number, (None,) * len(LANGUAGES))[LANGUAGES.index(language)]
+
+
+def placeholders(number, language):
+    return set() if (number, language) == (3, "en") else PLACEHOLDERS.get(number, set())
+
+
+def line_faults(lines, language):
     for number, line in enumerate(lines, 1):
         if not line and number not in UNUSED:
             yield f"Language.dat:{number}: empty, but in use"
         if "\\" in line.replace("\\n", ""):
             yield f"Language.dat:{number}: a backslash that makes no line break"
-        if line != line.strip() and number <= COUNT and FIXED.get(number) != line:
+        if line != line.strip() and fixed(number, language) != line:
             yield f"Language.dat:{number}: a blank at its start or end"
         held = set(re.findall(r"<[^>]*>", line))
-        if number <= COUNT and held != PLACEHOLDERS.get(number, set()):
-            wanted = " ".join(sorted(PLACEHOLDERS.get(number, set()))) or "none"
+        if number <= COUNT and held != placeholders(number, language):
+            wanted = " ".join(sorted(placeholders(number, language))) or "none"
             yield f"Language.dat:{number}: placeholders are not {wanted}: {line}"
 
 
@@ -160,16 +184,21 @@ def mark_faults(lines):
             yield f"Language.dat:{326 + offset}: is the button of the pack {pack}"
 
 
-def language_faults(root):
-    lines = read_text(root / "data" / "ko" / "Language.dat").split("\n")[:-1]
+def read_lines(root, language):
+    return read_text(root, language, "Language.dat").split("\n")[:-1]
+
+
+def language_faults(root, language):
+    lines = read_lines(root, language)
     if len(lines) < COUNT:
         yield f"Language.dat: {len(lines)} lines, {COUNT} are in use"
         return
     yield from code_page_faults("Language.dat", lines)
-    yield from line_faults(lines)
+    yield from line_faults(lines, language)
     yield from mark_faults(lines)
-    for number, text in FIXED.items():
-        if lines[number - 1] != text:
+    for number in FIXED:
+        text = fixed(number, language)
+        if text is not None and lines[number - 1] != text:
             yield f'Language.dat:{number}: must be "{text}": "{lines[number - 1]}"'
     for left, right in ((71, 72), (73, 74)):
         if lines[left - 1] == lines[right - 1]:
@@ -215,8 +244,8 @@ def row_faults(row):
         yield f"{where}: lacks true or false"
 
 
-def option_faults(root):
-    text = read_text(root / "data" / "ko" / "option.dat")
+def option_faults(root, language):
+    text = read_text(root, language, "option.dat")
     yield from code_page_faults("option.dat", text.split("\n"))
     groups = optionfile.parse(text)
     if '"' in text or "," in text:
@@ -228,7 +257,7 @@ def option_faults(root):
     rows = [row for group in groups for row in group.rows]
     keys = [row.key for row in rows]
     titles = [row.title for row in rows]
-    for names in (keys, titles):
+    for names in (keys, [title.lower() for title in titles]):
         for name in sorted({name for name in names if names.count(name) > 1}):
             yield f"option.dat: {name} comes twice"
     for key in sorted(set(VOCABULARY) - set(keys)):
@@ -241,14 +270,67 @@ def option_faults(root):
         yield "option.dat: mapperfile lacks mapper_user.txt"
 
 
-def main():
-    root = pathlib.Path(sys.argv[1])
-    faults = []
-    for check in (language_faults, option_faults):
+def shape(line, number):
+    """What a line has to share with its like in another language."""
+    named = [] if number == 3 else sorted(re.findall(r"<[^>]*>", line))
+    return (line == "", line[:1] == " ", line[-1:] == " ", line.count("\\n"), named)
+
+
+def agreement_faults(root, language):
+    """Another language says the same: only the words differ."""
+    first = LANGUAGES[0]
+    ours, theirs = read_lines(root, language), read_lines(root, first)
+    if len(ours) != len(theirs):
+        yield f"Language.dat: {len(ours)} lines, {first} has {len(theirs)}"
+    for number, (our, their) in enumerate(zip(ours, theirs), 1):
+        if shape(our, number) != shape(their, number):
+            yield f'Language.dat:{number}: "{our}" is not built like "{their}"'
+    table, model = (optionfile.read(root, name) for name in (language, first))
+    if [group.caption for group in table[1:]] != [group.caption for group in model[1:]]:
+        yield f"option.dat: not the sections of {first}"
+        return
+    for our, their in zip(table, model):
+        rows, wanted = ([row._replace(title="", line=0) for row in g.rows] for g in (our, their))
+        if rows != wanted:
+            yield f"option.dat:{our.line}: {our.caption}: keys, values or kinds are not those of {first}"
+
+
+# OwnText(340, u"..."_s and OwnEntry kOwnYes{355, u"..."}
+BUILT_IN = re.compile(r'(?:OwnText\(|OwnEntry \w+\{)\s*(\d+),\s*u"((?:[^"\\]|\\.)*)"')
+
+
+def built_in_faults(root):
+    """English that the program falls back on says what the English file says."""
+    lines = read_lines(root, "en")
+    found = set()
+    for path in sorted((root / "src").rglob("*")):
+        if path.suffix not in (".h", ".cpp"):
+            continue
+        for number, text in BUILT_IN.findall(path.read_text(encoding="utf-8")):
+            number = int(number)
+            found.add(number)
+            if not COUNT < number <= len(lines):
+                yield f"{path.name}: line {number} is not in the language files"
+            elif lines[number - 1] != text:
+                yield f'{path.name}: line {number} is "{text}", in the file "{lines[number - 1]}"'
+    unused = set(range(COUNT + 1, len(lines) + 1)) - found
+    if unused:
+        yield f"Language.dat: no source uses {sorted(unused)}"
+
+
+def faults_of(root):
+    checks = [(check, name) for name in LANGUAGES for check in (language_faults, option_faults)]
+    checks += [(agreement_faults, name) for name in LANGUAGES[1:]]
+    for check, name in checks:
         try:
-            faults += check(root)
+            yield from (f"{name}/{fault}" for fault in check(root, name))
         except ValueError as error:  # no text, or no table
-            faults.append(str(error))
+            yield str(error)
+    yield from built_in_faults(root)
+
+
+def main():
+    faults = list(faults_of(pathlib.Path(sys.argv[1])))
     for fault in faults:
         print(fault)
     return 1 if faults else 0

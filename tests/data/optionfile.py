@@ -1,4 +1,4 @@
-"""Reads data/ko/option.dat for the tests of the data, and holds the factory defaults.
+"""Reads an option.dat of data/ for the tests of the data, and holds the factory defaults.
 
 The file is a row of fields, each ended by a comma or a line end, leading blanks dropped:
 an empty field opens a group, "@T" gives the group's caption, "end" ends the table, and any
@@ -79,7 +79,7 @@ def factory_value(row):
     return None
 
 
-def read(root):
+def read(root, language="ko"):
     """The groups of the repository's own file."""
-    with open(root / "data" / "ko" / "option.dat", encoding="utf-8", newline="") as file:
+    with open(root / "data" / language / "option.dat", encoding="utf-8", newline="") as file:
         return parse(file.read())
