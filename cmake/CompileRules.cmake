@@ -17,3 +17,11 @@ if(PELORIN_SANITIZE)
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(pelorin_rules INTERFACE -fsanitize=address,undefined)
 endif()
+
+# libFuzzer with both sanitizers, and what llvm-cov needs to tell how far a target got.
+if(PELORIN_FUZZ)
+    set(fuzz_flags -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all
+        -fprofile-instr-generate -fcoverage-mapping -fno-omit-frame-pointer)
+    target_compile_options(pelorin_rules INTERFACE ${fuzz_flags})
+    target_link_options(pelorin_rules INTERFACE ${fuzz_flags})
+endif()

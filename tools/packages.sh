@@ -16,6 +16,8 @@ packages_of() {
             xvfb openbox xdotool imagemagick x11-apps x11-utils xauth ;;
     check) # formatting and linting
         echo git ccache clang-format-14 clang-tidy-14 ;;
+    fuzz) # libFuzzer, and how much of a reader it reached
+        echo clang-14 libclang-rt-14-dev llvm-14 python3 ;;
     *)
         echo "packages.sh: no group \"$1\"" >&2
         return 1 ;;

@@ -1,0 +1,38 @@
+#include "fuzz/Harness.h"
+#include "platform/TextFile.h"
+#include "shell/SettingsFile.h"
+
+using namespace Qt::StringLiterals;
+using namespace pelorin;
+
+namespace {
+
+QByteArray Written(const shell::LauncherCfg& cfg)
+{
+    return platform::EncodeCp949(shell::LauncherCfgLines(cfg).join(u'\n')).bytes;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    static const fuzz::FuzzInstallation installation;
+    const shell::Places& places = installation.Places();
+    fuzz::FuzzInstallation::Remove(installation.InApp(u"Launcher.cfg.bak"_s));
+    fuzz::FuzzInstallation::Remove(installation.InApp(u"recent.sav"_s));
+    fuzz::FuzzInstallation::Write(installation.InApp(u"Launcher.cfg"_s), fuzz::BytesOf(data, size));
+
+    auto loaded = shell::LoadSettingsFiles(places);
+    fuzz::Require(loaded.Ok(), "damaged settings are replaced");
+    const shell::LoadedSettings& first = loaded.Value();
+    fuzz::Require(!first.cfg.gamesRoot.isEmpty() && !first.cfg.exportRoot.isEmpty(), "roots stand");
+    if (!shell::SaveSettingsFiles(places, first.cfg, first.recent)) {
+        return 0; // a root that code page 949 can't keep
+    }
+    const auto again = shell::LoadSettingsFiles(places);
+    fuzz::Require(again.Ok(), "what was saved can be read");
+    fuzz::Require(again.Value().replacementReason.isEmpty(), "what was saved is whole");
+    fuzz::Require(
+        Written(again.Value().cfg) == Written(first.cfg), "what was saved reads the same");
+    return 0;
+}
