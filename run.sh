@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds Pelorin, stages it in dist/Pelorin and opens its window.
-#   ./run.sh [--language ko]
+#   ./run.sh [--language ko|en]
 # Without a display it makes one of its own, starts the sample game by keys and leaves a picture of
 # the screen in dist/run.png; status 0 then says that the game was seen running.
 set -euo pipefail

@@ -2,6 +2,9 @@
 # runs in. The program and its data are replaced. Of everything that a user may change afterwards
 # (Dos, DOSBox, mapper, the sample games) only what is missing is added; the rest is not touched.
 #
+# The texts come in the language PELORIN_LANGUAGE. Those of another one are put over an installation,
+# its own or any, by `cmake --install BUILD --prefix DIR --component language_NAME`.
+#
 # What needs making before it can be copied is made at build time below build/<preset>/stage:
 #   text/<language>/  the texts of data/<language>, code page 949 with CR LF
 #   add/              Dos and mapper, as they will stand in AppDir
@@ -53,11 +56,14 @@ function(pelorin_stage_folder staged folder texts)
     set(staged_files ${staged_files} PARENT_SCOPE)
 endfunction()
 
-set(language_folder ${CMAKE_CURRENT_SOURCE_DIR}/data/${PELORIN_LANGUAGE})
-if(NOT EXISTS ${language_folder}/Language.dat)
+file(GLOB languages CONFIGURE_DEPENDS RELATIVE ${CMAKE_CURRENT_SOURCE_DIR}/data data/*/Language.dat)
+list(TRANSFORM languages REPLACE "/.*" "")
+if(NOT PELORIN_LANGUAGE IN_LIST languages)
     message(FATAL_ERROR "PELORIN_LANGUAGE: there is no data/${PELORIN_LANGUAGE}/Language.dat")
 endif()
-pelorin_stage_folder(text/${PELORIN_LANGUAGE} ${language_folder} ".")
+foreach(language IN LISTS languages)
+    pelorin_stage_folder(text/${language} ${CMAKE_CURRENT_SOURCE_DIR}/data/${language} ".")
+endforeach()
 pelorin_stage_folder(add/mapper ${CMAKE_CURRENT_SOURCE_DIR}/mapper "^$")
 pelorin_stage_folder(add/Dos ${CMAKE_CURRENT_SOURCE_DIR}/dos "\\.(TXT|BAT)$")
 
@@ -104,15 +110,23 @@ endif()
 add_custom_target(stage ALL DEPENDS ${staged_files})
 configure_file(cmake/AddMissing.cmake.in AddMissing.cmake @ONLY)
 
-# The first script still sees the language file that was there before.
 install(SCRIPT ${CMAKE_CURRENT_BINARY_DIR}/AddMissing.cmake)
 install(TARGETS Pelorin DESTINATION .)
-# File by file: installing a folder would reset the rights of the AppDir that stands.
-foreach(file IN LISTS staged_files)
-    file(RELATIVE_PATH name ${stage}/text/${PELORIN_LANGUAGE} ${file})
-    if(NOT name MATCHES "^\\.\\./")
-        get_filename_component(folder ./${name} DIRECTORY)
-        install(FILES ${file} DESTINATION ${folder})
+foreach(language IN LISTS languages)
+    configure_file(cmake/ChangeLanguage.cmake.in ChangeLanguage_${language}.cmake @ONLY)
+    set(component COMPONENT language_${language})
+    if(NOT language STREQUAL PELORIN_LANGUAGE)
+        list(APPEND component EXCLUDE_FROM_ALL)
     endif()
+    # The script still sees the language file that was there before.
+    install(SCRIPT ${CMAKE_CURRENT_BINARY_DIR}/ChangeLanguage_${language}.cmake ${component})
+    # File by file: installing a folder would reset the rights of the AppDir that stands.
+    foreach(file IN LISTS staged_files)
+        file(RELATIVE_PATH name ${stage}/text/${language} ${file})
+        if(NOT name MATCHES "^\\.\\./")
+            get_filename_component(folder ./${name} DIRECTORY)
+            install(FILES ${file} DESTINATION ${folder} ${component})
+        endif()
+    endforeach()
 endforeach()
 install(DIRECTORY data/pictures DESTINATION . OPTIONAL)

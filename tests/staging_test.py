@@ -24,9 +24,9 @@ class Staging(unittest.TestCase):
         self.app = pathlib.Path(folder.name, "내 게임 [Pelorin] {1}")
         self.game = self.app / "Games" / STAR
 
-    def stage(self):
+    def stage(self, *more):
         done = subprocess.run(
-            [CMAKE, "--install", BUILD, "--prefix", self.app],
+            [CMAKE, "--install", BUILD, "--prefix", self.app, *more],
             stdout=subprocess.PIPE,
             stderr=subprocess.STDOUT,
             env={**os.environ, "LC_ALL": "C"},
@@ -146,7 +146,7 @@ class Staging(unittest.TestCase):
         self.stage()
         self.assertEqual(self.snapshot(), before)
 
-    def test_another_language_drops_the_cached_titles(self):
+    def test_other_words_drop_the_cached_titles(self):
         self.stage()
         self.write("Gamelist.lst", b"titles with Korean marks")
         self.write("IconList.bmp", b"icons")
@@ -155,6 +155,40 @@ class Staging(unittest.TestCase):
         self.stage()
         del before["Gamelist.lst"]
         self.assertEqual(self.snapshot(), before)
+
+    def test_another_language_goes_over_an_installation_and_back(self):
+        self.stage()
+        self.write("Descript/of the user.txt", b"kept")
+        self.write("Launcher.cfg", b"kept")
+        korean = self.snapshot()
+        self.write("Gamelist.lst", b"titles with Korean marks")
+        self.stage("--component", "language_en")
+        english = self.snapshot()
+        self.assertTrue(english["Language.dat"].startswith(b"Pelorin\r\n"))
+        self.assertIn(b"|version;", english["option.dat"])
+        texts = {language: texts_of(language) for language in ("ko", "en")}
+        here, gone = texts["en"], texts["ko"] - texts["en"]
+        self.assertEqual(gone & set(english), set(), "texts of the other language stay")
+        self.assertEqual(here - set(english), set())
+        same = {name: held for name, held in korean.items() if name not in texts["ko"]}
+        self.assertEqual({n: h for n, h in english.items() if n not in here}, same)
+
+        self.write("Gamelist.lst", b"titles with English marks")
+        self.stage("--component", "language_en")
+        self.assertIn("Gamelist.lst", self.snapshot(), "the same words again")
+        self.stage("--component", "language_ko")
+        self.assertEqual(self.snapshot(), korean)
+
+    def test_a_language_brings_nothing_but_its_texts(self):
+        self.stage("--component", "language_en")
+        names = {name for name, held in self.snapshot().items() if held != "folder"}
+        self.assertEqual(names, texts_of("en"))
+
+
+def texts_of(language):
+    """The names that data/<language> has below an AppDir."""
+    folder = ROOT / "data" / language
+    return {str(path.relative_to(folder)) for path in folder.rglob("*") if path.is_file()}
 
 
 if __name__ == "__main__":
