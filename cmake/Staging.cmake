@@ -2,8 +2,8 @@
 # runs in. The program and its data are replaced. Of everything that a user may change afterwards
 # (Dos, DOSBox, mapper, the sample games) only what is missing is added; the rest is not touched.
 #
-# The texts come in the language PELORIN_LANGUAGE. Those of another one are put over an installation,
-# its own or any, by `cmake --install BUILD --prefix DIR --component language_NAME`.
+# The texts come in the language PELORIN_LANGUAGE; those of another one are put over an installation
+# by `cmake --install BUILD --prefix DIR --component language_NAME`.
 #
 # What needs making before it can be copied is made at build time below build/<preset>/stage:
 #   text/<language>/  the texts of data/<language>, code page 949 with CR LF

@@ -36,6 +36,40 @@ TEST(Lifecycle, FirstStartMakesWhatIsMissingAndShowsTheFirstGame)
     EXPECT_TRUE(launcher->screens.status.notes.empty());
 }
 
+TEST(Lifecycle, TheLanguageFileDecidesWordsMarksAndOrder)
+{
+    struct Row {
+        const char16_t* language;
+        const char16_t* title;
+        const char16_t* first;
+        const char16_t* marked;
+        const char16_t* count;
+    };
+    const Row rows[] = {
+        {u"ko",
+         u"[펠로린 Ver.16.10.01.03] by 베스프라",
+         u"가나다",
+         u"가나다 [편집]",
+         u"전체 게임 수 : 2 / 2"},
+        {u"en", u"[Pelorin Ver.16.10.01.03] by mirel55", u"Zebra", u"가나다 [Ed]", u"Games: 2 / 2"},
+    };
+    for (const Row& row : rows) {
+        Installation app(QString::fromUtf16(row.language));
+        app.AddGame(u"가나다"_s);
+        app.AddGame(u"Zebra"_s);
+        app.folder.WriteRaw(u"Games/가나다/DosBox/edit.conf"_s, QByteArray());
+        const auto launcher = app.Start();
+        EXPECT_EQ(launcher->WindowTitle, QString::fromUtf16(row.title));
+        EXPECT_EQ(launcher->current.CurrentFolder, QString::fromUtf16(row.first));
+        EXPECT_EQ(launcher->screens.status.count, QString::fromUtf16(row.count));
+        const int marked = launcher->screens.list.RowOf(u"가나다"_s);
+        ASSERT_GE(marked, 0);
+        EXPECT_EQ(
+            launcher->screens.list.items.at(static_cast<std::size_t>(marked)).text[0],
+            QString::fromUtf16(row.marked));
+    }
+}
+
 TEST(Lifecycle, WhatOneRunSavesTheNextOneReadsWithoutOpeningAGame)
 {
     Installation app;

@@ -292,7 +292,7 @@ def agreement_faults(root, language):
     for our, their in zip(table, model):
         rows, wanted = ([row._replace(title="", line=0) for row in g.rows] for g in (our, their))
         if rows != wanted:
-            yield f"option.dat:{our.line}: {our.caption}: keys, values or kinds are not those of {first}"
+            yield f"option.dat:{our.line}: {our.caption}: not the rows of {first}"
 
 
 # OwnText(340, u"..."_s and OwnEntry kOwnYes{355, u"..."}

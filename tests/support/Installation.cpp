@@ -15,19 +15,19 @@ namespace pelorin::test {
 
 namespace {
 
-QStringList ShippedLines(const QString& name)
+QStringList ShippedLines(const QString& language, const QString& name)
 {
-    QFile file(QStringLiteral(PELORIN_SOURCE_DIR) + u"/data/ko/"_s + name);
+    QFile file(QStringLiteral(PELORIN_SOURCE_DIR) + u"/data/%1/%2"_s.arg(language, name));
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
     return platform::SplitLines(QString::fromUtf8(file.readAll()));
 }
 
 } // namespace
 
-Installation::Installation()
+Installation::Installation(const QString& language)
 {
     for (const QString& name : {u"Language.dat"_s, u"option.dat"_s}) {
-        folder.WriteLines(name, ShippedLines(name));
+        folder.WriteLines(name, ShippedLines(language, name));
     }
     folder.WriteScript(u"DOSBox/0.74_SVN/dosbox"_s, u"exit 0\n"_s);
     folder.MakeTree({u"Dos/Util/"_s, u"Dos/GUS/"_s, u"mapper/mapper_default.txt"_s, u"Games/"_s});

@@ -8,11 +8,11 @@
 
 namespace pelorin::test {
 
-/// A whole AppDir in a temporary folder with the shipped Korean data, a DOSBox that is a script,
-/// and a Launcher over it whose ports are fakes.
+/// A whole AppDir in a temporary folder with the shipped data of a language, a DOSBox that is a
+/// script, and a Launcher over it whose ports are fakes.
 class Installation {
 public:
-    Installation();
+    explicit Installation(const QString& language = QStringLiteral("ko"));
 
     /// Another program run over the same folders: what one leaves the next one finds.
     std::unique_ptr<shell::Launcher> NewLauncher();
