@@ -1,5 +1,5 @@
-#include "archives/DiskTroubles.h"
 #include "archives/FileOperations.h"
+#include "support/DiskTroubles.h"
 #include "support/TestFolder.h"
 
 #include <QDateTime>

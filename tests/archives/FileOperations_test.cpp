@@ -1,6 +1,6 @@
 #include "archives/FileOperations.h"
 
-#include "archives/DiskTroubles.h"
+#include "support/DiskTroubles.h"
 #include "support/TestFolder.h"
 
 #include <QFile>

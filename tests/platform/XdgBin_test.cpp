@@ -1,57 +1,22 @@
 #include "platform/XdgBin.h"
 
 #include "platform/MountTable.h"
+#include "support/DiskTroubles.h"
 #include "support/TestFolder.h"
 
 #include <QDir>
 #include <QFile>
 
 #include <gtest/gtest.h>
-#include <sched.h>
-#include <sys/mount.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace pelorin::platform;
+using pelorin::test::PrivateDisk;
 using pelorin::test::TestFolder;
 
 namespace {
-
-/// Mounts that only this process sees and that end with it.
-bool HasOwnMounts()
-{
-    return unshare(CLONE_NEWNS) == 0 &&
-           mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
-}
-
-/// A small memory file system, for as long as the object lives.
-class TestMount {
-public:
-    explicit TestMount(const QString& path)
-        : m_path(QFile::encodeName(path))
-        , m_mounted(
-              HasOwnMounts() &&
-              mount("tmpfs", m_path.constData(), "tmpfs", 0, "size=1m,mode=755") == 0)
-    {}
-    ~TestMount()
-    {
-        if (m_mounted) {
-            umount2(m_path.constData(), MNT_DETACH);
-        }
-    }
-    TestMount(const TestMount&) = delete;
-    TestMount& operator=(const TestMount&) = delete;
-
-    bool Mounted() const { return m_mounted; }
-    bool MakeReadOnly() const
-    {
-        return mount(nullptr, m_path.constData(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr) == 0;
-    }
-
-private:
-    QByteArray m_path;
-    bool m_mounted;
-};
 
 class XdgBinTest : public testing::Test {
 protected:
@@ -153,8 +118,8 @@ TEST_F(XdgBinTest, SourceStaysWhenTheBinCanNotBeMade)
 TEST_F(XdgBinTest, OtherFileSystemHasABinOfItsOwn)
 {
     m_folder.MakeTree({u"disk with blank/"_s});
-    const TestMount disk(m_folder.Path(u"disk with blank"_s));
-    if (!disk.Mounted()) {
+    const PrivateDisk disk(m_folder.Path(u"disk with blank"_s), "1m");
+    if (!disk.IsMounted()) {
         GTEST_SKIP() << "mounting needs root";
     }
     m_folder.WriteRaw(u"disk with blank/games/Star/a"_s, "x");
@@ -174,7 +139,7 @@ TEST_F(XdgBinTest, OtherFileSystemHasABinOfItsOwn)
     EXPECT_EQ(m_folder.ReadRaw(u"disk with blank/games/Moon/a"_s), "y");
 
     ASSERT_TRUE(QFile::remove(m_folder.Path(own)));
-    ASSERT_TRUE(disk.MakeReadOnly());
+    disk.MakeReadOnly();
     ExpectRefused(m_folder.Path(u"disk with blank/games/Moon"_s), ErrorKind::Unwritable);
     EXPECT_EQ(m_folder.ReadRaw(u"disk with blank/games/Moon/a"_s), "y");
 }
@@ -182,8 +147,8 @@ TEST_F(XdgBinTest, OtherFileSystemHasABinOfItsOwn)
 TEST_F(XdgBinTest, AdministratorsBinIsPreferredWhenItIsSafe)
 {
     m_folder.MakeTree({u"disk/"_s});
-    const TestMount disk(m_folder.Path(u"disk"_s));
-    if (!disk.Mounted()) {
+    const PrivateDisk disk(m_folder.Path(u"disk"_s), "1m");
+    if (!disk.IsMounted()) {
         GTEST_SKIP() << "mounting needs root";
     }
     const QString user = QString::number(geteuid());
@@ -198,8 +163,8 @@ TEST_F(XdgBinTest, AdministratorsBinIsPreferredWhenItIsSafe)
 TEST_F(XdgBinTest, FolderThatHoldsAMountStays)
 {
     m_folder.MakeTree({u"Games/Star/cd/"_s});
-    const TestMount disk(m_folder.Path(u"Games/Star/cd"_s));
-    if (!disk.Mounted()) {
+    const PrivateDisk disk(m_folder.Path(u"Games/Star/cd"_s), "1m");
+    if (!disk.IsMounted()) {
         GTEST_SKIP() << "mounting needs root";
     }
     ExpectRefused(m_folder.Path(u"Games/Star"_s), ErrorKind::Refused);

@@ -20,6 +20,8 @@ public:
 
     /// Absolute; the root when nothing is given.
     QString Path(const QString& relative = QString()) const;
+    /// The folder that goes with the object: the root, or the one above a root with a name.
+    QString TemporaryFolder() const { return m_folder.path(); }
 
     /// Code page 949, line ends as they stand in the text.
     void WriteText(const QString& relative, const QString& text) const;

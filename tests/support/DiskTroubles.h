@@ -8,6 +8,8 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -20,7 +22,8 @@ namespace pelorin::test {
 
 inline constexpr uid_t kNobody = 65534;
 
-/// Runs the scope as an ordinary user, since root may do what a mode forbids.
+/// Runs the scope as an ordinary user, who then owns the folder and all in it, since root may do
+/// what a mode forbids.
 class OrdinaryUser {
 public:
     explicit OrdinaryUser(const TestFolder& folder)
@@ -28,6 +31,7 @@ public:
         if (geteuid() != 0) {
             return;
         }
+        GiveAway(folder.TemporaryFolder());
         GiveAway(folder.Path());
         for (const QString& entry : folder.Tree()) {
             GiveAway(folder.Path(entry));
@@ -72,6 +76,50 @@ public:
 private:
     rlimit m_before = {};
     void (*m_signal)(int) = nullptr;
+};
+
+/// A disk of its own in the place of a folder, which only this process sees: it can run full and
+/// be made read-only, for root as well. Only root may mount; whoever can't skips the test.
+class PrivateDisk {
+public:
+    PrivateDisk(const QString& folder, const QByteArray& size)
+        : m_folder(QFile::encodeName(folder))
+    {
+        const QByteArray options = "mode=755,size=" + size;
+        m_isMounted = unshare(CLONE_NEWNS) == 0 &&
+                      mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+                      mount("none", m_folder.constData(), "tmpfs", 0, options.constData()) == 0;
+    }
+    ~PrivateDisk()
+    {
+        if (m_isMounted) {
+            EXPECT_EQ(umount2(m_folder.constData(), MNT_DETACH), 0);
+        }
+    }
+    PrivateDisk(const PrivateDisk&) = delete;
+    PrivateDisk& operator=(const PrivateDisk&) = delete;
+
+    bool IsMounted() const { return m_isMounted; }
+    void MakeReadOnly(bool readOnly = true) const
+    {
+        const unsigned long flags = readOnly ? MS_REMOUNT | MS_RDONLY : MS_REMOUNT;
+        EXPECT_EQ(mount(nullptr, m_folder.constData(), nullptr, flags, nullptr), 0);
+    }
+    /// Leaves no byte free.
+    void Fill() const
+    {
+        QFile file(QFile::decodeName(m_folder) + QStringLiteral("/filler"));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+        while (file.write(QByteArray(4096, 'x')) == 4096) {}
+    }
+    void Free() const
+    {
+        EXPECT_TRUE(QFile::remove(QFile::decodeName(m_folder) + QStringLiteral("/filler")));
+    }
+
+private:
+    QByteArray m_folder;
+    bool m_isMounted = false;
 };
 
 /// A temporary folder on another file system than TestFolder's, where there is one.
