@@ -5,6 +5,7 @@
 
 #include <QHash>
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -14,7 +15,6 @@ namespace pelorin::dosboxconf {
 
 namespace {
 
-using platform::Error;
 using platform::ErrorKind;
 
 /// Gives the fields of a text one by one.
@@ -39,7 +39,7 @@ public:
     }
 
     /// Of the field that Next gave last, from 1.
-    qsizetype Line() const { return m_line + 1; }
+    qsizetype Line() const { return std::max<qsizetype>(1, m_line + 1); }
 
 private:
     QString TakeField(const QString& line)
@@ -184,6 +184,9 @@ QString TakeField(TableBuilder& table, const QString& field)
     if (field.isEmpty()) {
         return table.OpenGroup();
     }
+    if (field.contains(QChar::ReplacementCharacter)) {
+        return u"bytes that are no text in code page 949"_s;
+    }
     if (field.startsWith(u"@T"_s)) {
         return table.NameGroup(field.mid(2));
     }
@@ -201,21 +204,18 @@ platform::Outcome<OptionGrid> ParseOptionTable(const QString& text, const QStrin
             return table.Take();
         }
         if (const QString reason = TakeField(table, *field); !reason.isEmpty()) {
-            return Error{
-                ErrorKind::Malformed,
-                u"%1, line %2: %3"_s.arg(name).arg(fields.Line()).arg(reason)};
+            return platform::LineError(ErrorKind::Malformed, name, fields.Line(), reason);
         }
     }
-    return Error{
-        ErrorKind::Malformed,
-        u"%1, line %2: the file has no \"end\""_s.arg(name).arg(fields.Line())};
+    return platform::LineError(
+        ErrorKind::Malformed, name, fields.Line(), u"the file has no \"end\""_s);
 }
 
 platform::Outcome<OptionGrid> ReadOptionTable(const QString& path)
 {
     const platform::Outcome<QString> text = platform::ReadText(path);
     if (!text) {
-        return text.Failure();
+        return platform::NoFirstLine(path, text.Failure());
     }
     return ParseOptionTable(text.Value(), path);
 }

@@ -18,10 +18,10 @@
 
 namespace pelorin::dosboxconf {
 
-/// The texts of the table; every selection is 0. Error NotFound or Unreadable with the path, or
-/// Malformed with the path, the line (from 1) and the reason: no "end", a row or caption before
-/// the first group, a row with too few pieces, a table past its bounds, or a key that the upgrade
-/// of old files needs to be the only one of its name and that stands twice.
+/// The texts of the table; every selection is 0. Error NotFound, Unreadable or Malformed, each with
+/// the path, the line (from 1) and the reason: no "end", a row or caption before the first group, a
+/// row with too few pieces, bytes that are no text, a table past its bounds, or a key that the
+/// upgrade of old files needs to be the only one of its name and that stands twice.
 platform::Outcome<OptionGrid> ReadOptionTable(const QString& path);
 
 /// The same for a text in memory; `name` stands in the place of the path in errors.

@@ -181,6 +181,18 @@ Done WriteLines(const QString& path, const QStringList& lines)
     return WriteText(path, text);
 }
 
+Error LineError(ErrorKind kind, const QString& path, qsizetype line, const QString& reason)
+{
+    return FileError(kind, path, u"line %1: %2"_s.arg(line).arg(reason));
+}
+
+Error NoFirstLine(const QString& path, const Error& failure)
+{
+    const bool missing = failure.kind == ErrorKind::NotFound;
+    return LineError(
+        failure.kind, path, 1, missing ? u"the file is missing"_s : u"the file can't be read"_s);
+}
+
 Done KeepBackup(const QString& path)
 {
     if (!QFileInfo::exists(path)) {

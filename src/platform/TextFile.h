@@ -48,6 +48,12 @@ Done WriteText(const QString& path, const QString& text);
 /// Each line followed by CR LF.
 Done WriteLines(const QString& path, const QStringList& lines);
 
+/// A fault in one line of a file, counted from 1: "path: line 3: reason".
+Error LineError(ErrorKind kind, const QString& path, qsizetype line, const QString& reason);
+
+/// The same for a file that has to be there and gave `failure`: it lacks its first line.
+Error NoFirstLine(const QString& path, const Error& failure);
+
 /// Copies `path` to `path`.bak, replacing an older one. Nothing to keep is a success.
 Done KeepBackup(const QString& path);
 

@@ -2,11 +2,12 @@
 
 #include "platform/TextFile.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace pelorin::shell {
 
-using platform::Error;
 using platform::ErrorKind;
 using platform::Outcome;
 
@@ -33,12 +34,22 @@ QString Filled(QString text, const QStringList& values)
 
 } // namespace
 
-Outcome<LangTable> LangTable::FromLines(const QStringList& lines)
+Outcome<LangTable> LangTable::FromLines(const QStringList& lines, const QString& name)
 {
-    if (lines.size() < kLastEntry) {
-        return Error{
+    // The entries behind the last one have texts of our own to stand in.
+    const qsizetype needed = std::min<qsizetype>(lines.size(), kLastEntry);
+    for (qsizetype i = 0; i < needed; ++i) {
+        if (lines[i].contains(QChar::ReplacementCharacter)) {
+            return platform::LineError(
+                ErrorKind::Malformed, name, i + 1, u"bytes that are no text in code page 949"_s);
+        }
+    }
+    if (needed < kLastEntry) {
+        return platform::LineError(
             ErrorKind::Malformed,
-            u"line %1: missing, %2 are needed"_s.arg(lines.size() + 1).arg(kLastEntry)};
+            name,
+            needed + 1,
+            u"missing, %1 lines are needed"_s.arg(kLastEntry));
     }
     LangTable table;
     table.m_entries.reserve(lines.size() + 1);
@@ -74,13 +85,9 @@ Outcome<LangTable> ReadLanguageFile(const QString& path)
 {
     const Outcome<QStringList> lines = platform::ReadLines(path);
     if (!lines) {
-        return lines.Failure();
+        return platform::NoFirstLine(path, lines.Failure());
     }
-    Outcome<LangTable> table = LangTable::FromLines(lines.Value());
-    if (!table) {
-        return Error{ErrorKind::Malformed, u"%1: %2"_s.arg(path, table.Failure().text)};
-    }
-    return table;
+    return LangTable::FromLines(lines.Value(), path);
 }
 
 } // namespace pelorin::shell

@@ -14,9 +14,11 @@ inline constexpr int kLastEntry = 339;
 /// entry 0 is set by us.
 class LangTable {
 public:
-    /// `lines` without line ends, backslash-n still in them. Error Malformed names the first
-    /// missing line when there are fewer than kLastEntry.
-    static platform::Outcome<LangTable> FromLines(const QStringList& lines);
+    /// `lines` without line ends, backslash-n still in them. Error Malformed, with `name` in the
+    /// place of the path, for the first line up to kLastEntry that is missing or holds bytes that
+    /// were no text.
+    static platform::Outcome<LangTable> FromLines(
+        const QStringList& lines, const QString& name = QStringLiteral("Language.dat"));
 
     /// 0 to kLastEntry; a number behind the table gives an empty text (OwnText serves those).
     const QString& operator[](int entry) const;
@@ -34,8 +36,8 @@ private:
     QString m_none; // what a number behind the table gives
 };
 
-/// Error: NotFound or Unreadable with the path, or Malformed with the path and the first missing
-/// line ("/opt/pelorin/Language.dat: line 12: ...").
+/// Error NotFound, Unreadable or Malformed, each with the path and the line at fault
+/// ("/opt/pelorin/Language.dat: line 12: ...").
 platform::Outcome<LangTable> ReadLanguageFile(const QString& path);
 
 } // namespace pelorin::shell

@@ -142,39 +142,6 @@ TEST(Lifecycle, EmptyLibraryIsToldOnceAndDisablesThePanels)
     EXPECT_TRUE(shell::Form_Unload(*launcher));
 }
 
-TEST(Lifecycle, NamesTheFileAndLineThatItCantStartWithout)
-{
-    struct Row {
-        const char* name;
-        QString file;
-        QStringList lines;
-        QString named;
-    };
-    const Row rows[] = {
-        {"no language", u"Language.dat"_s, {}, u"Language.dat"_s},
-        {"short language", u"Language.dat"_s, {u"펠로린"_s, u"b"_s}, u"line 3"_s},
-        {"options without an end",
-         u"option.dat"_s,
-         {u""_s, u"@Tx"_s, u"t|k;1;<TEXT>"_s},
-         u"option.dat"_s},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        Installation app;
-        app.folder.WriteLines(row.file, row.lines);
-        if (row.lines.isEmpty()) {
-            QFile::remove(app.folder.Path(row.file));
-        }
-        const QStringList before = app.folder.Tree();
-        const auto launcher = app.NewLauncher();
-        const platform::Done loaded = shell::Form_Load(*launcher);
-        ASSERT_FALSE(loaded);
-        EXPECT_TRUE(loaded.Failure().text.contains(row.named))
-            << loaded.Failure().text.toStdString();
-        EXPECT_EQ(app.folder.Tree(), before);
-    }
-}
-
 TEST(Lifecycle, ClosingIsRefusedDuringAJobAndAsksWhenSavingFails)
 {
     Installation app;

@@ -80,8 +80,9 @@ TEST(OptionTableTest, AFaultNamesTheFileTheLineAndTheReason)
         {group + u"A|a;0\nend"_s, "line 3: an option needs title|key;values;kind"},
         {group + u"A;0;<TEXT>\nend"_s, "line 3: no \"|\" between title and key"},
         {group + row, "line 3: the file has no \"end\""},
-        {QString(), "line 0: the file has no \"end\""},
+        {QString(), "line 1: the file has no \"end\""},
         {group + u"END"_s, "line 3: an option needs"},
+        {group + row + u"B|b;v|\uFFFD;<INDEX>\nend"_s, "line 4: bytes that are no text"},
         {u"\n"_s.repeated(42) + u"end"_s, "line 42: more than 41 groups"},
         {group + row.repeated(82) + u"end"_s, "line 84: more than 81 options"},
         {group + u"A|a;"_s + values.repeated(101) + u"v;<INDEX>\nend"_s, "line 3: more than 101"},
@@ -113,7 +114,8 @@ TEST(OptionTableTest, ReadsCodePage949AndTellsWhatIsMissing)
     const auto missing = dosboxconf::ReadOptionTable(folder.Path(u"none.dat"_s));
     ASSERT_FALSE(missing);
     EXPECT_EQ(missing.Failure().kind, platform::ErrorKind::NotFound);
-    EXPECT_TRUE(missing.Failure().text.contains(folder.Path(u"none.dat"_s)));
+    EXPECT_EQ(
+        missing.Failure().text, folder.Path(u"none.dat"_s) + u": line 1: the file is missing"_s);
 }
 
 TEST(OptionTableTest, AnIndexOffTheListHasNoText)

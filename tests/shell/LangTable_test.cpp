@@ -88,7 +88,9 @@ TEST(LangTable, ShortOrMissingFileNamesItselfAndTheFirstMissingLine)
     const auto missing = shell::ReadLanguageFile(folder.Path(u"Language.dat"_s));
     ASSERT_FALSE(missing.Ok());
     EXPECT_EQ(missing.Failure().kind, platform::ErrorKind::NotFound);
-    EXPECT_TRUE(missing.Failure().text.startsWith(folder.Path(u"Language.dat"_s)));
+    EXPECT_EQ(
+        missing.Failure().text,
+        folder.Path(u"Language.dat"_s) + u": line 1: the file is missing"_s);
 
     folder.WriteLines(u"Language.dat"_s, Lines(338, u"펠로린"_s));
     const auto shortOne = shell::ReadLanguageFile(folder.Path(u"Language.dat"_s));
@@ -96,12 +98,20 @@ TEST(LangTable, ShortOrMissingFileNamesItselfAndTheFirstMissingLine)
     EXPECT_EQ(shortOne.Failure().kind, platform::ErrorKind::Malformed);
     EXPECT_EQ(
         shortOne.Failure().text,
-        folder.Path(u"Language.dat"_s) + u": line 339: missing, 339 are needed"_s);
+        folder.Path(u"Language.dat"_s) + u": line 339: missing, 339 lines are needed"_s);
 
     folder.WriteRaw(u"Language.dat"_s, QByteArray());
     const auto empty = shell::ReadLanguageFile(folder.Path(u"Language.dat"_s));
     ASSERT_FALSE(empty.Ok());
     EXPECT_TRUE(empty.Failure().text.contains(u"line 1:"_s));
+
+    QByteArray broken = Lines(341, u"Pelorin"_s).join(u"\r\n"_s).toLatin1();
+    folder.WriteRaw(u"Language.dat"_s, QByteArray(broken).replace("text 341", "\xb0 "));
+    EXPECT_TRUE(shell::ReadLanguageFile(folder.Path(u"Language.dat"_s))) << "has a stand-in";
+    folder.WriteRaw(u"Language.dat"_s, broken.replace("text 12\r", "\xb0 \r"));
+    EXPECT_TRUE(shell::ReadLanguageFile(folder.Path(u"Language.dat"_s))
+                    .Failure()
+                    .text.contains(u"Language.dat: line 12: bytes that are no text"_s));
 }
 
 TEST(LangTable, ReadsCodePage949AndALastLineWithoutEnd)
