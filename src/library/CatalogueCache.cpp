@@ -4,6 +4,7 @@
 #include "library/GameInfo.h"
 #include "library/IconSheetFile.h"
 #include "library/private/TextPool.h"
+#include "platform/FileReplacement.h"
 #include "platform/Numbers.h"
 #include "platform/Paths.h"
 #include "platform/TextFile.h"
@@ -125,8 +126,9 @@ std::vector<int> PositionsToSave(const Catalogue& catalogue, QStringList& leftOu
     return positions;
 }
 
-platform::Done SaveList(
-    const QString& path,
+/// The list's content, in a file that has still to take its place.
+platform::Done WriteList(
+    platform::FileReplacement& file,
     const Catalogue& catalogue,
     const std::vector<int>& positions,
     QStringList& maimed,
@@ -145,11 +147,10 @@ platform::Done SaveList(
     const std::vector<bool> unfit = Unfit(records);
     for (int i = 0; i < count; ++i) {
         if (unfit[static_cast<std::size_t>(i)]) {
-            records[i] = platform::DecodeCp949(platform::EncodeCp949(records[i]).bytes);
             maimed << records[i].section(kFieldBreak, 0, 0);
         }
     }
-    return platform::WriteLines(path, {records.join(kRecordBreak)});
+    return file.Append(platform::EncodeCp949(records.join(kRecordBreak) + u"\r\n"_s).bytes);
 }
 
 platform::Done SaveSheet(
@@ -161,7 +162,7 @@ platform::Done SaveSheet(
     const QString path = SheetPath(places);
     if (!IconSheetIsCurrent(path, icons, positions)) {
         // The list belongs to the sheet that is about to go. Should the program end before the new
-        // list is written, a missing one is noticed; one of another order would not be.
+        // list is in its place, a missing one is noticed; one of another order would not be.
         const auto dropList = [&] { return DeleteIfThere(listPath); };
         platform::Done written = WriteIconSheet(path, icons, positions, dropList);
         if (!written) {
@@ -273,12 +274,16 @@ platform::Outcome<CacheReport> SaveCatalogueCache(
         const platform::Done gone = DeleteIfThere(listPath);
         return gone ? platform::Outcome<CacheReport>(report) : gone.Failure();
     }
-    const platform::Done sheet = SaveSheet(places, listPath, icons, positions);
-    if (!sheet) {
-        return sheet.Failure();
+    // Both are on the disk before either takes the place of an old file.
+    platform::FileReplacement list(listPath);
+    platform::Done saved = WriteList(list, catalogue, positions, report.maimed, progress);
+    if (saved) {
+        saved = SaveSheet(places, listPath, icons, positions);
     }
-    const platform::Done list = SaveList(listPath, catalogue, positions, report.maimed, progress);
-    return list ? platform::Outcome<CacheReport>(report) : list.Failure();
+    if (saved) {
+        saved = list.Replace();
+    }
+    return saved ? platform::Outcome<CacheReport>(report) : saved.Failure();
 }
 
 platform::Done DeleteCatalogueCache(const shell::Places& places)

@@ -39,9 +39,10 @@ struct CacheReport {
     QStringList maimed; // folders of which another text lost characters
 };
 
-/// Writes the sheet, then the list, each through a temporary file, and deletes the former forms
-/// IconList.jpg and SmallIconList.jpg. A sheet that already holds these icons is not written again;
-/// where one is, the old list goes first, so that no list ever stands beside another one's icons.
+/// Writes both files, and only then lets the sheet and the list take the place of the old ones; so
+/// a full disk leaves the old ones whole. Deletes the former forms IconList.jpg and
+/// SmallIconList.jpg. A sheet that already holds these icons is not written again; where one is,
+/// the old list goes first, so that no list ever stands beside another one's icons.
 /// Without a game the list is deleted and the sheet left alone. Goes on when `progress` wants to
 /// give up: this is what the program does last. Error: Unwritable.
 platform::Outcome<CacheReport> SaveCatalogueCache(

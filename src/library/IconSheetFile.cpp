@@ -1,7 +1,8 @@
 #include "library/IconSheetFile.h"
 
+#include "platform/FileReplacement.h"
+
 #include <QFile>
-#include <QSaveFile>
 #include <QtEndian>
 
 #include <algorithm>
@@ -178,20 +179,15 @@ platform::Done WriteIconSheet(
     const std::function<platform::Done()>& beforeReplacing)
 {
     const SheetSize size = SheetSizeOf(static_cast<int>(positions.size()));
-    QSaveFile file(path);
-    bool written = file.open(QIODevice::WriteOnly) && file.write(HeaderOf(size)) == kHeaderBytes;
+    platform::FileReplacement file(path);
+    platform::Done written = file.Append(HeaderOf(size));
     for (int band = size.height / kLargeIcon - 1; written && band >= 0; --band) {
-        written = file.write(BandOf(icons, positions, size, band)) == BandBytesOf(size);
+        written = file.Append(BandOf(icons, positions, size, band));
     }
-    if (!written || !file.flush()) {
-        return FileError(platform::ErrorKind::Unwritable, file);
+    if (written) {
+        written = beforeReplacing();
     }
-    platform::Done ready = beforeReplacing();
-    if (!ready) {
-        return ready;
-    }
-    return file.commit() ? platform::Success()
-                         : platform::Done(FileError(platform::ErrorKind::Unwritable, file));
+    return written ? file.Replace() : written;
 }
 
 } // namespace pelorin::library

@@ -16,11 +16,12 @@ platform::Done WriteNewFile(const QString& path, const QStringList& lines)
     if (!text.lost.isEmpty()) {
         return Error{ErrorKind::Unencodable, u"%1: %2"_s.arg(path, text.lost)};
     }
+    // Unbuffered: a file that still has something to write is not removed.
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered)) {
         return Error{ErrorKind::Unwritable, u"%1: %2"_s.arg(path, file.errorString())};
     }
-    if (file.write(text.bytes) != text.bytes.size() || !file.flush()) {
+    if (file.write(text.bytes) != text.bytes.size()) {
         const QString reason = file.errorString();
         file.remove();
         return Error{ErrorKind::Unwritable, u"%1: %2"_s.arg(path, reason)};

@@ -1,8 +1,9 @@
 #include "platform/TextFile.h"
 
+#include "platform/FileReplacement.h"
+
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStringConverter>
 
 using namespace Qt::StringLiterals;
@@ -155,12 +156,9 @@ Outcome<QStringList> ReadFirstLines(const QString& path, int count)
 
 Done WriteBytes(const QString& path, const QByteArray& bytes)
 {
-    QSaveFile file(path);
-    const bool written = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-    if (!written || !file.commit()) {
-        return FileError(ErrorKind::Unwritable, path, file.errorString());
-    }
-    return Success();
+    FileReplacement file(path);
+    Done written = file.Append(bytes);
+    return written ? file.Replace() : written;
 }
 
 Done WriteText(const QString& path, const QString& text)

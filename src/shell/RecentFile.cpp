@@ -99,18 +99,17 @@ void AddRecent(RecentList& recent, const QString& folder, const QString& title)
 
 Outcome<RecentList> ReadRecentFile(const Places& places)
 {
-    const QString path = RecentPath(places);
-    if (!QFileInfo::exists(path)) {
-        const Done made = platform::WriteBytes(path, "\r\n");
-        if (!made) {
-            return made.Failure();
-        }
-    }
-    const Outcome<QStringList> lines = platform::ReadLines(path);
-    if (!lines) {
+    const Outcome<QStringList> lines = platform::ReadLines(RecentPath(places));
+    if (!lines && lines.Failure().kind != platform::ErrorKind::NotFound) {
         return lines.Failure();
     }
-    return ParseRecent(lines.Value());
+    return ParseRecent(lines.ValueOr({}));
+}
+
+Done MakeRecentFile(const Places& places)
+{
+    const QString path = RecentPath(places);
+    return QFileInfo::exists(path) ? platform::Success() : platform::WriteBytes(path, "\r\n");
 }
 
 Done WriteRecentFile(const Places& places, const RecentList& recent)

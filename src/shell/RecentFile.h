@@ -23,8 +23,10 @@ QStringList RecentLines(const RecentList& recent);
 /// has there; otherwise the first free place, or the last entry, makes room. An empty folder changes nothing.
 void AddRecent(RecentList& recent, const QString& folder, const QString& title);
 
-/// Reads the recent file below AppDir; a missing one is made with one empty line.
+/// Reads the recent file below AppDir; a missing one is an empty list.
 platform::Outcome<RecentList> ReadRecentFile(const Places& places);
+/// Makes a missing one, with one empty line.
+platform::Done MakeRecentFile(const Places& places);
 platform::Done WriteRecentFile(const Places& places, const RecentList& recent);
 
 } // namespace pelorin::shell

@@ -18,6 +18,18 @@ SettingsTargets TargetsOf(Launcher& launcher)
     return SettingsTargets{launcher.screens, launcher.settings, launcher.places};
 }
 
+void TellReplaced(Launcher& launcher, const LoadedSettings& settings)
+{
+    if (settings.replacementReason.isEmpty()) {
+        return;
+    }
+    const QString text = launcher.lang.OwnText(
+        383, u"<1>. The default settings stand in."_s, {settings.replacementReason});
+    const QString kept =
+        launcher.lang.OwnText(384, u"The old file is kept as <1>."_s, {u"Launcher.cfg.bak"_s});
+    TellNote(launcher, kCategory, settings.oldCfgKept ? text + u' ' + kept : text);
+}
+
 } // namespace
 
 platform::Done LoadSettings(Launcher& launcher)
@@ -32,9 +44,12 @@ platform::Done LoadSettings(Launcher& launcher)
     launcher.titleOrder.reset();
     launcher.screens.frame.caption = launcher.WindowTitle;
     launcher.screens.frame.changed.Tell(MainFrame::Caption | MainFrame::TitlePicture);
-    if (!settings.replacementReason.isEmpty()) {
-        TellNote(launcher, kCategory, settings.replacementReason);
+    launcher.settings.owesOldCfg = !settings.oldCfgKept && !(settings.replacementReason.isEmpty() &&
+                                                             settings.lostRoots.isEmpty());
+    for (const QString& text : settings.unwritten) {
+        TellNote(launcher, kCategory, text);
     }
+    TellReplaced(launcher, settings);
     for (const QString& root : settings.lostRoots) {
         const QString text = launcher.lang.OwnText(
             348, u"<1> is not there; the default folder stands in."_s, {root});
@@ -45,6 +60,13 @@ platform::Done LoadSettings(Launcher& launcher)
 
 platform::Done SaveSettings(Launcher& launcher)
 {
+    if (launcher.settings.owesOldCfg) {
+        platform::Done kept = KeepOldCfg(launcher.places);
+        if (!kept) {
+            return kept;
+        }
+        launcher.settings.owesOldCfg = false;
+    }
     const LauncherCfg cfg = CollectSettings(launcher.screens, launcher.settings, launcher.places);
     return SaveSettingsFiles(launcher.places, cfg, launcher.recent);
 }

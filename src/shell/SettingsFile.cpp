@@ -35,6 +35,18 @@ QString BackupPath(const Places& places)
     return CfgPath(places) + u".bak"_s;
 }
 
+/// What else than a folder stands at the path, or on the way there.
+bool IsBlocked(const QString& path)
+{
+    for (QString part = path; part.size() > 1; part = QFileInfo(part).path()) {
+        const QFileInfo info(part);
+        if (info.exists() || info.isSymLink()) {
+            return info.exists() && !info.isDir();
+        }
+    }
+    return false;
+}
+
 Done MakeFolder(const QString& path)
 {
     const QFileInfo info(path);
@@ -44,17 +56,6 @@ Done MakeFolder(const QString& path)
     }
     if (!QDir().mkpath(path)) {
         return Error{ErrorKind::Unwritable, u"%1: the folder can't be made"_s.arg(path)};
-    }
-    return platform::Success();
-}
-
-Done MakeFolders(const QStringList& paths)
-{
-    for (const QString& path : paths) {
-        Done made = MakeFolder(path);
-        if (!made) {
-            return made;
-        }
     }
     return platform::Success();
 }
@@ -86,6 +87,16 @@ Done WriteCfgLines(const QString& path, const QStringList& lines)
 {
     return platform::WriteBytes(
         path, platform::EncodeCp949(lines.join(u"\r\n"_s) + u"\r\n"_s).bytes);
+}
+
+QStringList DefaultLines(const Places& places)
+{
+    // Below AppDir the relative form always fits.
+    const QString gamesRoot = places.DefaultGamesRoot();
+    const QString exportRoot = places.DefaultExportRoot();
+    return DefaultCfgLines(
+        RootText(places, gamesRoot).ValueOr(QString()),
+        RootText(places, exportRoot).ValueOr(QString()));
 }
 
 struct Root {
@@ -126,30 +137,23 @@ bool BackupHoldsMore(const Places& places)
            IsShortFormOf(damaged.Value(), backup.Value());
 }
 
-/// By renaming, since the file may be one that can't be read.
-Done KeepDamaged(const Places& places)
+/// Of what can't be read no copy can be made: it is moved.
+Done MoveAside(const QString& path, const QString& backup)
 {
-    const QString path = CfgPath(places);
-    if (!QFileInfo::exists(path) || BackupHoldsMore(places)) {
-        return platform::Success();
-    }
     const QByteArray from = QFile::encodeName(path);
-    const QByteArray to = QFile::encodeName(BackupPath(places));
+    const QByteArray to = QFile::encodeName(backup);
     if (std::rename(from.constData(), to.constData()) != 0) {
-        return Error{
-            ErrorKind::Unwritable, u"%1: can't be kept as %2"_s.arg(path, BackupPath(places))};
+        return Error{ErrorKind::Unwritable, u"%1: can't be kept as %2"_s.arg(path, backup)};
     }
     return platform::Success();
 }
 
+/// Where Launcher.cfg is missing: what a first start writes.
 Outcome<LauncherCfg> ReadCfg(const Places& places)
 {
     const QString path = CfgPath(places);
     if (!QFileInfo::exists(path)) {
-        const Done made = WriteDefaultSettings(places);
-        if (!made) {
-            return made.Failure();
-        }
+        return ParseLauncherCfg(DefaultLines(places));
     }
     const Outcome<QStringList> lines = platform::ReadLines(path);
     if (!lines) {
@@ -162,57 +166,84 @@ Outcome<LauncherCfg> ReadCfg(const Places& places)
     return cfg;
 }
 
-Outcome<LoadedSettings> LoadOnce(const Places& places)
+/// Everything that is read, once; writes nothing.
+Outcome<LoadedSettings> ReadOnce(const Places& places, const Outcome<LauncherCfg>& cfg)
 {
+    if (!cfg) {
+        return cfg.Failure();
+    }
     Outcome<RecentList> recent = ReadRecentFile(places);
     if (!recent) {
         return recent.Failure();
     }
-    Outcome<LauncherCfg> cfg = ReadCfg(places);
-    if (!cfg) {
-        return cfg.Failure();
-    }
-    LoadedSettings loaded{cfg.Take(), recent.Take(), {}, {}};
+    LoadedSettings loaded;
+    loaded.cfg = cfg.Value();
+    loaded.recent = recent.Take();
     const Root games{u"games"_s, places.DefaultGamesRoot()};
     const Root exported{u"export"_s, places.DefaultExportRoot()};
     QString& gamesRoot = loaded.cfg.gamesRoot;
     QString& exportRoot = loaded.cfg.exportRoot;
     gamesRoot = RepairedRoot(places, gamesRoot, games, loaded.lostRoots);
     exportRoot = RepairedRoot(places, exportRoot, exported, loaded.lostRoots);
-    if (!loaded.lostRoots.isEmpty()) {
-        const Done kept = platform::KeepBackup(CfgPath(places));
-        if (!kept) {
-            return kept.Failure();
+    for (const QString& folder : {exportRoot, gamesRoot, places.InAppDir(u"preset"_s)}) {
+        if (IsBlocked(folder)) {
+            return Error{
+                ErrorKind::Refused, u"%1: a file is in the place of a folder"_s.arg(folder)};
         }
     }
-    const Done made = MakeFolders({exportRoot, gamesRoot, places.InAppDir(u"preset"_s)});
-    if (!made) {
-        return made.Failure();
-    }
     return loaded;
+}
+
+/// What a start makes or replaces. A disk that takes nothing is no reason not to start.
+void WriteAtStart(const Places& places, LoadedSettings& loaded)
+{
+    const auto note = [&loaded](const Done& done) {
+        if (!done) {
+            loaded.unwritten << done.Failure().text;
+        }
+        return done.Ok();
+    };
+    note(MakeRecentFile(places));
+    const bool damaged = !loaded.replacementReason.isEmpty();
+    if (damaged || !loaded.lostRoots.isEmpty()) {
+        loaded.oldCfgKept = note(KeepOldCfg(places));
+    }
+    if ((damaged && loaded.oldCfgKept) || !QFileInfo::exists(CfgPath(places))) {
+        note(WriteDefaultSettings(places));
+    }
+    for (const QString& folder :
+         {loaded.cfg.exportRoot, loaded.cfg.gamesRoot, places.InAppDir(u"preset"_s)}) {
+        note(MakeFolder(folder));
+    }
 }
 
 } // namespace
 
 Outcome<LoadedSettings> LoadSettingsFiles(const Places& places)
 {
-    Outcome<LoadedSettings> first = LoadOnce(places);
-    if (first) {
-        return first;
+    Outcome<LoadedSettings> loaded = ReadOnce(places, ReadCfg(places));
+    if (!loaded) {
+        // Once more with the settings of a first start; they replace a file only where that helps.
+        const QString reason = loaded.Failure().text;
+        loaded = ReadOnce(places, ParseLauncherCfg(DefaultLines(places)));
+        if (!loaded) {
+            return loaded;
+        }
+        loaded.Value().replacementReason = reason;
     }
-    const Done kept = KeepDamaged(places);
-    if (!kept) {
-        return kept.Failure();
+    WriteAtStart(places, loaded.Value());
+    return loaded;
+}
+
+Done KeepOldCfg(const Places& places)
+{
+    const QString path = CfgPath(places);
+    if (!QFileInfo::exists(path) || BackupHoldsMore(places)) {
+        return platform::Success();
     }
-    const Done written = WriteDefaultSettings(places);
-    if (!written) {
-        return written.Failure();
-    }
-    Outcome<LoadedSettings> second = LoadOnce(places);
-    if (second) {
-        second.Value().replacementReason = first.Failure().text;
-    }
-    return second;
+    Done kept = platform::KeepBackup(path);
+    const bool unreadable = !kept && kept.Failure().kind == ErrorKind::Unreadable;
+    return unreadable ? MoveAside(path, BackupPath(places)) : kept;
 }
 
 Done SaveSettingsFiles(const Places& places, const LauncherCfg& cfg, const RecentList& recent)
@@ -235,20 +266,25 @@ Done SaveSettingsFiles(const Places& places, const LauncherCfg& cfg, const Recen
         }
     }
     const Done cfgWritten = WriteCfgLines(CfgPath(places), lines);
+    if (!recentWritten && !cfgWritten) {
+        return Error{
+            ErrorKind::Unwritable,
+            recentWritten.Failure().text + u'\n' + cfgWritten.Failure().text};
+    }
     return recentWritten ? cfgWritten : recentWritten;
 }
 
 Done WriteDefaultSettings(const Places& places)
 {
-    const QString gamesRoot = places.DefaultGamesRoot();
-    const QString exportRoot = places.DefaultExportRoot();
-    const Outcome<QString> gamesText = RootText(places, gamesRoot);
-    const Outcome<QString> exportText = RootText(places, exportRoot);
-    // Below AppDir the relative form always fits.
-    Done written = WriteCfgLines(
-        CfgPath(places),
-        DefaultCfgLines(gamesText.ValueOr(QString()), exportText.ValueOr(QString())));
-    return written ? MakeFolders({gamesRoot, exportRoot}) : written;
+    for (const Done& done :
+         {WriteCfgLines(CfgPath(places), DefaultLines(places)),
+          MakeFolder(places.DefaultGamesRoot()),
+          MakeFolder(places.DefaultExportRoot())}) {
+        if (!done) {
+            return done;
+        }
+    }
+    return platform::Success();
 }
 
 } // namespace pelorin::shell

@@ -11,24 +11,32 @@
 namespace pelorin::shell {
 
 /// What Launcher.cfg and the recent file gave. The roots are native absolute paths and exist; only a
-/// default whose place holds a link that leads nowhere now (an unplugged disk) is left as it is.
+/// default may be missing: one that could not be made, or whose place holds a link that leads
+/// nowhere now (an unplugged disk).
 struct LoadedSettings {
     LauncherCfg cfg;
     RecentList recent;
     QStringList lostRoots;     // as the file names them: not there now, so defaults stand in
     QString replacementReason; // why Launcher.cfg was replaced by the defaults; empty: it was not
+    bool oldCfgKept = false;   // as Launcher.cfg.bak, because of one of these
+    QStringList unwritten;     // what could not be made or replaced, with the paths
 };
 
-/// Reads both files below `places.appDir`; the roots in `places` are not looked at. A missing file is
-/// made. A Launcher.cfg that can't be read is kept as Launcher.cfg.bak, replaced by the defaults and
-/// everything read once more; it is kept as well when a root in it is gone for the moment. Makes the
-/// two root folders and `preset`.
-/// Error, with the file's path: what the second reading failed at. The program can't start then.
+/// Reads both files below `places.appDir`; the roots in `places` are not looked at. A Launcher.cfg
+/// that can't be read is kept as Launcher.cfg.bak and replaced by the defaults; it is kept as well
+/// when a root in it is gone for the moment. Makes missing files, the two root folders and `preset`.
+/// Error, with the path, when something can't be read with the default settings either: the recent
+/// file, or a file stands in the place of a folder. Nothing is written then, and the program can't
+/// start. What can't be written holds back no start.
 platform::Outcome<LoadedSettings> LoadSettingsFiles(const Places& places);
+
+/// Copies Launcher.cfg to Launcher.cfg.bak, or moves it there when it can't be read. An older .bak
+/// goes, unless it is the full form of this short one. A missing file is a success.
+platform::Done KeepOldCfg(const Places& places);
 
 /// Writes the recent file, then Launcher.cfg; the second also when the first failed. A minimized
 /// window leaves the short form, which resets the next start, and the full one beside it as
-/// Launcher.cfg.bak. Error: the first failure, with the path; Unencodable when a root can't be
+/// Launcher.cfg.bak. Error: the failures, a line for each with its path; Unencodable when a root can't be
 /// written in code page 949.
 platform::Done SaveSettingsFiles(
     const Places& places, const LauncherCfg& cfg, const RecentList& recent);

@@ -30,7 +30,7 @@ void SpoilFile(const Installation& app, const Row& row)
     }
 }
 
-TEST(Faults, LanguageOrOptionsMissingShortOrWithAFaultInARow)
+TEST(StartFaults, LanguageOrOptionsMissingShortOrWithAFaultInARow)
 {
     const QString language = u"Language.dat"_s;
     const QString options = u"option.dat"_s;

@@ -1,5 +1,6 @@
 #include "platform/TextFile.h"
 
+#include "support/DiskTroubles.h"
 #include "support/TestFolder.h"
 
 #include <QDir>
@@ -10,6 +11,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace pelorin::platform;
+using pelorin::test::SmallFiles;
 using pelorin::test::TestFolder;
 
 namespace {
@@ -144,6 +146,20 @@ TEST(TextFiles, FailureLeavesTheOldFileWhole)
         EXPECT_TRUE(done.Failure().text.startsWith(folder.Path(path) + u": "_s));
     }
     EXPECT_EQ(folder.Tree(), (QStringList{u"folder/"_s, u"info.txt"_s}));
+}
+
+TEST(TextFiles, ADiskThatTakesOnlyTheBeginningLeavesTheOldFileWhole)
+{
+    const TestFolder folder;
+    folder.WriteRaw(u"info.txt"_s, "old");
+    for (const qsizetype bytes : {100, 100'000}) { // below and above the size of a file's buffer
+        const SmallFiles full(10);
+        const Done done = WriteBytes(folder.Path(u"info.txt"_s), QByteArray(bytes, 'x'));
+        ASSERT_FALSE(done.Ok()) << bytes;
+        EXPECT_EQ(done.Failure().kind, ErrorKind::Unwritable);
+    }
+    EXPECT_EQ(folder.ReadRaw(u"info.txt"_s), "old");
+    EXPECT_EQ(folder.Tree(), QStringList{u"info.txt"_s});
 }
 
 TEST(TextFiles, ReadingErrors)

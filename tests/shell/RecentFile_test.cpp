@@ -124,8 +124,13 @@ TEST(Recent, MissingFileIsMadeWithOneEmptyLine)
     const TestFolder folder;
     const auto recent = ReadRecentFile(PlacesIn(folder));
     ASSERT_TRUE(recent.Ok());
-    EXPECT_EQ(folder.ReadRaw(u"recent.sav"_s), "\r\n");
     EXPECT_TRUE(recent.Value().RecentFolders[0].isEmpty());
+    EXPECT_EQ(folder.Tree(), QStringList());
+    ASSERT_TRUE(MakeRecentFile(PlacesIn(folder)));
+    EXPECT_EQ(folder.ReadRaw(u"recent.sav"_s), "\r\n");
+    folder.WriteRaw(u"recent.sav"_s, "kept");
+    ASSERT_TRUE(MakeRecentFile(PlacesIn(folder)));
+    EXPECT_EQ(folder.ReadRaw(u"recent.sav"_s), "kept");
 }
 
 TEST(Recent, ReadsAndWritesOneFileWhateverItsCase)

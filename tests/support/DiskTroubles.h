@@ -108,16 +108,20 @@ public:
     /// Leaves no byte free.
     void Fill() const
     {
-        QFile file(QFile::decodeName(m_folder) + QStringLiteral("/filler"));
+        QFile file(Filler());
         ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
         while (file.write(QByteArray(4096, 'x')) == 4096) {}
     }
-    void Free() const
+    /// Of a full disk. Whole blocks of 4,096 bytes are given back.
+    void FreeBytes(qint64 bytes) const
     {
-        EXPECT_TRUE(QFile::remove(QFile::decodeName(m_folder) + QStringLiteral("/filler")));
+        EXPECT_TRUE(QFile::resize(Filler(), QFile(Filler()).size() - bytes));
     }
+    void Free() const { EXPECT_TRUE(QFile::remove(Filler())); }
 
 private:
+    QString Filler() const { return QFile::decodeName(m_folder) + QStringLiteral("/filler"); }
+
     QByteArray m_folder;
     bool m_isMounted = false;
 };

@@ -1,0 +1,129 @@
+#include "faults/FaultsFixture.h"
+#include "shell/LifecycleCommands.h"
+#include "support/StandardError.h"
+
+#include <QDir>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+using namespace pelorin;
+using namespace pelorin::test;
+
+namespace {
+
+/// Settings of a user who has moved the games and the window; the root is there.
+QStringList UsersSettings(const Installation& app)
+{
+    const QString games = app.folder.Path(u"내 게임"_s);
+    const QString widths = QStringList(8, u"100"_s).join(u'\u0001');
+    return {
+        u"3"_s,
+        u"150"_s,
+        u"300"_s,
+        u"15000,9000"_s,
+        u"0"_s,
+        games,
+        games,
+        u"0"_s,
+        u"10"_s,
+        u"20"_s,
+        u"1"_s,
+        u"2"_s,
+        widths,
+        u"1"_s};
+}
+
+/// An installation that has been used: nothing is missing, and there is a game in the user's root.
+class SettingsFaults : public testing::Test {
+protected:
+    SettingsFaults()
+    {
+        app.AddGame(u"기본"_s);
+        app.folder.MakeTree({u"내 게임/별/GO.EXE"_s});
+        app.Start();
+        app.folder.WriteLines(u"Launcher.cfg"_s, UsersSettings(app));
+    }
+    QByteArray Cfg() const { return app.folder.ReadRaw(u"Launcher.cfg"_s); }
+    QByteArray Backup() const { return app.folder.ReadRaw(u"Launcher.cfg.bak"_s); }
+
+    Installation app;
+};
+
+TEST_F(SettingsFaults, LauncherCfgDamaged)
+{
+    struct Row {
+        const char* name;
+        void (*spoil)(QStringList& lines);
+        QString line;
+    };
+    const Row rows[] = {
+        {"cut off", [](auto& lines) { lines.resize(9); }, u"line 10: "_s},
+        {"no such view", [](auto& lines) { lines[0] = u"9"_s; }, u"line 1: "_s},
+        {"a number without end", [](auto& lines) { lines[2] = QString(400, u'9'); }, u"line 3: "_s},
+        {"seven widths", [](auto& lines) { lines[12].chop(4); }, u"line 13: "_s},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        QStringList lines = UsersSettings(app);
+        row.spoil(lines);
+        app.folder.WriteLines(u"Launcher.cfg"_s, lines);
+        const QByteArray damaged = Cfg();
+        StandardError errors;
+        const auto launcher = app.Start();
+        const QString told = app.folder.Path(u"Launcher.cfg"_s) + u": "_s + row.line;
+        EXPECT_TRUE(Notes(*launcher).contains(told)) << Notes(*launcher).toStdString();
+        EXPECT_TRUE(Notes(*launcher).contains(u"Launcher.cfg.bak"_s));
+        EXPECT_TRUE(errors.Text().contains(told.toUtf8()));
+        EXPECT_EQ(Backup(), damaged);
+        EXPECT_EQ(launcher->places.gamesRoot, app.folder.Path(u"Games"_s));
+        EXPECT_EQ(app.folder.ReadLines(u"Launcher.cfg"_s)[5], app.folder.Path(u"Games"_s));
+        EXPECT_TRUE(shell::Form_Unload(*launcher));
+        EXPECT_EQ(Backup(), damaged);
+    }
+}
+
+TEST_F(SettingsFaults, SecondErrorInTheSettings)
+{
+    struct Row {
+        const char* name;
+        QString gone;    // a file or folder
+        QString blocked; // what stands there then; a slash behind a folder
+        QString told;
+    };
+    const Row rows[] = {
+        {"unreadable recent list", u"recent.sav"_s, u"recent.sav/inside"_s, u"recent.sav"_s},
+        {"a file for a folder", u"preset"_s, u"preset"_s, u"preset"_s},
+    };
+    app.folder.WriteLines(u"Launcher.cfg"_s, {u"damaged"_s});
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const QString path = app.folder.Path(row.gone);
+        ASSERT_TRUE(QFile::remove(path) || QDir(path).removeRecursively());
+        app.folder.MakeTree({row.blocked});
+        const auto before = FilesOf(app.folder);
+        const auto launcher = app.NewLauncher();
+        const platform::Done loaded = shell::Form_Load(*launcher);
+        ASSERT_FALSE(loaded);
+        EXPECT_TRUE(loaded.Failure().text.startsWith(app.folder.Path(row.told) + u": "_s))
+            << loaded.Failure().text.toStdString();
+        EXPECT_EQ(FilesOf(app.folder), before);
+        QDir(path).removeRecursively();
+    }
+}
+
+TEST_F(SettingsFaults, ARootThatIsGone)
+{
+    const QByteArray before = Cfg();
+    ASSERT_TRUE(QDir().rename(app.folder.Path(u"내 게임"_s), app.folder.Path(u"뺀 디스크"_s)));
+    const auto launcher = app.Start();
+    EXPECT_EQ(launcher->places.gamesRoot, app.folder.Path(u"Games"_s));
+    EXPECT_EQ(launcher->places.exportRoot, app.folder.Path(u"Export"_s));
+    EXPECT_EQ(Notes(*launcher).count(app.folder.Path(u"내 게임"_s)), 2) << "one for each root";
+    EXPECT_EQ(launcher->screens.list.view, finding::View::Details) << "the rest is kept";
+    EXPECT_EQ(Backup(), before);
+    ASSERT_TRUE(shell::Form_Unload(*launcher));
+    EXPECT_EQ(app.folder.ReadLines(u"Launcher.cfg"_s)[5], app.folder.Path(u"Games"_s));
+    EXPECT_EQ(Backup(), before);
+}
+
+} // namespace
