@@ -83,9 +83,12 @@ foreach(line IN LISTS assembly_lines)
     get_filename_component(source_folder ${source} DIRECTORY)
     string(MAKE_C_IDENTIFIER ${staged} depfile)
     set(depfile ${CMAKE_CURRENT_BINARY_DIR}/CMakeFiles/stage_${depfile}.d)
+    set(nasm ${NASM_EXECUTABLE} -f bin -Werror
+        -I ${source_folder}/ -I ${CMAKE_CURRENT_SOURCE_DIR}/samples/lib/)
+    # By a run of its own: the list that nasm 2.16 makes while it assembles lacks what is included.
     pelorin_stage(${staged} ${source}
-        COMMAND ${NASM_EXECUTABLE} -f bin -Werror -I ${source_folder}/
-            -I ${CMAKE_CURRENT_SOURCE_DIR}/samples/lib/ -MD ${depfile} -o ${stage}/${staged} ${source}
+        COMMAND ${nasm} -M -MF ${depfile} -MT ${stage}/${staged} ${source}
+        COMMAND ${nasm} -o ${stage}/${staged} ${source}
         DEPFILE ${depfile})
 endforeach()
 
