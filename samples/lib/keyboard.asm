@@ -38,9 +38,20 @@ OnKeyboard:
         mov     bl, al
         and     bx, 7Fh
         test    al, 80h
-        setz    [cs:key_held + bx]
-        jnz     .pass
+        jnz     .release
         mov     byte [cs:key_hit + bx], 1
+        cmp     byte [cs:key_held + bx], 1
+        je      .pass                   ; repeated by the keyboard
+        mov     byte [cs:key_held + bx], 1
+        mov     al, bl
+        mov     bx, [cs:key_order_end]
+        mov     [cs:key_order + bx], al
+        inc     bx
+        and     bx, kKeyOrder - 1
+        mov     [cs:key_order_end], bx
+        jmp     .pass
+.release:
+        mov     byte [cs:key_held + bx], 0
 .pass:  pop     bx
         pop     ax
         jmp     far [cs:old_keyboard]
@@ -55,9 +66,26 @@ ReadKey:
         test    ax, ax                  ; never zero
 .none:  ret
 
+; AL = scan code of the next key that was pressed, in the order of pressing; what the keyboard repeats
+; does not count. Zero flag: there is none. The BIOS forgets what it has.
+NextPress:
+        call    ReadKey
+        jnz     NextPress
+        push    bx
+        mov     bx, [key_order_begin]
+        cmp     bx, [key_order_end]
+        je      .none
+        mov     al, [key_order + bx]
+        inc     bx
+        and     bx, kKeyOrder - 1
+        mov     [key_order_begin], bx
+        test    al, al                  ; never zero
+.none:  pop     bx
+        ret
+
 ; Forgets all keys that were hit but not used.
 ForgetKeys:
-        call    ReadKey
+        call    NextPress
         jnz     ForgetKeys
         push    es
         push    ds
@@ -79,3 +107,7 @@ KeyActs:
 old_keyboard:   dd 0
 key_held:       times 128 db 0
 key_hit:        times 128 db 0
+kKeyOrder       equ 16                  ; keys kept; more lose the oldest ones
+key_order:      times kKeyOrder db 0
+key_order_begin: dw 0
+key_order_end:  dw 0

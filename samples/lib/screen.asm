@@ -121,6 +121,7 @@ FillRect:
 
 ; A sprite is a byte for its width, one for its height, and a letter a pixel; `colour_of_letter`
 ; of the program tells the colours. SI = sprite, AX = x, DX = y of its upper left corner, which may lie outside.
+; `sprite_mirrored` exchanges left and right.
 DrawSprite:
         pusha
         mov     [sprite_x], ax
@@ -129,6 +130,11 @@ DrawSprite:
         mov     bp, ax                  ; width
         lodsb
         mov     [rows_left], al
+        cmp     byte [sprite_mirrored], 0
+        je      .placed
+        lea     ax, [bp - 1]
+        add     [sprite_x], ax
+.placed:
         mov     bx, colour_of_letter
 .row:   mov     cx, [sprite_x]
         imul    di, dx, kWidth
@@ -143,10 +149,18 @@ DrawSprite:
         cmp     dx, kHeight
         jae     .clear
         mov     [es:di], al
-.clear: inc     cx
+.clear: cmp     byte [sprite_mirrored], 0
+        jne     .left
+        inc     cx
         inc     di
         dec     bp
         jnz     .pixel
+        jmp     .next_row
+.left:  dec     cx
+        dec     di
+        dec     bp
+        jnz     .pixel
+.next_row:
         pop     bp
         inc     dx
         dec     byte [rows_left]
@@ -292,6 +306,7 @@ RandomBelow:
 
 text_scale:     dw 1
 text_shading:   dw 0
+sprite_mirrored: db 0
 
 section .bss
 picture:        resw 1

@@ -31,6 +31,7 @@ MainLoop:
 %include "sound.asm"
 %include "numbers.asm"
 %include "files.asm"
+%include "sky.asm"
 %include "colours.asm"
 %include "scenery.asm"
 %include "hangul.asm"
