@@ -1,7 +1,9 @@
 # Driving Pelorin on a machine without a display. Meant to be sourced by bash.
 #   start_display            an X server of our own with a window manager; sets DISPLAY
-#   play_sample APP FOLDER   starts Pelorin in APP, starts the game in APP/Games/FOLDER by keys,
-#                            and leaves the picture of the whole screen in dist/run.png
+#   play_sample APP FOLDER TITLES
+#                            starts Pelorin in APP, starts the game in APP/Games/FOLDER by keys,
+#                            and leaves the picture of the whole screen in dist/run.png;
+#                            TITLES is the first line of its info.txt
 # Every wait has a limit; what fails says so and ends the script. What was started ends with it.
 
 started=()
@@ -76,11 +78,33 @@ let_settle() {
     done
 }
 
-# Presses Enter on the first game of the list until DOSBox shows a window.
+press() { xdotool windowactivate --sync "$(pelorin_window)" key --clearmodifiers "$@"; }
+selected_title() { xdotool getwindowname "$(pelorin_window)"; }
+
+# Selects a game by the arrow keys, through the rows of the list, there and back. It is known by the
+# window's title, which begins with one of the two of its title line.
+select_game() {
+    local first=${1%$'\003'*} second=${1#*$'\003'} way=Right before
+    press Home
+    for _ in $(seq 200); do
+        before=$(selected_title)
+        [[ "$before" != "$first : "* && "$before" != "$second : "* ]] || return 0
+        press "$way"
+        sleep 0.2
+        [ "$(selected_title)" = "$before" ] || continue
+        [ "$way" = Right ] && way=Left || way=Right
+        press Down
+        sleep 0.2
+        [ "$(selected_title)" != "$before" ] || break
+    done
+    fail "the game \"$first\" is not in the list"
+}
+
+# Presses Enter on the game of this title line until DOSBox shows a window.
 start_game_by_keys() {
-    local attempt
-    for attempt in 1 2 3; do
-        xdotool windowactivate --sync "$(pelorin_window)" key --clearmodifiers Home Return
+    select_game "$1"
+    for _ in 1 2 3; do
+        press Return
         for _ in $(seq 75); do
             has_dosbox_window && return 0
             sleep 0.2
@@ -98,7 +122,7 @@ colours_of_window() {
 }
 
 play_sample() {
-    local app=$1 folder=$2 ready=$1/Games/$2/READY.TXT pelorin colours
+    local app=$1 folder=$2 titles=$3 ready=$1/Games/$2/READY.TXT pelorin colours
     rm -f "$ready"
     (cd "$app" && SDL_AUDIODRIVER=dummy QT_QPA_PLATFORM=xcb exec ./Pelorin) >dist/run.log 2>&1 &
     pelorin=$!
@@ -111,7 +135,7 @@ play_sample() {
         sleep 0.2
     done
     let_settle 10
-    start_game_by_keys
+    start_game_by_keys "$titles"
     wait_for 60 "the game to say that it is up ($ready)" test -e "$ready"
     let_settle 10
     import -window root dist/run.png

@@ -40,7 +40,7 @@ FIXED = {
     40: ("압축 상태", None), 41: ("압축된 게임", "Packed"), 42: ("압축되지 않은 게임", "Not packed"),
     60: ("REM", "REM"),  # goes into the start commands as it stands
     106: ("폴더 :", "Folder:"),
-    113: (r"<1> 게임 폴더가 이미 있습니다.\n예/아니오를 묻는 경우 [예]를 누르면 기존 내용이 "
+    113: (r"<1> 게임 폴더가 이미 있습니다.\n예/아니요를 묻는 경우 [예]를 누르면 기존 내용이 "
           r"지워지거나 바뀝니다.",
           r"The game folder <1> already exists.\nIf you are asked Yes or No, Yes deletes or "
           r"replaces what is in it."),
