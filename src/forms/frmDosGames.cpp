@@ -48,6 +48,8 @@ frmDosGames::frmDosGames(const Shown& shown, const Deeds& deeds)
     , m_deeds(deeds)
     , m_geometry(*this, shown.screens.frame)
     , m_listening(shown.screens.frame.changed, [this](std::uint32_t changed) { Follow(changed); })
+    , m_panelsListening(
+          shown.screens.frame.panelsEnabled, [this](std::uint32_t) { ShowPanelsEnabled(); })
 {
     setObjectName(u"frmDosGames"_s);
     setWindowIcon(ApplicationIcon());
@@ -66,7 +68,8 @@ frmDosGames::frmDosGames(const Shown& shown, const Deeds& deeds)
     m_status = new StatusPanels(shown, deeds, this);
     setStatusBar(m_status);
     BuildKeys();
-    Follow(MainFrame::Caption | MainFrame::Panels | MainFrame::Language);
+    Follow(MainFrame::Caption | MainFrame::Language);
+    ShowPanelsEnabled();
     resize(Ems(*this, kDesignEms), Lines(*this, kDesignLines));
     m_list->View()->setFocus();
 }
@@ -122,21 +125,22 @@ void frmDosGames::BuildKeys()
 
 void frmDosGames::Follow(std::uint32_t changed)
 {
-    const MainFrame& frame = m_shown.screens.frame;
     if ((changed & MainFrame::Language) != 0) {
         TakeTexts();
     }
     if ((changed & MainFrame::TitlePicture) != 0) {
         m_toolbar->ShowTitlePicture();
     }
-    if ((changed & MainFrame::Panels) != 0) {
-        m_picBack0->setEnabled(frame.picBack0Enabled);
-        m_picBack1->setEnabled(frame.picBack1Enabled);
-    }
     if ((changed & MainFrame::Tab) != 0) {
         m_picBack1->ShowTab();
     }
     FollowWindow(changed);
+}
+
+void frmDosGames::ShowPanelsEnabled()
+{
+    m_picBack0->setEnabled(m_shown.screens.frame.picBack0Enabled);
+    m_picBack1->setEnabled(m_shown.screens.frame.picBack1Enabled);
 }
 
 void frmDosGames::FollowWindow(std::uint32_t changed)

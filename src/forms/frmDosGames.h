@@ -41,6 +41,7 @@ private:
     void BuildKeys();
     void Follow(std::uint32_t changed);
     void FollowWindow(std::uint32_t changed);
+    void ShowPanelsEnabled();
     void TakeTexts();
     void ShowMinimumSize();
     void PlaceOverlays();
@@ -58,6 +59,7 @@ private:
     RightPanel* m_picBack1 = nullptr;
     StatusPanels* m_status = nullptr;
     Listening m_listening;
+    Listening m_panelsListening;
 };
 
 } // namespace pelorin::forms

@@ -30,7 +30,7 @@ void SetPanels(Launcher& launcher, bool left, bool right)
     MainFrame& frame = launcher.screens.frame;
     frame.picBack0Enabled = left;
     frame.picBack1Enabled = right;
-    frame.changed.Tell(MainFrame::Panels);
+    frame.panelsEnabled.Tell(1);
 }
 
 } // namespace

@@ -21,6 +21,8 @@ void StatusBar::Tell(const QString& text, const QString& story)
 
 Screens::Screens()
 {
+    // Those of progress, notice and panels have none: the display of a job must move, and the panels
+    // must be at rest, while the list is held back.
     platform::Notifier* const notifiers[] = {
         &list.changed,
         &tree.changed,
@@ -30,16 +32,11 @@ Screens::Screens()
         &cd.changed,
         &placement.changed,
         &status.changed,
-        &progress.changed,
-        &notice.changed,
         &frame.changed,
     };
     for (platform::Notifier* notifier : notifiers) {
         notifier->SetGate(&gate);
     }
-    // The progress display must move while the list is held back.
-    progress.changed.SetGate(nullptr);
-    notice.changed.SetGate(nullptr);
 }
 
 } // namespace pelorin::shell

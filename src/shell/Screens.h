@@ -18,12 +18,11 @@ struct MainFrame {
     enum Changed : std::uint32_t {
         Caption = 1,
         Geometry = 2,
-        Panels = 4,
-        Tab = 8,
-        Language = 16, // texts of all controls are to be taken anew
-        Front = 32,    // bring the window forward
-        TitlePicture = 64,
-        Show = 128,
+        Tab = 4,
+        Language = 8, // texts of all controls are to be taken anew
+        Front = 16,   // bring the window forward
+        TitlePicture = 32,
+        Show = 64,
     };
     enum class State { Normal, Maximized, Minimized };
 
@@ -40,6 +39,7 @@ struct MainFrame {
     bool minimumSizeHook = true; // false with the marker file NoHook
 
     platform::Notifier changed;
+    platform::Notifier panelsEnabled; // picBack0Enabled, picBack1Enabled; no redraw lock holds it
 };
 
 /// The right page's information about the selected game.

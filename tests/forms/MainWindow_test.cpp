@@ -1,6 +1,7 @@
 #include "dosboxconf/StartCommandsFile.h"
 #include "forms/Deeds.h"
 #include "forms/frmDosGames.h"
+#include "library/CatalogueCommands.h"
 #include "library/ShowinfoCommands.h"
 #include "support/Installation.h"
 
@@ -160,13 +161,36 @@ TEST_F(MainWindow, ADisabledLibraryStillTakesNewGames)
 {
     m_launcher->screens.frame.picBack0Enabled = false;
     m_launcher->screens.frame.picBack1Enabled = false;
-    m_launcher->screens.frame.changed.Tell(shell::MainFrame::Panels);
+    m_launcher->screens.frame.panelsEnabled.Tell(1);
     EXPECT_FALSE(Icons()->isEnabled());
     EXPECT_FALSE(Find<QWidget>(u"tabInfo"_s)->isEnabled());
     auto* const add = Find<QAbstractButton>(u"picAddGame"_s);
     ASSERT_TRUE(add->isEnabled());
     QTest::mouseClick(add, Qt::LeftButton);
     EXPECT_EQ(m_done, QStringList{u"add"_s});
+}
+
+TEST_F(MainWindow, BothPanelsRestWhileAScanLetsEventsRun)
+{
+    QStringList usable;
+    int runs = 0;
+    m_app.fakes.timers.onPendingEvents = [&] {
+        ++runs;
+        for (const QString& name :
+             {u"picBack_0"_s, u"picBack_1"_s, u"LVGamelist_icons"_s, u"tabInfo"_s}) {
+            if (Find<QWidget>(name)->isEnabled()) {
+                usable << name;
+            }
+        }
+    };
+    library::cmdRefresh_Click(*m_launcher);
+    EXPECT_GT(runs, 3);
+    EXPECT_EQ(usable, QStringList());
+    m_app.fakes.timers.onPendingEvents = nullptr;
+    EXPECT_TRUE(Find<QWidget>(u"picBack_0"_s)->isEnabled());
+    EXPECT_TRUE(Find<QWidget>(u"picBack_1"_s)->isEnabled());
+    EXPECT_EQ(Icons()->model()->rowCount(), 3);
+    EXPECT_TRUE(Icons()->hasFocus());
 }
 
 TEST_F(MainWindow, GeometryIsKeptInFormUnitsAndTheSmallestSizeHolds)

@@ -249,7 +249,7 @@ TEST_F(WindowDeedsTest, NoticeAndProgressStayReadableOverDisabledPanels)
 {
     Open();
     screens.frame.picBack0Enabled = false;
-    screens.frame.changed.Tell(shell::MainFrame::Panels);
+    screens.frame.panelsEnabled.Tell(1);
     screens.notice.visible = true;
     screens.notice.lblMessage = u"Packing"_s;
     screens.notice.colour = 16711680;
