@@ -60,9 +60,11 @@ void ShowFirstGame(Launcher& launcher)
     }
 }
 
-/// What could not be saved, one line each; empty if all was.
+/// What could not be saved, one line each; empty if all was. A job, since window events run while
+/// the list is written: a scan or a second close would change what is being saved.
 QString SaveAll(Launcher& launcher)
 {
+    const Job job(launcher);
     QStringList failures;
     for (const platform::Done& done : {library::SaveCatalogue(launcher), SaveSettings(launcher)}) {
         if (!done) {

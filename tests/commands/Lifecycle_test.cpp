@@ -167,6 +167,30 @@ TEST(Lifecycle, ClosingIsRefusedDuringAJobAndAsksWhenSavingFails)
     EXPECT_TRUE(shell::Form_Unload(*launcher));
 }
 
+TEST(Lifecycle, NothingElseStartsWhileItSavesToClose)
+{
+    Installation app;
+    for (int i = 0; i < 30; ++i) {
+        app.AddGame(u"Game%1"_s.arg(i));
+    }
+    const auto launcher = app.Start();
+    for (int i = 1; i < 30; ++i) {
+        QDir(app.folder.Path(u"Games/Game%1"_s.arg(i))).removeRecursively();
+    }
+    int runs = 0;
+    app.fakes.timers.onPendingEvents = [&] {
+        ++runs;
+        EXPECT_FALSE(launcher->screens.frame.picBack0Enabled);
+        library::cmdRefresh_Click(*launcher);
+        EXPECT_FALSE(shell::Form_Unload(*launcher));
+    };
+    EXPECT_TRUE(shell::Form_Unload(*launcher));
+    EXPECT_GT(runs, 5);
+    app.fakes.timers.onPendingEvents = nullptr;
+    EXPECT_EQ(launcher->catalogue.size(), 30U);
+    EXPECT_EQ(app.folder.ReadRaw(u"Gamelist.lst"_s).count('\x02'), 29);
+}
+
 TEST(Lifecycle, ObsoleteEmulatorFolderGoesToTheBin)
 {
     Installation app;
