@@ -70,6 +70,7 @@ void ShowBusyMessage(Launcher& launcher, const QString& text)
     notice.lblMessage = text;
     notice.visible = true;
     if (notice.tmrMessage == 0) {
+        notice.colour = kBlack;
         notice.tmrMessage = launcher.ports.timers.StartRepeating(
             kBlinkMs, [&launcher] { tmrMessage_Timer(launcher); });
     }

@@ -222,4 +222,10 @@ TEST(Notice, BlinksBlackRedBlueWhileItStands)
     shell::HideBusyMessage(*launcher);
     EXPECT_FALSE(notice.visible);
     EXPECT_EQ(app.fakes.timers.Running(), 0);
+    // The next one begins in black, and goes on in its colour when its words change.
+    shell::ShowBusyMessage(*launcher, u"이"_s);
+    EXPECT_EQ(notice.colour, 0U);
+    app.fakes.timers.Advance(500);
+    shell::ShowBusyMessage(*launcher, u"삼"_s);
+    EXPECT_EQ(notice.colour, 255U);
 }
