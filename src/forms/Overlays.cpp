@@ -59,12 +59,9 @@ void ProgressOverlay::Place(const QRect& area)
 {
     m_area = area;
     const QSize size(qMin(area.width(), Ems(*this, 26)), sizeHint().height());
-    const int below = 3 * Gap(*this);
-    setGeometry(
-        area.x() + (area.width() - size.width()) / 2,
-        area.bottom() - size.height() - below,
-        size.width(),
-        size.height());
+    QRect place(QPoint(0, 0), size);
+    place.moveCenter(area.center());
+    setGeometry(place);
 }
 
 void ProgressOverlay::Follow()

@@ -9,7 +9,7 @@
 
 namespace pelorin::forms {
 
-/// picProgress, at the lower edge of the list.
+/// picProgress, in the middle of the list.
 class ProgressOverlay : public QFrame {
 public:
     ProgressOverlay(const Shown& shown, QWidget* parent);

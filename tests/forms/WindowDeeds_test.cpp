@@ -269,7 +269,9 @@ TEST_F(WindowDeedsTest, NoticeAndProgressStayReadableOverDisabledPanels)
     const auto centre = [&](const char* name) {
         return Find(name)->mapTo(window.get(), Find(name)->rect().center());
     };
-    EXPECT_LE((centre("picMessage") - centre("LVGamelist")).manhattanLength(), 2);
+    for (const char* name : {"picMessage", "picProgress"}) {
+        EXPECT_LE((centre(name) - centre("LVGamelist")).manhattanLength(), 2) << name;
+    }
     EXPECT_FALSE(Find("LVGamelist_icons")->isEnabled());
 }
 
