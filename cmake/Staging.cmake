@@ -67,8 +67,9 @@ endforeach()
 pelorin_stage_folder(add/mapper ${CMAKE_CURRENT_SOURCE_DIR}/mapper "^$")
 pelorin_stage_folder(add/Dos ${CMAKE_CURRENT_SOURCE_DIR}/dos "\\.(TXT|BAT)$")
 
-# DOS programs: a line of assembly.txt is a source, a tab and the place in AppDir.
+# DOS programs and what they read: a line of assembly.txt is a source, a tab and the place in AppDir.
 find_program(NASM_EXECUTABLE nasm REQUIRED)
+find_package(Python3 REQUIRED COMPONENTS Interpreter)
 file(STRINGS samples/assembly.txt assembly_lines ENCODING UTF-8 REGEX "^[^#].*\t")
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS samples/assembly.txt)
 foreach(line IN LISTS assembly_lines)
@@ -81,6 +82,12 @@ foreach(line IN LISTS assembly_lines)
     endif()
     set(source ${CMAKE_CURRENT_SOURCE_DIR}/${source})
     get_filename_component(source_folder ${source} DIRECTORY)
+    if(source MATCHES "\\.py$")
+        file(GLOB scripts CONFIGURE_DEPENDS ${source_folder}/*.py)
+        pelorin_stage(${staged} "${scripts}"
+            COMMAND ${Python3_EXECUTABLE} -B ${source} ${stage}/${staged})
+        continue()
+    endif()
     string(MAKE_C_IDENTIFIER ${staged} depfile)
     set(depfile ${CMAKE_CURRENT_BINARY_DIR}/CMakeFiles/stage_${depfile}.d)
     set(nasm ${NASM_EXECUTABLE} -f bin -Werror

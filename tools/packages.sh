@@ -6,7 +6,7 @@
 packages_of() {
     case $1 in
     build) # compiling the program, its data and the sample
-        echo cmake ninja-build g++ pkg-config nasm \
+        echo cmake ninja-build g++ pkg-config nasm python3 \
             qt6-base-dev libgl-dev libfreeimage-dev ;;
     run) # what the program starts, and what a window needs to look right (Korean, icons, file types)
         echo dosbox dosbox-debug 7zip libqt6svg6 fonts-nanum \
