@@ -89,19 +89,23 @@ class Screen:
         """Types keys into the window that has the focus."""
         self.run(["xdotool", "key", "--delay", "60", *keys])
 
-    def colours(self, window):
-        """The colours that a window shows, as numbers; black is 0."""
+    def pixels(self, window):
+        """What a window shows: a number a pixel, row by row; nothing when it can't be read."""
         command = ["xwd", "-silent", "-id", window]
         done = subprocess.run(command, env=self.env, capture_output=True, timeout=20, check=False)
         dump = done.stdout
         if len(dump) < 100:
-            return set()
+            return ()
         header = struct.unpack(">25I", dump[:100])
         order, bits, line_bytes, entries = header[7], header[11], header[12], header[19]
         assert bits == 32, "a screen of 24 bits has pixels of 32"
         pixels = dump[header[0] + 12 * entries :][: line_bytes * header[5]]
         numbers = struct.unpack(("<", ">")[order] + f"{len(pixels) // 4}I", pixels)
-        return {number & 0xFFFFFF for number in numbers}
+        return tuple(number & 0xFFFFFF for number in numbers)
+
+    def colours(self, window):
+        """The colours that a window shows, as numbers; black is 0."""
+        return set(self.pixels(window))
 
 
 class Dosbox:
