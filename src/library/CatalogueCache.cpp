@@ -67,60 +67,56 @@ QString RecordOf(const GameEntry& entry)
     return fields.join(kFieldBreak);
 }
 
-/// The texts that code page 949 can't keep, by halving: most often there is none.
-void FindUnfit(const QStringList& texts, qsizetype begin, qsizetype end, std::vector<bool>& unfit)
+bool CanNameInList(const QString& folder)
 {
-    if (begin == end || platform::FitsCp949(texts.mid(begin, end - begin).join(u'\n'))) {
-        return;
-    }
-    if (end - begin == 1) {
-        unfit[static_cast<std::size_t>(begin)] = true;
-        return;
-    }
-    const qsizetype middle = begin + (end - begin) / 2;
-    FindUnfit(texts, begin, middle, unfit);
-    FindUnfit(texts, middle, end, unfit);
+    return platform::IsPlainName(folder) && CleanField(folder) == folder &&
+           platform::FitsCp949(folder);
 }
 
-std::vector<bool> Unfit(const QStringList& texts)
+/// Whether the record of a game says the same when it is read again.
+bool FitsList(const GameEntry& entry)
 {
-    std::vector<bool> unfit(static_cast<std::size_t>(texts.size()));
-    FindUnfit(texts, 0, texts.size(), unfit);
-    return unfit;
+    const auto fits = [](const QString& field) { return platform::FitsCp949(CleanField(field)); };
+    return CanNameInList(entry.Folder) && fits(entry.TitleK) && fits(entry.TitleE) &&
+           fits(entry.GenreK) && fits(entry.GenreE) && fits(entry.Maker) && fits(entry.Release) &&
+           fits(entry.GameLanguage) && fits(entry.Country);
 }
 
-/// For each folder name, whether the list can't hold it.
-std::vector<bool> NamesWithoutCache(const QStringList& folders)
+/// The same for a game that is not in the Catalogue, by the files that its record is made of.
+bool HoldsUnfitText(const shell::Places& places, const QString& folder)
 {
-    std::vector<bool> without = Unfit(folders);
-    for (std::size_t i = 0; i < without.size(); ++i) {
-        const QString& folder = folders[static_cast<qsizetype>(i)];
-        without[i] = without[i] || CleanField(folder) != folder || !platform::IsPlainName(folder);
+    struct Source {
+        QString name;
+        int lines;
+    };
+    const GameFiles files = ListGame(places, folder);
+    for (const Source& source :
+         {Source{u"info.txt"_s, 1},
+          Source{u"ExtraInfo.txt"_s, 4},
+          Source{u"GenreK.dat"_s, 1},
+          Source{u"GenreE.dat"_s, 1}}) {
+        if (!files.HasMetaFile(source.name)) {
+            continue;
+        }
+        const QStringList lines =
+            platform::ReadFirstLines(files.MetaPath(source.name), source.lines).ValueOr({});
+        if (!platform::FitsCp949(lines.join(u' '))) {
+            return true;
+        }
     }
-    return without;
-}
-
-QStringList FoldersOf(const Catalogue& catalogue)
-{
-    QStringList folders;
-    folders.reserve(static_cast<qsizetype>(catalogue.size()));
-    for (const GameEntry& entry : catalogue) {
-        folders << entry.Folder;
-    }
-    return folders;
+    return false;
 }
 
 /// Positions whose records go into the files; the others' folders go into `leftOut`.
 std::vector<int> PositionsToSave(const Catalogue& catalogue, QStringList& leftOut)
 {
-    const std::vector<bool> without = NamesWithoutCache(FoldersOf(catalogue));
     std::vector<int> positions;
     positions.reserve(catalogue.size());
     for (std::size_t i = 0; i < catalogue.size(); ++i) {
-        if (without[i]) {
-            leftOut << catalogue[i].Folder;
-        } else {
+        if (FitsList(catalogue[i])) {
             positions.push_back(static_cast<int>(i));
+        } else {
+            leftOut << catalogue[i].Folder;
         }
     }
     return positions;
@@ -131,7 +127,6 @@ platform::Done WriteList(
     platform::FileReplacement& file,
     const Catalogue& catalogue,
     const std::vector<int>& positions,
-    QStringList& maimed,
     ScanProgress& progress)
 {
     const int count = static_cast<int>(positions.size());
@@ -143,12 +138,6 @@ platform::Done WriteList(
         const int position = positions[static_cast<std::size_t>(i)];
         records << RecordOf(catalogue[static_cast<std::size_t>(position)]);
         steps.At(i);
-    }
-    const std::vector<bool> unfit = Unfit(records);
-    for (int i = 0; i < count; ++i) {
-        if (unfit[static_cast<std::size_t>(i)]) {
-            maimed << records[i].section(kFieldBreak, 0, 0);
-        }
     }
     return file.Append(platform::EncodeCp949(records.join(kRecordBreak) + u"\r\n"_s).bytes);
 }
@@ -204,11 +193,19 @@ bool ReadRecord(QStringView record, GameEntry& entry)
     return platform::IsPlainName(entry.Folder);
 }
 
-platform::Outcome<Catalogue> CatalogueFromLine(const QString& line)
+Error DamagedList(const QString& path, const QString& reason)
+{
+    return Error{ErrorKind::Malformed, u"%1: %2"_s.arg(path, reason)};
+}
+
+platform::Outcome<Catalogue> CatalogueFromLine(const QString& path, const QString& line)
 {
     const QList<QStringView> records = QStringView(line).split(kRecordBreak);
-    if (records.size() > kMostGames || line.contains(QChar::ReplacementCharacter)) {
-        return Error{ErrorKind::Malformed, u"Gamelist.lst"_s};
+    if (records.size() > kMostGames) {
+        return DamagedList(path, u"%1 records"_s.arg(records.size()));
+    }
+    if (line.contains(QChar::ReplacementCharacter)) {
+        return DamagedList(path, u"bytes that are no text in code page 949"_s);
     }
     Catalogue catalogue(static_cast<std::size_t>(records.size()));
     QSet<QString> folders;
@@ -218,7 +215,9 @@ platform::Outcome<Catalogue> CatalogueFromLine(const QString& line)
         GameEntry& entry = catalogue[i];
         const bool whole = ReadRecord(records[static_cast<qsizetype>(i)], entry);
         if (!whole || folders.contains(entry.Folder)) {
-            return Error{ErrorKind::Malformed, u"Gamelist.lst: record %1"_s.arg(i + 1)};
+            return DamagedList(
+                path,
+                (whole ? u"record %1 repeats a folder"_s : u"record %1 is damaged"_s).arg(i + 1));
         }
         entry.ListIndex = static_cast<std::int16_t>(i + 1);
         folders.insert(entry.Folder);
@@ -239,13 +238,13 @@ platform::Outcome<CachedCatalogue> ReadCatalogueCache(
 {
     const QString listPath = ListPath(places);
     if (QFileInfo(listPath).size() > kMostListBytes) {
-        return Error{ErrorKind::Malformed, listPath};
+        return DamagedList(listPath, u"too large"_s);
     }
     const platform::Outcome<QStringList> lines = platform::ReadLines(listPath);
     if (!lines) {
         return lines.Failure();
     }
-    platform::Outcome<Catalogue> catalogue = CatalogueFromLine(lines.Value().value(0));
+    platform::Outcome<Catalogue> catalogue = CatalogueFromLine(listPath, lines.Value().value(0));
     if (!catalogue) {
         return catalogue.Failure();
     }
@@ -276,7 +275,7 @@ platform::Outcome<CacheReport> SaveCatalogueCache(
     }
     // Both are on the disk before either takes the place of an old file.
     platform::FileReplacement list(listPath);
-    platform::Done saved = WriteList(list, catalogue, positions, report.maimed, progress);
+    platform::Done saved = WriteList(list, catalogue, positions, progress);
     if (saved) {
         saved = SaveSheet(places, listPath, icons, positions);
     }
@@ -293,19 +292,25 @@ platform::Done DeleteCatalogueCache(const shell::Places& places)
     return list ? sheet : list;
 }
 
+QStringList GamesWithoutCache(const Catalogue& catalogue)
+{
+    QStringList leftOut;
+    PositionsToSave(catalogue, leftOut);
+    return leftOut;
+}
+
 QStringList FoldersWithoutCache(const shell::Places& places, const Catalogue& catalogue)
 {
-    const QStringList folders = platform::ListFolder(places.gamesRoot).folders;
-    const std::vector<bool> without = NamesWithoutCache(folders);
-    if (std::find(without.begin(), without.end(), true) == without.end()) {
-        return QStringList();
+    QSet<QString> known;
+    known.reserve(static_cast<qsizetype>(catalogue.size()));
+    for (const GameEntry& entry : catalogue) {
+        known.insert(entry.Folder);
     }
-    const QStringList known = FoldersOf(catalogue);
-    const QSet<QString> knownSet(known.begin(), known.end());
     QStringList missing;
-    for (std::size_t i = 0; i < without.size(); ++i) {
-        const QString& folder = folders[static_cast<qsizetype>(i)];
-        if (without[i] && !knownSet.contains(folder) && MayBeGame(places, folder)) {
+    const QStringList folders = platform::ListFolder(places.gamesRoot).folders;
+    for (const QString& folder : folders) {
+        if (!known.contains(folder) && MayBeGame(places, folder) &&
+            (!CanNameInList(folder) || HoldsUnfitText(places, folder))) {
             missing << folder;
         }
     }

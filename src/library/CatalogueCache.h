@@ -34,9 +34,8 @@ platform::Outcome<CachedCatalogue> ReadCatalogueCache(
     const shell::Places& places, ScanProgress& progress);
 
 struct CacheReport {
-    QStringList
-        leftOut;        // folders whose names the file can't hold; read from disk at the next start
-    QStringList maimed; // folders of which another text lost characters
+    QStringList leftOut; // folders of games that the list can't hold as they are; both files lack
+                         // them, and the next start reads them from their folders
 };
 
 /// Writes both files, and only then lets the sheet and the list take the place of the old ones; so
@@ -54,8 +53,12 @@ platform::Outcome<CacheReport> SaveCatalogueCache(
 /// Deletes both files. Missing ones are a success.
 platform::Done DeleteCatalogueCache(const shell::Places& places);
 
-/// The sub-folders of GamesRoot that the cache could not keep, because of their names, and that
-/// `catalogue` does not hold. Lists GamesRoot; opens no game.
+/// The folders of those games of `catalogue` that a save would leave out: code page 949 can't keep
+/// their name or another text of their record.
+QStringList GamesWithoutCache(const Catalogue& catalogue);
+
+/// The sub-folders of GamesRoot that a save has left out and that `catalogue` does not hold. Lists
+/// GamesRoot, and opens only folders that are new there; writes nothing.
 QStringList FoldersWithoutCache(const shell::Places& places, const Catalogue& catalogue);
 
 } // namespace pelorin::library

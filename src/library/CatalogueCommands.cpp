@@ -15,6 +15,8 @@
 #include "shell/JobCommands.h"
 #include "shell/Launcher.h"
 
+#include <QLoggingCategory>
+
 using namespace Qt::StringLiterals;
 
 namespace pelorin::library {
@@ -50,20 +52,37 @@ void TellTroubles(Launcher& launcher, const Troubles& troubles)
     shell::TellNote(launcher, kCategory, text, story.join(u'\n'));
 }
 
-void TellLeftOut(Launcher& launcher, const ScanResult& scan)
+void TellBeyondBound(Launcher& launcher, int folders)
 {
-    if (scan.beyondBound > 0) {
+    if (folders > 0) {
         const QString text = launcher.lang.OwnText(
             352,
-            u"Folders left out: <1>. A library holds 32,767 games."_s,
-            {QString::number(scan.beyondBound)});
+            u"Folders left out, the last by name: <1>. A library holds 32,767 games."_s,
+            {QString::number(folders)});
         shell::TellNote(launcher, kCategory, text);
     }
+}
+
+void TellLeftOut(Launcher& launcher, const ScanResult& scan)
+{
+    TellBeyondBound(launcher, scan.beyondBound);
     if (!scan.refused.isEmpty()) {
         const QString text = launcher.lang.OwnText(
             353, u"Folders that can't be games: <1>"_s, {QString::number(scan.refused.size())});
         shell::TellNote(launcher, kCategory, text, scan.refused.join(u'\n'));
     }
+}
+
+void TellWithoutCache(Launcher& launcher, const QStringList& folders)
+{
+    if (folders.isEmpty()) {
+        return;
+    }
+    const QString text = launcher.lang.OwnText(
+        354,
+        u"Games with characters that the list's file can't keep: <1>"_s,
+        {QString::number(folders.size())});
+    shell::TellNote(launcher, kCategory, text, folders.join(u'\n'));
 }
 
 /// The list in view of large icons is slow to fill: it is filled as a plain list.
@@ -88,6 +107,7 @@ bool FillByScan(Launcher& launcher, shell::Job& job)
     launcher.settings.rootsChanged = false;
     TellTroubles(launcher, scan.troubles);
     TellLeftOut(launcher, scan);
+    TellWithoutCache(launcher, GamesWithoutCache(launcher.catalogue));
     FillTreeAndList(launcher);
     job.SetPanelsEnabledAtEnd(!launcher.catalogue.empty());
     return !launcher.catalogue.empty();
@@ -102,11 +122,16 @@ void AddGamesWithoutCache(Launcher& launcher)
     }
     const ReadingRules rules = RulesOf(launcher);
     Troubles troubles;
+    int beyondBound = 0;
     for (const QString& folder : folders) {
         GameFiles files = ListGame(launcher.places, folder);
-        AddGame(files, rules, launcher.defaultIcon, launcher.catalogue, launcher.icons, troubles);
+        const bool added = AddGame(
+            files, rules, launcher.defaultIcon, launcher.catalogue, launcher.icons, troubles);
+        beyondBound += added ? 0 : 1;
     }
     TellTroubles(launcher, troubles);
+    TellBeyondBound(launcher, beyondBound);
+    TellWithoutCache(launcher, folders);
 }
 
 /// False: the cache is missing or damaged, nothing has changed.
@@ -118,7 +143,8 @@ bool FillByCache(Launcher& launcher, shell::Job& job)
     ShownProgress progress(launcher);
     Outcome<CachedCatalogue> cached = ReadCatalogueCache(launcher.places, progress);
     if (!cached) {
-        qWarning().noquote() << cached.Failure().text;
+        const QLoggingCategory room(kCategory);
+        qCWarning(room).noquote() << cached.Failure().text;
         return false;
     }
     launcher.catalogue = std::move(cached.Value().catalogue);
@@ -264,15 +290,7 @@ Done SaveCatalogue(Launcher& launcher)
     if (!saved) {
         return saved.Failure();
     }
-    for (const QStringList& folders : {saved.Value().leftOut, saved.Value().maimed}) {
-        if (!folders.isEmpty()) {
-            const QString text = launcher.lang.OwnText(
-                354,
-                u"Games with characters that the list's file can't keep: <1>"_s,
-                {QString::number(folders.size())});
-            shell::TellNote(launcher, kCategory, text, folders.join(u'\n'));
-        }
-    }
+    TellWithoutCache(launcher, saved.Value().leftOut);
     return platform::Success();
 }
 

@@ -89,12 +89,27 @@ private:
     QStringList GameFolders()
     {
         QStringList games;
-        const QStringList folders = platform::ListFolder(m_places.gamesRoot).folders;
-        for (const QString& folder : folders) {
-            (MayBeGame(m_places, folder) ? games : m_result.refused) << folder;
+        const platform::Listing root = platform::ListFolder(m_places.gamesRoot);
+        for (const QString& folder : root.folders) {
+            const QString reason = WhyNoGame(m_places, folder);
+            if (reason.isEmpty()) {
+                games << folder;
+            } else {
+                Refuse(folder, reason);
+            }
+        }
+        for (const QString& link : root.broken) {
+            if (!link.startsWith(u'.')) {
+                Refuse(link, u"the link leads nowhere"_s);
+            }
         }
         m_result.beyondBound = static_cast<int>(std::max<qsizetype>(0, games.size() - kMostGames));
         return games.mid(0, kMostGames);
+    }
+
+    void Refuse(const QString& folder, const QString& reason)
+    {
+        m_result.refused << folder + u": "_s + reason;
     }
 
     bool Prepare(const QStringList& folders)
@@ -108,6 +123,8 @@ private:
             if (files.game.exists || QFileInfo::exists(files.gameDir)) {
                 m_result.icons.Append(PrepareGameFolder(files, m_defaultIcon, m_result.troubles));
                 m_listed.push_back(Shorten(files));
+            } else {
+                Refuse(folders[i], u"has vanished"_s);
             }
             if (!steps.At(i)) {
                 return false;

@@ -18,8 +18,8 @@ struct ScanResult {
     Catalogue catalogue;
     IconSheet icons;        // as many as games
     int beyondBound = 0;    // folders left out behind the first kMostGames
-    QStringList refused;    // names of folders that can't be games: links to where the games lie,
-                            // names with a backslash or in another encoding
+    QStringList refused;    // "name: reason" of what is left out else: folders that WhyNoGame
+                            // names, links that lead nowhere, folders that have vanished
     bool abandoned = false; // the program is ending: the rest is not to be used
     Troubles troubles;
 };

@@ -123,18 +123,27 @@ void GameFiles::ForgetMetaFile(const QString& name)
     }
 }
 
-bool MayBeGame(const shell::Places& places, const QString& folder)
+QString WhyNoGame(const shell::Places& places, const QString& folder)
 {
-    if (!platform::IsPlainName(folder) || folder.contains(QChar::ReplacementCharacter)) {
-        return false;
+    if (!platform::IsPlainName(folder)) {
+        return u"the name holds a backslash"_s;
+    }
+    if (folder.contains(QChar::ReplacementCharacter)) {
+        return u"the name is in another encoding"_s;
     }
     const QFileInfo info(places.GameDir(folder));
     if (!info.isSymLink()) {
-        return true;
+        return QString();
     }
     const QString root = QFileInfo(places.gamesRoot).canonicalFilePath() + u'/';
     const QString target = info.canonicalFilePath();
-    return !root.startsWith(target.endsWith(u'/') ? target : target + u'/');
+    const bool leadsBack = root.startsWith(target.endsWith(u'/') ? target : target + u'/');
+    return leadsBack ? u"the link leads to where the games lie"_s : QString();
+}
+
+bool MayBeGame(const shell::Places& places, const QString& folder)
+{
+    return WhyNoGame(places, folder).isEmpty();
 }
 
 GameFiles ListGame(const shell::Places& places, const QString& folder)

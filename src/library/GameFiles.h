@@ -53,6 +53,8 @@ struct GameFiles {
 /// the system's encoding, and not when it is a link to GamesRoot or to a folder above that, since
 /// preparing it would put files among the games.
 bool MayBeGame(const shell::Places& places, const QString& folder);
+/// The reason for the user; empty when it can be one.
+QString WhyNoGame(const shell::Places& places, const QString& folder);
 
 /// Lists the game's folder and its metadata folder, whatever case that is written in. A folder that
 /// is missing or can't be read gives empty listings. `folder` must be a plain name.

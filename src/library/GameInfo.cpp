@@ -74,20 +74,31 @@ QString InfoFileText(const InfoText& info)
     return text;
 }
 
-/// The first line; empty for an empty file; nullopt if the file is not there or can't be read.
-std::optional<QString> FirstLine(const GameFiles& files, const QString& name)
+/// nullopt if the file is not there or can't be read; the latter is a trouble.
+std::optional<QStringList> FirstLines(
+    const GameFiles& files, const QString& name, int count, Troubles* troubles)
 {
     if (!files.HasMetaFile(name)) {
         return std::nullopt;
     }
-    const auto lines = platform::ReadFirstLines(files.MetaPath(name), 1);
-    return lines ? std::optional(lines.Value().value(0)) : std::nullopt;
+    auto lines = platform::ReadFirstLines(files.MetaPath(name), count);
+    if (!lines && troubles != nullptr) {
+        troubles->Add(lines.Failure());
+    }
+    return lines ? std::optional(lines.Take()) : std::nullopt;
+}
+
+/// The first line; empty for an empty file.
+std::optional<QString> FirstLine(const GameFiles& files, const QString& name, Troubles* troubles)
+{
+    const std::optional<QStringList> lines = FirstLines(files, name, 1, troubles);
+    return lines ? std::optional(lines->value(0)) : std::nullopt;
 }
 
 QString ReadGenreFile(GameFiles& files, GenreFile which, QStringView missing, Troubles& troubles)
 {
     const QString name = GenreFileName(which);
-    if (const std::optional<QString> line = FirstLine(files, name)) {
+    if (const std::optional<QString> line = FirstLine(files, name, &troubles)) {
         return CleanField(*line);
     }
     if (files.meta.exists && !files.HasMetaFile(name)) {
@@ -166,10 +177,11 @@ Titles SplitTitleLine(const QString& line, const QString& folder)
     return Titles{CleanField(pieces[0]), CleanField(pieces.value(1, pieces[0]))};
 }
 
-Titles ReadTitles(const GameFiles& files)
+Titles ReadTitles(const GameFiles& files, Troubles* troubles)
 {
     // A folder's name is no title line: there is nothing in it to split.
-    return SplitTitleLine(FirstLine(files, u"info.txt"_s).value_or(QString()), files.folder);
+    const std::optional<QString> line = FirstLine(files, u"info.txt"_s, troubles);
+    return SplitTitleLine(line.value_or(QString()), files.folder);
 }
 
 InfoText ReadInfo(const GameFiles& files)
@@ -216,13 +228,10 @@ platform::Done WriteInfo(GameFiles& files, const InfoText& info, Loss loss)
     return written;
 }
 
-Facts ReadFacts(const GameFiles& files)
+Facts ReadFacts(const GameFiles& files, Troubles* troubles)
 {
-    if (!files.HasMetaFile(u"ExtraInfo.txt"_s)) {
-        return Facts{};
-    }
     const QStringList lines =
-        platform::ReadFirstLines(files.MetaPath(u"ExtraInfo.txt"_s), 4).ValueOr({});
+        FirstLines(files, u"ExtraInfo.txt"_s, 4, troubles).value_or(QStringList());
     return Facts{
         CleanField(lines.value(0)),
         CleanField(lines.value(1)),
@@ -258,7 +267,7 @@ platform::Done DeleteFacts(GameFiles& files)
 
 Genres ReadGenres(GameFiles& files, GenreForm form, Troubles& troubles)
 {
-    if (const std::optional<QString> code = FirstLine(files, u"Extra.dat"_s)) {
+    if (const std::optional<QString> code = FirstLine(files, u"Extra.dat"_s, &troubles)) {
         return ConvertOldGenre(files, *code, form, troubles);
     }
     return Genres{
@@ -271,17 +280,14 @@ platform::Done WriteGenre(GameFiles& files, GenreFile which, const QString& genr
     return WriteMetaLines(files, GenreFileName(which), {CleanField(genre)});
 }
 
-std::int16_t ReadBuild(const GameFiles& files, std::int16_t defaultBuild)
+std::int16_t ReadBuild(const GameFiles& files, std::int16_t defaultBuild, Troubles* troubles)
 {
-    if (!files.HasMetaFile(u"edit.conf"_s)) {
-        return defaultBuild;
-    }
-    const auto lines = platform::ReadFirstLines(files.MetaPath(u"edit.conf"_s), 2);
+    const std::optional<QStringList> lines = FirstLines(files, u"edit.conf"_s, 2, troubles);
     if (!lines) {
         return defaultBuild;
     }
     using Limits = std::numeric_limits<std::int16_t>;
-    const std::int32_t build = platform::IntegerPrefix(lines.Value().value(1));
+    const std::int32_t build = platform::IntegerPrefix(lines->value(1));
     return static_cast<std::int16_t>(std::clamp<std::int32_t>(build, Limits::min(), Limits::max()));
 }
 

@@ -56,8 +56,8 @@ QString CleanField(const QString& text);
 Titles SplitTitleLine(const QString& line, const QString& folder);
 
 /// The titles for the Catalogue: reads only the first line of info.txt. Without a readable one the
-/// folder's name.
-Titles ReadTitles(const GameFiles& files);
+/// folder's name. Here and below, a file that is there and can't be read is told in `troubles`.
+Titles ReadTitles(const GameFiles& files, Troubles* troubles = nullptr);
 
 /// info.txt whole, for the boxes. Missing or unreadable: empty.
 InfoText ReadInfo(const GameFiles& files);
@@ -71,7 +71,7 @@ QString LostInInfo(const InfoText& info);
 platform::Done WriteInfo(GameFiles& files, const InfoText& info, Loss loss = Loss::Refuse);
 
 /// Missing lines, or no file, read as empty.
-Facts ReadFacts(const GameFiles& files);
+Facts ReadFacts(const GameFiles& files, Troubles* troubles = nullptr);
 platform::Done WriteFacts(GameFiles& files, const Facts& facts);
 /// No file is a success.
 platform::Done DeleteFacts(GameFiles& files);
@@ -84,6 +84,7 @@ platform::Done WriteGenre(GameFiles& files, GenreFile which, const QString& genr
 
 /// Line 2 of edit.conf as a number, which is the index of the game's build; `defaultBuild` without
 /// a readable edit.conf. A missing line counts as 0; beyond 16 bits the value is clamped.
-std::int16_t ReadBuild(const GameFiles& files, std::int16_t defaultBuild);
+std::int16_t ReadBuild(
+    const GameFiles& files, std::int16_t defaultBuild, Troubles* troubles = nullptr);
 
 } // namespace pelorin::library

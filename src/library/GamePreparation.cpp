@@ -115,7 +115,10 @@ IconPixels PrepareGameFolder(GameFiles& files, const IconPixels& defaultIcon, Tr
     if (!made || !files.meta.exists) {
         const QString& unreadable = files.game.exists ? files.metaDir : files.gameDir;
         troubles.Add(
-            made ? platform::Error{platform::ErrorKind::Unreadable, unreadable} : made.Failure());
+            made
+                ? platform::
+                      Error{platform::ErrorKind::Unreadable, u"%1: the folder can't be read"_s.arg(unreadable)}
+                : made.Failure());
         return defaultIcon;
     }
     MakeMetaSubFolder(files, u"CD"_s, troubles);

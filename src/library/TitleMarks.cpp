@@ -34,9 +34,10 @@ constexpr std::array<BuildMark, 9> kBuildMarks{{
 }};
 
 void SetTitles(
-    GameEntry& entry, const GameFiles& files, std::int16_t build, const ReadingRules& rules)
+    GameEntry& entry, const GameFiles& files, const ReadingRules& rules, Troubles* troubles)
 {
-    const Titles titles = ReadTitles(files);
+    const Titles titles = ReadTitles(files, troubles);
+    const std::int16_t build = ReadBuild(files, rules.defaultBuild, troubles);
     const MarkFacts facts = MarkFactsOf(files, build);
     entry.DosboxVersion = build;
     entry.TitleK = MarkedTitle(titles.first, facts, rules.lang);
@@ -80,12 +81,12 @@ GameEntry ReadGameFolder(
     GameEntry entry;
     entry.Folder = files.folder;
     entry.ListIndex = static_cast<std::int16_t>(position + 1);
-    const Facts facts = ReadFacts(files);
+    const Facts facts = ReadFacts(files, &troubles);
     entry.Maker = facts.Maker;
     entry.Release = facts.Release;
     entry.GameLanguage = facts.GameLanguage;
     entry.Country = facts.Country;
-    SetTitles(entry, files, ReadBuild(files, rules.defaultBuild), rules);
+    SetTitles(entry, files, rules, &troubles);
     const Genres genres = ReadGenres(files, GenreForm::Scan, troubles);
     entry.GenreK = genres.korean;
     entry.GenreE = genres.english;
@@ -94,7 +95,7 @@ GameEntry ReadGameFolder(
 
 void RefreshEntry(GameEntry& entry, const GameFiles& files, const ReadingRules& rules)
 {
-    SetTitles(entry, files, ReadBuild(files, rules.defaultBuild), rules);
+    SetTitles(entry, files, rules, nullptr);
 }
 
 } // namespace pelorin::library

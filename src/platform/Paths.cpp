@@ -132,6 +132,7 @@ Listing ListFolder(const QString& path)
         }
         const EntryKind kind = KindOf(*entry, descriptor);
         if (kind == EntryKind::Broken) {
+            listing.broken << name;
             continue;
         }
         listing.all << name;
@@ -144,6 +145,7 @@ Listing ListFolder(const QString& path)
     SortByLowerCase(listing.folders);
     SortByLowerCase(listing.files);
     SortByLowerCase(listing.all);
+    SortByLowerCase(listing.broken);
     for (const QString& name : std::as_const(listing.all)) {
         const QString lower = name.toLower();
         if (!listing.byLowerCase.contains(lower)) {

@@ -30,10 +30,11 @@ bool IsPlainName(const QString& name);
 struct Listing {
     bool exists = false;                 // the folder is there and could be read
     QStringList folders;                 // links to folders among them
-    QStringList files;                   // whatever is no folder; broken links left out
+    QStringList files;                   // whatever is no folder
     QHash<QString, QString> byLowerCase; // lower-case name -> name, first in order
     QStringList all;                     // folders, files and hidden names, sorted
     QStringList hiddenFolders;
+    QStringList broken; // links that lead nowhere or to themselves, in no other list; sorted
 
     /// The entry of that name, exact or by case; empty if there is none.
     QString Find(const QString& name) const;

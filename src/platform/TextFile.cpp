@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QStringConverter>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace pelorin::platform {
@@ -20,6 +22,12 @@ QByteArray EncodeAll(const QString& text)
 {
     QStringEncoder encoder(kCodec);
     return encoder.encode(text);
+}
+
+/// What most texts are made of: printable ASCII and the syllables of modern Korean.
+bool IsSurelyKept(QChar c)
+{
+    return (c >= u' ' && c <= u'~') || (c >= u'\uAC00' && c <= u'\uD7A3');
 }
 
 QStringList CharactersOf(const QString& text)
@@ -64,6 +72,9 @@ Encoded EncodeCp949(const QString& text)
 
 bool FitsCp949(const QString& text)
 {
+    if (std::all_of(text.begin(), text.end(), IsSurelyKept)) {
+        return true;
+    }
     // A control character or "?" is itself in every code page; the codec's stand-in for a loss
     // is told from the real thing by decoding it again.
     return DecodeCp949(EncodeAll(text)) == text;

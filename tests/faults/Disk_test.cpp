@@ -4,7 +4,6 @@
 #include "running/RunCommands.h"
 #include "shell/LifecycleCommands.h"
 #include "support/DiskTroubles.h"
-#include "support/IsolatedHome.h"
 
 #include <QFile>
 
@@ -15,13 +14,6 @@ using namespace pelorin;
 using namespace pelorin::test;
 
 namespace {
-
-QProcessEnvironment TemporaryFilesIn(const QString& folder)
-{
-    QProcessEnvironment environment;
-    environment.insert(u"TMPDIR"_s, folder);
-    return environment;
-}
 
 /// An installation with a game, on a disk of its own.
 class DiskFaults : public testing::Test {

@@ -2,6 +2,7 @@
 
 #include "shell/Launcher.h"
 #include "support/Installation.h"
+#include "support/IsolatedHome.h"
 
 #include <QFileInfo>
 #include <QMap>
@@ -33,6 +34,14 @@ inline QString Notes(const shell::Launcher& launcher)
         text += note.text + u'\n';
     }
     return text;
+}
+
+/// For a ScopedEnvironment: what is made within it lies in this folder.
+inline QProcessEnvironment TemporaryFilesIn(const QString& folder)
+{
+    QProcessEnvironment environment;
+    environment.insert(QStringLiteral("TMPDIR"), folder);
+    return environment;
 }
 
 } // namespace pelorin::test

@@ -1,5 +1,6 @@
-#include "LibraryFixture.h"
 #include "library/CatalogueCache.h"
+
+#include "LibraryFixture.h"
 #include "library/IconSheetFile.h"
 
 #include <QDir>
@@ -162,28 +163,42 @@ TEST_F(CatalogueCacheTest, FormerSheetsGoAndSpellingsStay)
 
 TEST_F(CatalogueCacheTest, WhatTheListCantHoldIsLeftOutOfBothFiles)
 {
-    Library library(5);
+    Library library(7);
     library.catalogue[1].Folder = u"Café"_s;
-    library.catalogue[2].TitleE = u"Na\u00efve\u0001\r\n!"_s;
+    library.catalogue[2].TitleE = u"Naïve"_s;
     library.catalogue[3].Folder = u"two\nlines"_s;
+    library.catalogue[4].Maker = u"\uFFFD"_s;
+    library.catalogue[5].TitleE = u"Ж\u0001\r\n!"_s;
+    const auto leftOut = ElementsAre(u"Café"_s, u"게임2"_s, u"two\nlines"_s, u"게임4"_s);
+    EXPECT_THAT(library::GamesWithoutCache(library.catalogue), leftOut);
     const auto report = Save(library);
     ASSERT_TRUE(report);
-    EXPECT_THAT(report.Value().leftOut, ElementsAre(u"Café"_s, u"two\nlines"_s));
-    EXPECT_THAT(report.Value().maimed, ElementsAre(u"게임2"_s));
+    EXPECT_THAT(report.Value().leftOut, leftOut);
     const auto back = Read();
     ASSERT_TRUE(back);
     ASSERT_EQ(back.Value().catalogue.size(), 3U);
-    EXPECT_EQ(back.Value().catalogue[1].TitleE, u"Na?ve!"_s);
-    EXPECT_EQ(back.Value().icons.Large(1).bgr, library.icons.Large(2).bgr);
+    EXPECT_EQ(back.Value().catalogue[1].TitleE, u"Ж!"_s);
+    EXPECT_EQ(back.Value().icons.Large(1).bgr, library.icons.Large(5).bgr);
+}
 
+TEST_F(CatalogueCacheTest, WhatWasLeftOutIsFoundAgainByNameOrText)
+{
     m_root.MakeTree(
         {u"Games/Café/"_s, u"Games/Café 2/"_s, u"Games/게임0/"_s, u"Games/new/"_s, u"Games/é"_s});
-    EXPECT_THAT(
-        library::FoldersWithoutCache(m_library.places, back.Value().catalogue),
-        ElementsAre(u"Café"_s, u"Café 2"_s));
+    m_root.WriteRaw(u"Games/title/dosbox/Info.txt"_s, "\xb0 \x03Title\r\n");
+    m_root.WriteRaw(u"Games/maker/DosBox/ExtraInfo.txt"_s, "Maker\r\n\r\n\xb0 \r\n");
+    m_root.WriteRaw(u"Games/genre/DosBox/GenreE.dat"_s, "\xb0 ");
+    m_root.WriteRaw(u"Games/fine/DosBox/info.txt"_s, "Fine\r\nonly the description: \xb0 ");
+    m_root.WriteRaw(u"Games/게임1/DosBox/info.txt"_s, "\xb0 ");
+    Library library(2);
+    const QStringList before = m_root.Tree();
     EXPECT_THAT(
         library::FoldersWithoutCache(m_library.places, library.catalogue),
-        ElementsAre(u"Café 2"_s));
+        ElementsAre(u"Café"_s, u"Café 2"_s, u"genre"_s, u"maker"_s, u"title"_s));
+    EXPECT_EQ(m_root.Tree(), before);
+    library.catalogue[0].Folder = u"Café"_s;
+    EXPECT_FALSE(
+        library::FoldersWithoutCache(m_library.places, library.catalogue).contains(u"Café"_s));
 }
 
 TEST_F(CatalogueCacheTest, DamagedListsAreRefused)

@@ -1,5 +1,6 @@
-#include "LibraryFixture.h"
 #include "library/CatalogueEdits.h"
+
+#include "LibraryFixture.h"
 
 using namespace Qt::StringLiterals;
 using namespace pelorin;

@@ -52,7 +52,12 @@ TEST_F(CatalogueScanTest, GamesInOrderWithTheirIcons)
     m_root.MakeLink(u"Games/self"_s, u"."_s);
     const ScanResult scan = Scan();
     EXPECT_THAT(Folders(scan), ElementsAre(u"Alpha"_s, u"beta"_s, u"Gamma"_s));
-    EXPECT_THAT(scan.refused, ElementsAre(u"self"_s));
+    EXPECT_THAT(
+        scan.refused,
+        ElementsAre(
+            u"self: the link leads to where the games lie"_s,
+            u"loop: the link leads nowhere"_s,
+            u"nowhere: the link leads nowhere"_s));
     ASSERT_EQ(scan.icons.Count(), 3);
     EXPECT_EQ(scan.icons.Large(0).bgr, m_defaultIcon.bgr);
     EXPECT_NE(scan.icons.Large(1).bgr, m_defaultIcon.bgr);
@@ -105,6 +110,8 @@ TEST_F(CatalogueScanTest, FoldersThatVanishDoNoHarm)
     };
     const ScanResult scan = Scan();
     EXPECT_THAT(Folders(scan), ElementsAre(u"a"_s, u"c"_s));
+    EXPECT_THAT(scan.refused, ElementsAre(u"b: has vanished"_s));
+    EXPECT_EQ(scan.troubles.count, 2) << "c is listed by its name, and can't get its genre files";
     EXPECT_EQ(scan.icons.Count(), 2);
     EXPECT_EQ(scan.catalogue[1].ListIndex, 2);
     EXPECT_FALSE(m_root.Exists(u"Games/b"_s));

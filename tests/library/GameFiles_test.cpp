@@ -1,5 +1,6 @@
-#include "LibraryFixture.h"
 #include "library/GameFiles.h"
+
+#include "LibraryFixture.h"
 
 #include <QFileInfo>
 

@@ -1,5 +1,6 @@
-#include "LibraryFixture.h"
 #include "library/GameInfo.h"
+
+#include "LibraryFixture.h"
 
 #include <QFile>
 

@@ -1,6 +1,7 @@
+#include "library/GamePreparation.h"
+
 #include "LibraryFixture.h"
 #include "Pictures.h"
-#include "library/GamePreparation.h"
 #include "library/IconImages.h"
 
 #include <gmock/gmock.h>

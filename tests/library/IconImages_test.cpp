@@ -1,6 +1,7 @@
+#include "library/IconImages.h"
+
 #include "LibraryFixture.h"
 #include "Pictures.h"
-#include "library/IconImages.h"
 
 #include <QtEndian>
 

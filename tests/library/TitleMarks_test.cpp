@@ -1,5 +1,6 @@
-#include "LibraryFixture.h"
 #include "library/TitleMarks.h"
+
+#include "LibraryFixture.h"
 
 using namespace Qt::StringLiterals;
 using namespace pelorin;
