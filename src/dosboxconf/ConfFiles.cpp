@@ -36,11 +36,6 @@ StoredConf ReadConf(const QString& path)
     return ParseConf(platform::ReadLines(path).ValueOr(QStringList()));
 }
 
-bool IsDamaged(const QString& path)
-{
-    return QFileInfo::exists(path) && !ReadConf(path).whole;
-}
-
 void Merge(ConfReport& report, const ConfReport& other)
 {
     report.created |= other.created;
@@ -51,15 +46,70 @@ void Merge(ConfReport& report, const ConfReport& other)
     report.notes << other.notes;
 }
 
-enum class OldFile { KeepIfDamaged, Keep };
+/// Whether an option's selection is an index into its values, and there is none at that place.
+bool IsOffItsList(const OptionGrid& grid, std::size_t at, std::int32_t selected)
+{
+    const bool isIndex =
+        grid.OptionKinds[at] == OptionKind::Index || grid.OptionKinds[at] == OptionKind::Mapper;
+    return isIndex && !grid.OptionKey[at].isEmpty() &&
+           (selected < 0 || selected >= grid.OptionValue[at].size());
+}
+
+enum class Keys { All, WithoutGlobalOnly };
+
+/// A table may be older than option.dat. What is off its list stays as it is and shows no text.
+void NoteOffTheirLists(
+    ConfReport& report,
+    const QString& path,
+    const OptionGrid& grid,
+    const Selection& table,
+    Keys keys = Keys::All)
+{
+    constexpr qsizetype kMostNamed = 8;
+    QStringList off;
+    for (std::size_t at = 0; at < table.size(); ++at) {
+        const QString& key = grid.OptionKey[at];
+        if (IsOffItsList(grid, at, table[at]) && (keys == Keys::All || !IsGlobalOnlyKey(key))) {
+            off << key;
+        }
+    }
+    if (off.isEmpty()) {
+        return;
+    }
+    const QString more = off.size() > kMostNamed ? u", ..."_s : QString();
+    report.notes << u"%1: no such value in the list, so none is used: %2"_s.arg(
+        path, off.mid(0, kMostNamed).join(u", "_s) + more);
+}
+
+/// Whether `table` lacks something that nobody could have seen in the old one.
+bool LosesUnlisted(const OptionGrid& grid, const Selection& old, const Selection& table)
+{
+    for (std::size_t at = 0; at < table.size(); ++at) {
+        if (old[at] != table[at] && IsOffItsList(grid, at, old[at])) {
+            return true;
+        }
+    }
+    return false;
+}
+
+enum class OldFile { KeepIfWorthIt, Keep };
 
 /// Whatever could not be read whole may still be worth something to its owner, so it is never
-/// written over without a copy.
+/// written over without a copy; nor is a value that could not be shown.
 Outcome<ConfReport> WriteConf(
-    const QString& path, const Selection& table, OldFile oldFile = OldFile::KeepIfDamaged)
+    const QString& path,
+    const OptionGrid& grid,
+    const Selection& table,
+    OldFile oldFile = OldFile::KeepIfWorthIt)
 {
     ConfReport report;
-    if (oldFile == OldFile::Keep || IsDamaged(path)) {
+    bool keep = oldFile == OldFile::Keep;
+    if (!keep && QFileInfo::exists(path)) {
+        const StoredConf old = ReadConf(path);
+        keep = !old.whole ||
+               (old.layout == ConfLayout::Current && LosesUnlisted(grid, old.values, table));
+    }
+    if (keep) {
         if (const platform::Done kept = platform::KeepBackup(path); !kept) {
             return kept.Failure();
         }
@@ -86,7 +136,7 @@ void WriteOrNote(ConfReport& report, const Outcome<ConfReport>& written)
 /// A file without a mark may be anything that is no configuration at all.
 OldFile CareFor(ConfLayout layout)
 {
-    return layout == ConfLayout::Groups11 ? OldFile::Keep : OldFile::KeepIfDamaged;
+    return layout == ConfLayout::Groups11 ? OldFile::Keep : OldFile::KeepIfWorthIt;
 }
 
 /// What a markless edit.conf is replaced by: the first values of the global file, taken for a file
@@ -111,7 +161,7 @@ Outcome<ConfReport> UpgradeGameConf(
     }
     UpgradeOldGrid(grid, stored.values, upgraded);
     stored.values = upgraded;
-    return WriteConf(GameConfPath(places, folder), upgraded, CareFor(stored.layout));
+    return WriteConf(GameConfPath(places, folder), grid, upgraded, CareFor(stored.layout));
 }
 
 void Overlay(OptionGrid& grid, const Selection& game)
@@ -192,7 +242,7 @@ ConfReport ReadDefaultConf(const shell::Places& places, OptionGrid& grid)
     if (!QFileInfo::exists(path)) {
         SetFactoryDefaults(grid);
         report.created = true;
-        WriteOrNote(report, WriteConf(path, grid.OptionSelection));
+        WriteOrNote(report, WriteConf(path, grid, grid.OptionSelection));
         return report;
     }
     StoredConf stored = ReadConf(path);
@@ -205,18 +255,22 @@ ConfReport ReadDefaultConf(const shell::Places& places, OptionGrid& grid)
     } else {
         UpgradeOldGrid(grid, stored.values, grid.OptionSelection);
         report.upgraded = true;
-        WriteOrNote(report, WriteConf(path, grid.OptionSelection, CareFor(stored.layout)));
+        WriteOrNote(report, WriteConf(path, grid, grid.OptionSelection, CareFor(stored.layout)));
     }
+    NoteOffTheirLists(report, path, grid, grid.OptionSelection);
     return report;
 }
 
 Outcome<ConfReport> WriteDefaultConf(const shell::Places& places, const OptionGrid& grid)
 {
-    return WriteConf(DefaultConfPath(places), grid.OptionSelection);
+    return WriteConf(DefaultConfPath(places), grid, grid.OptionSelection);
 }
 
 Outcome<ConfReport> WriteGameConf(
-    const shell::Places& places, const QString& folder, const Selection& table)
+    const shell::Places& places,
+    const QString& folder,
+    const OptionGrid& grid,
+    const Selection& table)
 {
     if (!platform::IsPlainName(folder) || !QFileInfo(places.GameDir(folder)).isDir()) {
         return Error{ErrorKind::Refused, u"%1: no such game"_s.arg(places.GameDir(folder))};
@@ -225,7 +279,7 @@ Outcome<ConfReport> WriteGameConf(
     if (!QDir().mkpath(metaDir)) {
         return Error{ErrorKind::Unwritable, u"%1: can't be made"_s.arg(metaDir)};
     }
-    return WriteConf(GameConfPath(places, folder), table);
+    return WriteConf(GameConfPath(places, folder), grid, table);
 }
 
 LoadedConf LoadGameConf(const shell::Places& places, const QString& folder, OptionGrid& grid)
@@ -252,6 +306,7 @@ LoadedConf LoadGameConf(const shell::Places& places, const QString& folder, Opti
         loaded.report.upgraded = true;
         WriteOrNote(loaded.report, UpgradeGameConf(places, folder, grid, stored, global));
     }
+    NoteOffTheirLists(loaded.report, path, grid, stored.values, Keys::WithoutGlobalOnly);
     Overlay(grid, stored.values);
     loaded.differences = DifferencesFrom(global, grid);
     return loaded;
@@ -260,7 +315,7 @@ LoadedConf LoadGameConf(const shell::Places& places, const QString& folder, Opti
 Outcome<ConfReport> SaveGameConf(
     const shell::Places& places, const QString& folder, OptionGrid& grid)
 {
-    Outcome<ConfReport> saved = WriteGameConf(places, folder, grid.OptionSelection);
+    Outcome<ConfReport> saved = WriteGameConf(places, folder, grid, grid.OptionSelection);
     if (!saved) {
         return saved;
     }
@@ -286,8 +341,8 @@ Outcome<ConfReport> SaveGameConf(
             global[at] = grid.OptionSelection[at];
         }
     }
-    const OldFile care = stored.whole ? CareFor(stored.layout) : OldFile::KeepIfDamaged;
-    Outcome<ConfReport> written = WriteConf(path, global, care);
+    const OldFile care = stored.whole ? CareFor(stored.layout) : OldFile::KeepIfWorthIt;
+    Outcome<ConfReport> written = WriteConf(path, grid, global, care);
     if (!written) {
         return written;
     }
@@ -307,7 +362,7 @@ int ReadBuildIndex(const shell::Places& places, const QString& folder, const Opt
         return ReadBuildLine(GameConfPath(places, folder));
     }
     const QString path = DefaultConfPath(places);
-    if (!QFileInfo::exists(path) && !WriteConf(path, FactorySelection(grid))) {
+    if (!QFileInfo::exists(path) && !WriteConf(path, grid, FactorySelection(grid))) {
         return FactorySelection(grid)[OptionGrid::Index(kVersionCell)];
     }
     return ReadBuildLine(path);

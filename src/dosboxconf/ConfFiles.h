@@ -47,17 +47,22 @@ bool HasGameConf(const shell::Places& places, const QString& folder);
 
 /// Fills the grid from Default.conf. A missing file is created with factory values, an older
 /// layout is rewritten. A file that can't be read whole gives factory values and stays as it is.
-/// Always leaves a whole configuration; what could not be written is a note.
+/// Always leaves a whole configuration; what could not be written is a note, and so are selections
+/// that no list of values has.
 ConfReport ReadDefaultConf(const shell::Places& places, OptionGrid& grid);
 
-/// Writes the grid's selection to Default.conf. A file there that could not be read whole is kept
-/// as .bak first. Error Unwritable.
+/// Writes the grid's selection to Default.conf. A file there that could not be read whole, or a
+/// selection of which the list of values has none and that is written over, is kept as .bak first.
+/// Error Unwritable.
 platform::Outcome<ConfReport> WriteDefaultConf(const shell::Places& places, const OptionGrid& grid);
 
 /// Writes a table as the game's edit.conf, with the same care. Error Unwritable, or Refused for
 /// a folder that is no plain name.
 platform::Outcome<ConfReport> WriteGameConf(
-    const shell::Places& places, const QString& folder, const Selection& table);
+    const shell::Places& places,
+    const QString& folder,
+    const OptionGrid& grid,
+    const Selection& table);
 
 /// The global settings overlaid with the game's file, except for the global-only keys, and what
 /// differs from the global settings. An edit.conf of an older layout is rewritten; one without a

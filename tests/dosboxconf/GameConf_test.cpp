@@ -145,10 +145,10 @@ TEST_F(GameConfTest, SavingOverAMissingABrokenAndAnOldGlobalFile)
 TEST_F(GameConfTest, WritesOnlyIntoAGameThatIsThere)
 {
     for (const QString& name : {u""_s, u".."_s, u"a/b"_s, u"Gone"_s}) {
-        EXPECT_FALSE(WriteGameConf(places, name, grid.OptionSelection)) << name.toStdString();
+        EXPECT_FALSE(WriteGameConf(places, name, grid, grid.OptionSelection)) << name.toStdString();
         EXPECT_FALSE(HasGameConf(places, name));
     }
-    ASSERT_TRUE(WriteGameConf(places, u"Bare"_s, grid.OptionSelection));
+    ASSERT_TRUE(WriteGameConf(places, u"Bare"_s, grid, grid.OptionSelection));
     EXPECT_TRUE(folder.Exists(u"games/Bare/DosBox/edit.conf"_s));
 
     folder.MakeFolder(editConf); // can't be written over
