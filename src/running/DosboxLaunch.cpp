@@ -1,5 +1,6 @@
 #include "running/DosboxLaunch.h"
 
+#include "running/GuestCommand.h"
 #include "running/RunPlan.h"
 
 #include <QFile>
@@ -19,11 +20,6 @@ using platform::PathForm;
 bool BreaksItsLine(QChar c)
 {
     return c == u'"' || c == u'\r' || c == u'\n';
-}
-
-bool IsAscii(const QString& text)
-{
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 128; });
 }
 
 /// As the emulator counts it: without the carriage returns.
@@ -119,6 +115,20 @@ platform::Done CheckRequest(const RunRequest& request, const QString& build)
     return platform::Success();
 }
 
+platform::Done CheckCommands(const RunRequest& request, PathForm form)
+{
+    const QStringList commands = form == PathForm::Posix ? TypedCommands(request) : QStringList();
+    for (const QString& command : commands) {
+        const QStringList needed = UnopenableNamesIn(command).needed;
+        if (!needed.isEmpty()) {
+            return Error{
+                ErrorKind::Refused,
+                u"%1: DOSBox can't open a file with such a name"_s.arg(needed.first())};
+        }
+    }
+    return platform::Success();
+}
+
 platform::Done CheckLaunch(
     const dosboxconf::RunFacts& facts, const platform::HostText& finished, PathForm form)
 {
@@ -140,8 +150,9 @@ QStringList LaunchNotes(
     if (form == PathForm::Posix) {
         const QStringList commands = TypedCommands(request);
         for (const QString& command : commands) {
-            if (!IsAscii(command)) {
-                notes << u"%1: DOSBox can't open a file with such a name"_s.arg(command);
+            const QStringList passedOn = UnopenableNamesIn(command).passedOn;
+            for (const QString& word : passedOn) {
+                notes << u"%1: if this is a file, DOSBox can't open it by such a name"_s.arg(word);
             }
         }
     }

@@ -26,14 +26,18 @@ inline constexpr qsizetype kAutoexecBytesWithGravis = 4008;
 /// out of its line of dosbox.conf (a quotation mark or a line break).
 platform::Done CheckRequest(const RunRequest& request, const QString& build);
 
+/// For the POSIX form, which a native DOSBox reads: a start command that has to find a file whose
+/// name it can't (GuestCommand.h). Error Refused.
+platform::Done CheckCommands(const RunRequest& request, platform::PathForm form);
+
 /// Before the text is written: quotation marks and line breaks in the paths that are mounted, and
 /// for the POSIX form, which a native DOSBox reads, their length and the size of [autoexec].
 /// Error Refused.
 platform::Done CheckLaunch(
     const dosboxconf::RunFacts& facts, const platform::HostText& finished, platform::PathForm form);
 
-/// What the user should know and what does not hold back the start, one text each: a start command
-/// whose file name a native DOSBox can't open, characters that the guest's code page can't keep,
+/// What the user should know and what does not hold back the start, one text each: a word of a start
+/// command that is no name of a file for a native DOSBox, characters that the guest's code page can't keep,
 /// a server that listens on another port than 213.
 QStringList LaunchNotes(
     const RunRequest& request, const platform::HostText& finished, platform::PathForm form);

@@ -71,6 +71,9 @@ Outcome<Launch> PrepareLaunch(Launcher& launcher, const RunRequest& request, con
     }
     const platform::HostProgram& program = found.Value();
 
+    if (const platform::Done possible = CheckCommands(request, program.pathForm); !possible) {
+        return possible.Failure();
+    }
     const RunEnding ending{request.mode, request.startCommands, request.typedLine, false, {}};
     const platform::HostText text = FinishRunText(composed.Value().text, ending);
     const dosboxconf::RunFacts facts =

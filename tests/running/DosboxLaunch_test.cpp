@@ -91,19 +91,34 @@ TEST(DosboxLaunchTest, RefusesWhatCantBeNamedInTheText)
     EXPECT_TRUE(CheckRequest(request, QString())) << "it has a build of its own";
 }
 
+TEST(DosboxLaunchTest, ACommandThatANativeDosboxCantFindIsRefused)
+{
+    RunRequest request;
+    request.startCommands = QStringList{u"cd data"_s, u"call 게임.bat"_s};
+    request.typedLine = u"시작.bat"_s;
+    const auto refused = CheckCommands(request, PathForm::Posix);
+    ASSERT_FALSE(refused);
+    EXPECT_TRUE(refused.Failure().text.startsWith(u"게임.bat: "_s));
+    EXPECT_TRUE(CheckCommands(request, PathForm::Windows));
+    request.mode = RunMode::DosPrompt;
+    EXPECT_TRUE(CheckCommands(request, PathForm::Posix));
+    request.mode = RunMode::FileWithArgs;
+    EXPECT_TRUE(CheckCommands(request, PathForm::Posix).Failure().text.startsWith(u"시작.bat: "_s));
+}
+
 TEST(DosboxLaunchTest, NotesTellWhatDoesNotHoldBackTheStart)
 {
     RunRequest request;
-    request.startCommands = QStringList{u"play.exe"_s, u"게임.exe"_s};
-    request.typedLine = u"시작.bat"_s;
+    request.startCommands = QStringList{u"echo 안녕"_s, u"play.exe 지도.dat"_s};
+    request.typedLine = u"play.exe 둘.dat"_s;
     const HostText plain = HostText().Text(u"가"_s);
     ASSERT_EQ(LaunchNotes(request, plain, PathForm::Posix).size(), 1);
-    EXPECT_TRUE(LaunchNotes(request, plain, PathForm::Posix).first().contains(u"게임.exe"_s));
+    EXPECT_TRUE(LaunchNotes(request, plain, PathForm::Posix).first().contains(u"지도.dat"_s));
     EXPECT_TRUE(LaunchNotes(request, plain, PathForm::Windows).isEmpty());
     request.mode = RunMode::DosPrompt;
     EXPECT_TRUE(LaunchNotes(request, plain, PathForm::Posix).isEmpty());
     request.mode = RunMode::FileWithArgs;
-    EXPECT_TRUE(LaunchNotes(request, plain, PathForm::Posix).first().contains(u"시작.bat"_s));
+    EXPECT_TRUE(LaunchNotes(request, plain, PathForm::Posix).first().contains(u"둘.dat"_s));
 
     request.mode = RunMode::NetHost;
     request.startCommands.clear();
