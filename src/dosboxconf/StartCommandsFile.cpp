@@ -60,9 +60,13 @@ platform::Outcome<QStringList> ReadAutoexecConf(const shell::Places& places, con
 }
 
 platform::Done WriteAutoexecConf(
-    const shell::Places& places, const QString& folder, const QStringList& commands)
+    const shell::Places& places,
+    const QString& folder,
+    const QStringList& commands,
+    platform::Loss loss)
 {
-    return platform::WriteLines(AutoexecConfPath(places, folder), WithoutEmptyLines(commands));
+    return platform::WriteLines(
+        AutoexecConfPath(places, folder), WithoutEmptyLines(commands), loss);
 }
 
 void FillStartCommands(StartCommands& start, const QStringList& commands)

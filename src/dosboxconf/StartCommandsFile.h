@@ -2,6 +2,7 @@
 
 #include "dosboxconf/StartCommands.h"
 #include "platform/Outcome.h"
+#include "platform/TextFile.h"
 #include "shell/Places.h"
 
 #include <QString>
@@ -15,10 +16,13 @@ namespace pelorin::dosboxconf {
 /// The non-empty lines; none without a file. Error Unreadable.
 platform::Outcome<QStringList> ReadAutoexecConf(const shell::Places& places, const QString& folder);
 
-/// Replaces the file by the non-empty lines, in order. Error Unwritable, or Unencodable with the
-/// characters that code page 949 can't keep; the old file stands then.
+/// Replaces the file by the non-empty lines, in order. Error Unwritable, or, where `loss` refuses
+/// that, Unencodable with the characters that code page 949 can't keep; the old file stands then.
 platform::Done WriteAutoexecConf(
-    const shell::Places& places, const QString& folder, const QStringList& commands);
+    const shell::Places& places,
+    const QString& folder,
+    const QStringList& commands,
+    platform::Loss loss = platform::Loss::Refuse);
 
 /// Fills lstAutoexec and selects its first row, if there is any.
 void FillStartCommands(StartCommands& start, const QStringList& commands);

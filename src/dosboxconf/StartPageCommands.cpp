@@ -5,8 +5,10 @@
 #include "library/CatalogueCommands.h"
 #include "platform/Paths.h"
 #include "platform/Prompts.h"
+#include "platform/TextFile.h"
 #include "shell/JobCommands.h"
 #include "shell/Launcher.h"
+#include "shell/LossCommands.h"
 
 namespace pelorin::dosboxconf {
 
@@ -47,8 +49,13 @@ void WriteAutoexecConf(Launcher& launcher)
     if (!HasGame(launcher)) {
         return;
     }
-    const platform::Done written = WriteAutoexecConf(
-        launcher.places, launcher.current.CurrentFolder, launcher.screens.start.lstAutoexec);
+    const QString folder = launcher.current.CurrentFolder;
+    const QStringList commands = launcher.screens.start.lstAutoexec;
+    if (!shell::MayLose(launcher, platform::EncodeCp949(commands.join(QString())).lost)) {
+        return;
+    }
+    const platform::Done written =
+        WriteAutoexecConf(launcher.places, folder, commands, platform::Loss::Accept);
     if (!written) {
         shell::TellNote(launcher, kCategory, written.Failure().text);
     }

@@ -2,7 +2,6 @@
 
 #include "library/private/NewFile.h"
 #include "platform/Numbers.h"
-#include "platform/TextFile.h"
 
 #include <QFile>
 
@@ -217,11 +216,7 @@ platform::Done WriteInfo(GameFiles& files, const InfoText& info, Loss loss)
         return made;
     }
     const QString name = u"info.txt"_s;
-    const QString path = files.MetaPath(name);
-    const QString text = InfoFileText(info);
-    platform::Done written = loss == Loss::Refuse
-                                 ? platform::WriteText(path, text)
-                                 : platform::WriteBytes(path, platform::EncodeCp949(text).bytes);
+    platform::Done written = platform::WriteText(files.MetaPath(name), InfoFileText(info), loss);
     if (written && !files.HasMetaFile(name)) {
         files.NoteMetaFile(name);
     }

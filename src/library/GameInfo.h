@@ -2,6 +2,7 @@
 
 #include "library/GameFiles.h"
 #include "platform/Outcome.h"
+#include "platform/TextFile.h"
 
 #include <QString>
 
@@ -44,7 +45,7 @@ enum class GenreForm { Scan, Panel };
 
 enum class GenreFile { Korean, English };
 
-enum class Loss { Refuse, Accept };
+using platform::Loss;
 
 /// U+0001 to U+0003 separate the fields of the catalogue's file and line ends its lines, so no
 /// field may hold one: they are dropped.

@@ -9,6 +9,7 @@
 #include "running/RunCommands.h"
 #include "shell/JobCommands.h"
 #include "shell/Launcher.h"
+#include "shell/LossCommands.h"
 
 #include <algorithm>
 
@@ -20,6 +21,8 @@ using shell::DetailsPanel;
 using shell::Launcher;
 
 namespace {
+
+constexpr auto kCategory = "pelorin.library";
 
 void ShowTexts(Launcher& launcher, const GameFiles& files)
 {
@@ -54,7 +57,7 @@ void ShowStartPage(Launcher& launcher, const GameFiles& files)
     const platform::Outcome<QStringList> commands =
         dosboxconf::ReadAutoexecConf(launcher.places, files.folder);
     if (!commands) {
-        shell::TellNote(launcher, "pelorin.library", commands.Failure().text);
+        shell::TellNote(launcher, kCategory, commands.Failure().text);
     }
     dosboxconf::FillStartCommands(start, commands.ValueOr({}));
     start.fileEXE = RunnableFiles(files);
@@ -85,6 +88,20 @@ void ShowinfoProcess(Launcher& launcher)
     ShowPath(launcher, files);
     ShowStartPage(launcher, files);
     ShowCaption(launcher);
+}
+
+void WriteGameInfo(Launcher& launcher)
+{
+    const QString folder = launcher.current.CurrentFolder;
+    const DetailsPanel& details = launcher.screens.details;
+    const InfoText info{{details.txtTitle[0], details.txtTitle[1]}, details.txtInfo};
+    if (!platform::IsPlainName(folder) || !shell::MayLose(launcher, LostInInfo(info))) {
+        return;
+    }
+    GameFiles files = ListGame(launcher.places, folder);
+    if (const platform::Done written = WriteInfo(files, info, Loss::Accept); !written) {
+        shell::TellNote(launcher, kCategory, written.Failure().text);
+    }
 }
 
 void LVGamelist_ItemClick(Launcher& launcher)

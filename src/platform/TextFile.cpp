@@ -172,22 +172,22 @@ Done WriteBytes(const QString& path, const QByteArray& bytes)
     return written ? file.Replace() : written;
 }
 
-Done WriteText(const QString& path, const QString& text)
+Done WriteText(const QString& path, const QString& text, Loss loss)
 {
     const Encoded encoded = EncodeCp949(text);
-    if (!encoded.lost.isEmpty()) {
+    if (loss == Loss::Refuse && !encoded.lost.isEmpty()) {
         return FileError(ErrorKind::Unencodable, path, encoded.lost);
     }
     return WriteBytes(path, encoded.bytes);
 }
 
-Done WriteLines(const QString& path, const QStringList& lines)
+Done WriteLines(const QString& path, const QStringList& lines, Loss loss)
 {
     QString text;
     for (const QString& line : lines) {
         text += line + u"\r\n"_s;
     }
-    return WriteText(path, text);
+    return WriteText(path, text, loss);
 }
 
 Error LineError(ErrorKind kind, const QString& path, qsizetype line, const QString& reason)

@@ -41,12 +41,17 @@ Outcome<QStringList> ReadFirstLines(const QString& path, int count);
 /// Error: Unwritable with the path and the reason.
 Done WriteBytes(const QString& path, const QByteArray& bytes);
 
-/// As WriteBytes. Error Unencodable, with the characters in the text and nothing written, when
-/// code page 949 can't keep the text.
-Done WriteText(const QString& path, const QString& text);
+/// What becomes of characters that code page 949 can't keep.
+enum class Loss {
+    Refuse, // nothing is written: Error Unencodable, with the characters in the text
+    Accept, // "?" stands for each
+};
+
+/// As WriteBytes.
+Done WriteText(const QString& path, const QString& text, Loss loss = Loss::Refuse);
 
 /// Each line followed by CR LF.
-Done WriteLines(const QString& path, const QStringList& lines);
+Done WriteLines(const QString& path, const QStringList& lines, Loss loss = Loss::Refuse);
 
 /// A fault in one line of a file, counted from 1: "path: line 3: reason".
 Error LineError(ErrorKind kind, const QString& path, qsizetype line, const QString& reason);

@@ -28,12 +28,6 @@ TEST(StartPage, EditsAndSavesTheCommandsOfTheGameOnHand)
     EXPECT_EQ(
         app.folder.ReadRaw(u"Games/하나/DosBox/autoexec.conf"_s), "game.com /x\r\nGAME.COM\r\n");
 
-    // What code page 949 can't keep leaves the file as it is and is told.
-    launcher->screens.start.lstAutoexec = {u"caf\u00e9"_s};
-    dosboxconf::WriteAutoexecConf(*launcher);
-    EXPECT_EQ(launcher->screens.status.notes.size(), 1U);
-    EXPECT_EQ(app.folder.ReadLines(u"Games/하나/DosBox/autoexec.conf"_s).size(), 2);
-
     Click(*launcher, u"둘"_s);
     EXPECT_EQ(launcher->screens.start.lstAutoexec, QStringList{u"game.com"_s});
 }

@@ -1,5 +1,6 @@
+#include "dosboxconf/StartPageCommands.h"
 #include "faults/FaultsFixture.h"
-#include "library/CatalogueCommands.h"
+#include "library/ShowinfoCommands.h"
 #include "platform/TextFile.h"
 #include "shell/LifecycleCommands.h"
 #include "support/DiskTroubles.h"
@@ -195,6 +196,51 @@ TEST(CodePageFaults, TitleOrFolderNameOutsideIt)
         EXPECT_FALSE(app.folder.ReadText(u"Gamelist.lst"_s).contains(u'\u0002'));
         EXPECT_EQ(app.folder.ReadRaw(u"IconList.bmp"_s).size(), 54 + 32 * 32 * 3);
         EXPECT_EQ(app.folder.ReadRaw(u"Games/utf-8/DosBox/info.txt"_s), utf8);
+    }
+}
+
+TEST(CodePageFaults, SavingNamesTheCharactersInABox)
+{
+    struct Row {
+        QString file;
+        void (*type)(shell::Launcher& launcher);
+        void (*save)(shell::Launcher& launcher);
+        QString saved;
+    };
+    const Row rows[] = {
+        {u"info.txt"_s,
+         [](auto& launcher) {
+             launcher.screens.details.txtTitle = {u"카페 ☕😀"_s, u"Café"_s};
+             launcher.screens.details.txtInfo = u"☕ 한 잔"_s;
+         },
+         library::WriteGameInfo,
+         u"카페 ??\u0003Caf?\r\n? 한 잔\r\n"_s},
+        {u"autoexec.conf"_s,
+         [](auto& launcher) {
+             launcher.screens.start.lstAutoexec = {u"echo ☕"_s, u"café 😀"_s};
+         },
+         dosboxconf::WriteAutoexecConf,
+         u"echo ?\r\ncaf? ?\r\n"_s},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.file.toStdString());
+        Installation app;
+        app.AddGame(u"별"_s);
+        const QString path = u"Games/별/DosBox/"_s + row.file;
+        app.folder.WriteRaw(path, "old");
+        const auto launcher = app.Start();
+        row.type(*launcher);
+        app.fakes.prompts.WillAnswer(platform::Answer::No);
+        row.save(*launcher);
+        ASSERT_EQ(app.fakes.prompts.Asked().size(), 1U);
+        for (const QString& lost : {u"☕"_s, u"😀"_s, u"é"_s}) {
+            EXPECT_EQ(app.fakes.prompts.Asked().front().text.count(lost), 1);
+        }
+        EXPECT_EQ(app.folder.ReadRaw(path), "old");
+        app.fakes.prompts.WillAnswer(platform::Answer::Yes);
+        row.save(*launcher);
+        EXPECT_EQ(app.folder.ReadText(path), row.saved);
+        EXPECT_EQ(Notes(*launcher), QString());
     }
 }
 

@@ -1,3 +1,4 @@
+#include "real/RealInstallation.h"
 #include "support/TestFolder.h"
 #include "support/XSession.h"
 #include "support/Xdotool.h"
@@ -13,30 +14,6 @@ namespace {
 
 constexpr int kStepMs = 10'000;
 const QString kGame = u"Games/별 헤는 밤 (Star) [1]"_s;
-
-/// The installation as the build stages it, in a folder that is hard on programs.
-void Stage(const TestFolder& folder, const XSession& session)
-{
-    constexpr int kStageMs = 60'000;
-    const ToolResult staged = RunTool(
-        u"cmake"_s,
-        {u"--install"_s, QStringLiteral(PELORIN_BUILD_DIR), u"--prefix"_s, folder.Path()},
-        session.Environment(),
-        kStageMs);
-    ASSERT_EQ(staged.exitCode, 0) << staged.errors.toStdString();
-}
-
-/// What the system gives a program on a desktop and nothing that we made up for it.
-QProcessEnvironment PlainEnvironment(const XSession& session)
-{
-    QProcessEnvironment plain;
-    for (const QString& name : session.Environment().keys()) {
-        if (!name.startsWith(u"QT_"_s)) {
-            plain.insert(name, session.Environment().value(name));
-        }
-    }
-    return plain;
-}
 
 } // namespace
 
@@ -81,24 +58,6 @@ TEST(StartGame, ByKeysAloneUpToTheFileThatTheGameWrites)
     EXPECT_EQ(app.ReadRaw(u"Gamelist.lst"_s).count('\n'), 1);
     EXPECT_EQ(app.ReadLines(u"Launcher.cfg"_s).size(), 14);
     EXPECT_TRUE(person.FindWindow(u"DOSBox 0\\.74"_s).has_value());
-}
-
-TEST(StartGame, EndsWithStatusOneWhenALanguageLineIsMissing)
-{
-    const XSession session;
-    ASSERT_TRUE(session.IsUp());
-    const TestFolder app;
-    Stage(app, session);
-    app.WriteLines(u"Language.dat"_s, {u"펠로린"_s});
-    RunProgram pelorin(app.Path(u"Pelorin"_s), {}, PlainEnvironment(session));
-    const Xdotool person(session);
-    const auto box = person.WaitForWindow(u"^Pelorin$"_s, kStepMs);
-    ASSERT_TRUE(box.has_value()) << pelorin.Output().toStdString();
-    ASSERT_TRUE(person.Activate(*box, kStepMs));
-    person.Key(u"Return"_s);
-    ASSERT_TRUE(pelorin.WaitForEnd(kStepMs));
-    EXPECT_EQ(pelorin.ExitCode(), 1);
-    EXPECT_TRUE(pelorin.Output().contains("Language.dat: line 2"));
 }
 
 TEST(StartGame, AnUnknownCommandLineOpensNothing)

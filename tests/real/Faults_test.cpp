@@ -1,0 +1,98 @@
+#include "real/RealInstallation.h"
+#include "support/TestFolder.h"
+#include "support/XSession.h"
+#include "support/Xdotool.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace pelorin::test;
+
+namespace {
+
+constexpr int kStepMs = 10'000;
+const QString kMainWindow = u"펠로린 Ver\\."_s;
+
+TEST(Faults, WhatCantBeReadAtTheStartGivesABoxStandardErrorAndStatusOne)
+{
+    struct Row {
+        QString file;
+        void (*spoil)(const QString& path);
+        QByteArray told; // behind the path
+    };
+    const Row rows[] = {
+        {u"Language.dat"_s, [](const QString& path) { QFile::remove(path); }, ": line 1: "},
+        {u"Language.dat"_s, [](const QString& path) { QFile::resize(path, 8); }, ": line 2: "},
+        {u"option.dat"_s, [](const QString& path) { QFile::resize(path, 40); }, ": line 3: "},
+        {u"recent.sav"_s, [](const QString& path) { QDir().mkpath(path); }, ": "},
+    };
+    const XSession session;
+    ASSERT_TRUE(session.IsUp());
+    const Xdotool person(session);
+    for (const Row& row : rows) {
+        SCOPED_TRACE((row.file + QString::fromLatin1(row.told)).toStdString());
+        const TestFolder app;
+        Stage(app, session);
+        row.spoil(app.Path(row.file));
+        const QStringList before = app.Tree();
+        RunProgram pelorin(app.Path(u"Pelorin"_s), {}, PlainEnvironment(session));
+        const auto box = person.WaitForWindow(u"^Pelorin$"_s, kStepMs);
+        ASSERT_TRUE(box.has_value()) << pelorin.Output().toStdString();
+        ASSERT_TRUE(person.Activate(*box, kStepMs));
+        EXPECT_FALSE(person.FindWindow(kMainWindow));
+        person.Key(u"Return"_s);
+        ASSERT_TRUE(pelorin.WaitForEnd(kStepMs));
+        EXPECT_EQ(pelorin.ExitCode(), 1);
+        EXPECT_TRUE(pelorin.Output().contains(app.Path(row.file).toUtf8() + row.told))
+            << pelorin.Output().toStdString();
+        EXPECT_EQ(app.Tree(), before);
+    }
+}
+
+TEST(Faults, ReadOnlyAppDirStartsAndAsksAtExit)
+{
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "mounting needs root";
+    }
+    const XSession session;
+    ASSERT_TRUE(session.IsUp());
+    const TestFolder app;
+    const TestFolder place;
+    Stage(app, session);
+    // The disk is seen by the program alone, which takes the place of the shell.
+    const QString script = u"mount -t tmpfs -o size=256m none \"$2\" && cp -r \"$1/.\" \"$2\" && "
+                           "mount -o remount,ro \"$2\" && exec \"$2/Pelorin\""_s;
+    RunProgram pelorin(
+        u"unshare"_s,
+        {u"--mount"_s, u"sh"_s, u"-c"_s, script, u"sh"_s, app.Path(), place.Path()},
+        PlainEnvironment(session));
+    const Xdotool person(session);
+    const auto window = person.WaitForWindow(kMainWindow, kStepMs);
+    ASSERT_TRUE(window.has_value()) << pelorin.Output().toStdString();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return pelorin.Output().contains("/Default.conf: Read-only file system"); }, kStepMs))
+        << pelorin.Output().toStdString();
+
+    const QString box = u"^펠로린$"_s;
+    const auto answer = [&](const QString& key) {
+        person.Close(*window);
+        const auto question = person.WaitForWindow(box, kStepMs);
+        ASSERT_TRUE(question.has_value()) << pelorin.Output().toStdString();
+        ASSERT_TRUE(person.Activate(*question, kStepMs));
+        person.Key(key);
+    };
+    answer(u"Escape"_s);
+    ASSERT_TRUE(person.WaitUntilGone(box, kStepMs));
+    EXPECT_TRUE(pelorin.IsRunning());
+    EXPECT_TRUE(person.FindWindow(kMainWindow)) << "the window stays";
+    answer(u"Return"_s);
+    ASSERT_TRUE(pelorin.WaitForEnd(kStepMs));
+    EXPECT_EQ(pelorin.ExitCode(), 0) << pelorin.Output().toStdString();
+}
+
+} // namespace
