@@ -27,7 +27,7 @@ exit
 
 
 def check_pictures(folder):
-    """Each picture has colours of its own, of six bits a part, and leaves those of the text alone."""
+    """Each picture has colours of its own, six bits a part, and leaves those of the text alone."""
     held = (folder / "PICTURES.DAT").read_bytes()
     assert len(held) == PICTURES * PICTURE_BYTES, len(held)
     palettes = set()

@@ -1,6 +1,6 @@
-"""What the pictures are made with: noise, mixing of colours, and a canvas that is saved in 256 colours.
+"""What the pictures are made with: noise, mixing of colours, a canvas that is saved in 256 colours.
 
-Colours are triples of red, green and blue from 0 to 1; places are pixels from the upper left corner.
+Colours are red, green and blue from 0 to 1; places are pixels from the upper left corner.
 """
 
 import math
@@ -66,10 +66,12 @@ class Noise:
         x *= x * (3 - 2 * x)
         y *= y * (3 - 2 * y)
         order, values = self.order, self.values
-        left, right = order[column & 255] + (row & 255), order[(column + 1) & 255] + (row & 255)
-        above = values[order[left]] + (values[order[right]] - values[order[left]]) * x
-        left, right = order[column & 255] + (row + 1 & 255), order[column + 1 & 255] + (row + 1 & 255)
-        below = values[order[left]] + (values[order[right]] - values[order[left]]) * x
+        left, right = order[column & 255], order[(column + 1) & 255]
+        here, next_row = row & 255, (row + 1) & 255
+        begin, end = values[order[left + here]], values[order[right + here]]
+        above = begin + (end - begin) * x
+        begin, end = values[order[left + next_row]], values[order[right + next_row]]
+        below = begin + (end - begin) * x
         return above + (below - above) * y
 
     def cloud(self, x, y=0.0, octaves=4):
@@ -141,8 +143,8 @@ class Canvas:
 
 
 def choose_palette(counts):
-    """COLOURS colours for the counted ones: the box of colours that is widest and fullest is split in
-    the middle until there are enough; black is always among them, as the first."""
+    """At most COLOURS colours for the counted ones, black the first of them: the widest and fullest
+    box of colours is split in its middle until there are enough."""
     boxes = [Box(list(counts.items()))]
     while len(boxes) < COLOURS - 1:
         widest = max(boxes, key=lambda box: box.weight)

@@ -113,10 +113,11 @@ def ink_mountains():
     ]
 
     def shader(x, y):
-        grain = (noise.at(x * 0.9, y * 0.9) - 0.5) * 0.05 + (noise.cloud(x / 60, y / 60) - 0.5) * 0.09
+        grain = (noise.at(x * 0.9, y * 0.9) - 0.5) * 0.05
+        grain += (noise.cloud(x / 60, y / 60) - 0.5) * 0.09
         colour = add(mix(web("f4ecd6"), web("e2d4b4"), y / HEIGHT), (1, 1, 0.9), grain)
-        far = math.hypot(x - 238, y - 44)
-        colour = mix(web("c8382c"), colour, step(16.5, 18.5, far + 3 * noise.cloud(x / 5, y / 5) - 1.5))
+        far = math.hypot(x - 238, y - 44) + 3 * noise.cloud(x / 5, y / 5)
+        colour = mix(web("c8382c"), colour, step(18, 20, far))
         for number, (top, height, stretch, tone) in enumerate(ridges):
             edge = top + 24 - height * noise.cloud(x / stretch + number * 31, 8.5, 6) * 1.25
             if y > edge:
@@ -128,7 +129,8 @@ def ink_mountains():
 
     canvas = Canvas(shader)
     ink = web("14191d")
-    for x, bottom, height in ((24, 190, 40), (40, 194, 30), (58, 197, 23), (300, 196, 26), (284, 199, 18)):
+    firs = [(24, 190, 40), (40, 194, 30), (58, 197, 23), (300, 196, 26), (284, 199, 18)]
+    for x, bottom, height in firs:
         canvas.pine(x, bottom, height, ink)
     for x, y, size in ((150, 50, 5), (166, 44, 4), (178, 53, 4), (140, 60, 3)):
         for part in range(-size, size + 1):
@@ -164,8 +166,9 @@ def northern_light():
     canvas = Canvas(shader)
     canvas.stars(8, 260, 140)
     dark = web("04101a")
-    firs = [(9, 30), (22, 44), (34, 26), (47, 52), (62, 34), (250, 30), (266, 48), (281, 62), (297, 40)]
-    for x, height in firs + [(311, 56), (78, 22), (236, 20), (124, 12), (131, 16), (139, 11)]:
+    left = [(9, 30), (22, 44), (34, 26), (47, 52), (62, 34), (78, 22)]
+    right = [(236, 20), (250, 30), (266, 48), (281, 62), (297, 40), (311, 56)]
+    for x, height in left + [(124, 12), (131, 16), (139, 11)] + right:
         canvas.pine(x, 168 + height // 4, height, dark)
     return canvas
 
