@@ -200,7 +200,7 @@ Done CompareTrees(const QByteArray& from, const QByteArray& to)
         DoNothing);
 }
 
-/// On the disk, not only on its way there: the source is deleted next.
+/// What lies in the folder is on the disk, not only on its way there: the source is deleted next.
 Done Settle(const QByteArray& path)
 {
     const Descriptor place(open(path.constData(), O_RDONLY | O_CLOEXEC | O_DIRECTORY));
@@ -248,6 +248,10 @@ Done MoveByCopy(const QByteArray& from, const QByteArray& to, const KeepGoing& k
                                         : CopyThing(from, to, status, keepGoing);
     if (done && !S_ISDIR(status.st_mode)) {
         done = CompareTrees(from, to);
+    }
+    if (done) {
+        // A folder's new name too, or a power cut could leave it under the hidden one.
+        done = Settle(ParentOf(to));
     }
     if (!done) {
         return done;
