@@ -111,9 +111,6 @@ constexpr ControlText kTexts[] = {
     {u"lblTools", Kind::Caption, Entry(325)},
 };
 
-/// Key help: entries 86 to 101 tell key and meaning by turns, 230 and 248 are the ninth pair.
-constexpr int kKeyPairs = 9;
-constexpr int kTools = 14;
 constexpr int kFirstToolEntry = 326;
 
 void Give(QWidget& widget, Kind kind, const QString& text)

@@ -6,7 +6,6 @@ namespace pelorin::shell {
 
 namespace {
 
-constexpr double kUnitsPerPixel = 15;
 constexpr double kRoomUnderTabs = 135; // form units between the tabs' page and the status bar
 
 } // namespace

@@ -2,6 +2,9 @@
 
 namespace pelorin::shell {
 
+/// Stored geometry is in form units, 15 to a pixel whatever the screen's real ratio is.
+inline constexpr double kUnitsPerPixel = 15;
+
 /// What the smallest main window is made of, in form units.
 struct FrameParts {
     double cmdVespraLeft = 0;
@@ -21,7 +24,7 @@ struct PixelSize {
     int height = 0;
 };
 
-/// The smallest outer size of the main window. A pixel is 15 form units whatever the screen is.
+/// The smallest outer size of the main window.
 PixelSize MinimumSize(const FrameParts& parts);
 
 } // namespace pelorin::shell

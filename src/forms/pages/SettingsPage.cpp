@@ -1,6 +1,7 @@
 #include "forms/pages/SettingsPage.h"
 
 #include "forms/Metrics.h"
+#include "forms/Texts.h"
 #include "shell/LauncherCfg.h"
 
 #include <QGridLayout>
@@ -10,12 +11,6 @@
 using namespace Qt::StringLiterals;
 
 namespace pelorin::forms {
-
-namespace {
-
-constexpr int kKeyPairs = 9;
-
-} // namespace
 
 SettingsPage::SettingsPage(const Shown& shown, const Deeds& deeds, QWidget* parent)
     : Page(parent)

@@ -1,6 +1,7 @@
 #include "forms/pages/ToolsPage.h"
 
 #include "forms/Metrics.h"
+#include "forms/Texts.h"
 
 #include <QGridLayout>
 
@@ -10,7 +11,6 @@ namespace pelorin::forms {
 
 namespace {
 
-constexpr int kTools = 14;
 constexpr int kToolColumns = 2;
 
 } // namespace
