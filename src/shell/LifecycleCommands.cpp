@@ -16,6 +16,7 @@
 #include "shell/SettingsCommands.h"
 #include "shell/WindowTitle.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -34,10 +35,11 @@ void ClearObsoleteFolder(Launcher& launcher)
     if (!archives::FolderExists(path) || QFileInfo(path).isSymLink()) {
         return;
     }
-    const bool empty = platform::ListFolder(path).all.isEmpty();
-    const platform::Done gone =
-        empty ? archives::DeleteFolder(path) : launcher.ports.bin.MoveToBin(path);
-    if (!gone) {
+    // The system alone knows for sure that nothing is in it.
+    if (QDir().rmdir(path)) {
+        return;
+    }
+    if (const platform::Done gone = launcher.ports.bin.MoveToBin(path); !gone) {
         TellNote(launcher, kCategory, gone.Failure().text);
     }
 }

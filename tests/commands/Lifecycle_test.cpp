@@ -200,6 +200,16 @@ TEST(Lifecycle, ObsoleteEmulatorFolderGoesToTheBin)
     EXPECT_FALSE(app.folder.Exists(u"Emulator/np21"_s));
     EXPECT_EQ(app.fakes.bin.Moved().size(), 1);
 
+    // A link that leads nowhere now is something, too; nothing at all needs no bin.
+    app.folder.MakeFolder(u"Emulator/NP21"_s);
+    app.folder.MakeLink(u"Emulator/NP21/disk"_s, u"/unplugged"_s);
+    app.Start();
+    EXPECT_EQ(app.fakes.bin.Moved().size(), 2);
+    app.folder.MakeFolder(u"Emulator/NP21"_s);
+    app.Start();
+    EXPECT_FALSE(app.folder.Exists(u"Emulator/NP21"_s));
+    EXPECT_EQ(app.fakes.bin.Moved().size(), 2);
+
     app.folder.MakeTree({u"Elsewhere/precious"_s});
     app.folder.MakeLink(u"Emulator/NP21"_s, app.folder.Path(u"Elsewhere"_s));
     app.Start();
