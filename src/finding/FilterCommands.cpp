@@ -2,6 +2,7 @@
 
 #include "finding/BuildGameList.h"
 #include "platform/Timers.h"
+#include "shell/JobCommands.h"
 #include "shell/Launcher.h"
 
 #include <QLocale>
@@ -47,14 +48,18 @@ void RefreshGameList(Launcher& launcher)
     GameList& list = launcher.screens.list;
     const ListOutcome outcome =
         BuildGameList(list, OrderOf(launcher), source, WholeIndex(launcher.catalogue));
-    if (outcome == ListOutcome::NoFilterHit) {
-        return;
-    }
-    if (outcome == ListOutcome::NoItem) {
+    switch (outcome) {
+    case ListOutcome::NoFilterHit: break;
+    case ListOutcome::NoItem:
         launcher.screens.frame.caption = launcher.WindowTitle;
         launcher.screens.frame.changed.Tell(shell::MainFrame::Caption);
+        ShowCount(launcher);
+        break;
+    case ListOutcome::Items:
+        shell::SetPanelsEnabled(launcher, true);
+        ShowCount(launcher);
+        break;
     }
-    ShowCount(launcher);
     if (list.visible) {
         list.changed.Tell(GameList::Focus);
     } else if (!list.items.empty()) {

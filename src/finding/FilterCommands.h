@@ -9,7 +9,8 @@ struct Launcher;
 namespace pelorin::finding {
 
 /// Rebuilds the list out of the Catalogue and gives it the keyboard with its first row selected;
-/// the search box gets it while the list is hidden. Everybody calls this one.
+/// the search box gets it while the list is hidden. With a row the panels can be used, at the end of
+/// the job if one stands. Everybody calls this one.
 void RefreshGameList(shell::Launcher& launcher);
 
 /// optViewmode: shows the list in that view; a notice over it goes.

@@ -85,20 +85,34 @@ void TellWithoutCache(Launcher& launcher, const QStringList& folders)
     shell::TellNote(launcher, kCategory, text, folders.join(u'\n'));
 }
 
-/// The list in view of large icons is slow to fill: it is filled as a plain list.
-void FillTreeAndList(Launcher& launcher)
+void FillTree(Launcher& launcher)
 {
     finding::RefillValueNodes(launcher.screens.tree, launcher.catalogue);
+}
+
+void FillList(Launcher& launcher)
+{
     launcher.screens.list.changed.Tell(finding::GameList::Icons);
     finding::RefreshGameList(launcher);
 }
 
-/// The scan itself, as a part of the caller's job. False: GamesRoot holds no game.
-bool FillByScan(Launcher& launcher, shell::Job& job)
+ScanResult ScanUnderProgress(Launcher& launcher)
 {
     ShownProgress progress(launcher);
-    const ReadingRules rules = RulesOf(launcher);
-    ScanResult scan = ScanCatalogue(launcher.places, rules, launcher.defaultIcon, progress);
+    return ScanCatalogue(launcher.places, RulesOf(launcher), launcher.defaultIcon, progress);
+}
+
+Outcome<CachedCatalogue> ReadCacheUnderProgress(Launcher& launcher)
+{
+    ShownProgress progress(launcher);
+    return ReadCatalogueCache(launcher.places, progress);
+}
+
+/// The scan itself, as a part of the caller's job. The list passes the marks that the tree had.
+/// False: GamesRoot holds no game.
+bool FillByScan(Launcher& launcher)
+{
+    ScanResult scan = ScanUnderProgress(launcher);
     if (scan.abandoned) {
         return true;
     }
@@ -108,8 +122,9 @@ bool FillByScan(Launcher& launcher, shell::Job& job)
     TellTroubles(launcher, scan.troubles);
     TellLeftOut(launcher, scan);
     TellWithoutCache(launcher, GamesWithoutCache(launcher.catalogue));
-    FillTreeAndList(launcher);
-    job.SetPanelsEnabledAtEnd(!launcher.catalogue.empty());
+    FillList(launcher);
+    FillTree(launcher);
+    shell::SetPanelsEnabled(launcher, !launcher.catalogue.empty());
     return !launcher.catalogue.empty();
 }
 
@@ -135,13 +150,12 @@ void AddGamesWithoutCache(Launcher& launcher)
 }
 
 /// False: the cache is missing or damaged, nothing has changed.
-bool FillByCache(Launcher& launcher, shell::Job& job)
+bool FillByCache(Launcher& launcher)
 {
     if (!HasCatalogueCache(launcher.places)) {
         return false;
     }
-    ShownProgress progress(launcher);
-    Outcome<CachedCatalogue> cached = ReadCatalogueCache(launcher.places, progress);
+    Outcome<CachedCatalogue> cached = ReadCacheUnderProgress(launcher);
     if (!cached) {
         const QLoggingCategory room(kCategory);
         qCWarning(room).noquote() << cached.Failure().text;
@@ -150,8 +164,9 @@ bool FillByCache(Launcher& launcher, shell::Job& job)
     launcher.catalogue = std::move(cached.Value().catalogue);
     launcher.icons = std::move(cached.Value().icons);
     AddGamesWithoutCache(launcher);
-    FillTreeAndList(launcher);
-    job.SetPanelsEnabledAtEnd(true);
+    FillTree(launcher);
+    FillList(launcher);
+    shell::SetPanelsEnabled(launcher, true);
     return true;
 }
 
@@ -202,8 +217,8 @@ void ReadGameList(Launcher& launcher)
     bool hasGames = true;
     {
         const platform::RedrawLock lock(launcher.screens.gate);
-        shell::Job job(launcher);
-        hasGames = FillByCache(launcher, job) || FillByScan(launcher, job);
+        const shell::Job job(launcher);
+        hasGames = FillByCache(launcher) || FillByScan(launcher);
     }
     if (!hasGames) {
         TellEmptyLibrary(launcher);
@@ -215,11 +230,11 @@ void ScanGames(Launcher& launcher)
     bool hasGames = true;
     {
         const platform::RedrawLock lock(launcher.screens.gate);
-        shell::Job job(launcher);
+        const shell::Job job(launcher);
         if (!job.Held()) {
             return;
         }
-        hasGames = FillByScan(launcher, job);
+        hasGames = FillByScan(launcher);
     }
     if (!hasGames) {
         TellEmptyLibrary(launcher);

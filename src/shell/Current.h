@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 namespace pelorin::shell {
 
 /// The selected game, which almost all commands work on.
@@ -14,12 +16,13 @@ struct Current {
 
 /// The flags that guard against re-entry, as the whole program shares them.
 struct Flags {
-    bool BusyReady = false;         // true: no long job runs and the window may close
-    bool ListRefreshReady = false;  // true: the list's selection events are acted on
-    bool ConfigListFocused = false; // lstConfig has the focus
-    bool CloseBlocked = false;      // refuses closing; nothing sets it
-    bool Ending = false;            // the window is closing: waits come back abandoned
-    bool JobHeld = false;           // a Job stands; only Job writes it
+    bool BusyReady = false;             // true: no long job runs and the window may close
+    bool ListRefreshReady = false;      // true: the list's selection events are acted on
+    bool ConfigListFocused = false;     // lstConfig has the focus
+    bool CloseBlocked = false;          // refuses closing; nothing sets it
+    bool Ending = false;                // the window is closing: waits come back abandoned
+    bool JobHeld = false;               // a Job stands; only Job writes it
+    std::optional<bool> PanelsAfterJob; // whether the panels can be used then; unset: as before it
 };
 
 } // namespace pelorin::shell

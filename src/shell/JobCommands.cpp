@@ -5,6 +5,8 @@
 
 #include <QLoggingCategory>
 
+#include <utility>
+
 namespace pelorin::shell {
 
 namespace {
@@ -53,15 +55,19 @@ Job::~Job()
     if (!m_held) {
         return;
     }
-    SetPanels(
-        m_launcher, m_panelsAtEnd.value_or(m_foundPanel0), m_panelsAtEnd.value_or(m_foundPanel1));
+    const std::optional<bool> wanted = std::exchange(m_launcher.flags.PanelsAfterJob, {});
+    SetPanels(m_launcher, wanted.value_or(m_foundPanel0), wanted.value_or(m_foundPanel1));
     m_launcher.flags.JobHeld = false;
     m_launcher.flags.BusyReady = true;
 }
 
 void SetPanelsEnabled(Launcher& launcher, bool enabled)
 {
-    SetPanels(launcher, enabled, enabled);
+    if (launcher.flags.JobHeld) {
+        launcher.flags.PanelsAfterJob = enabled;
+    } else {
+        SetPanels(launcher, enabled, enabled);
+    }
 }
 
 void ShowBusyMessage(Launcher& launcher, const QString& text)

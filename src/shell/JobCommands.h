@@ -2,14 +2,13 @@
 
 #include <QString>
 
-#include <optional>
-
 namespace pelorin::shell {
 
 struct Launcher;
 
 /// A long job: while it stands the window refuses to close and both side panels are disabled.
-/// Its end puts the panels back as it found them. Only jobs write BusyReady and the panels' state.
+/// Its end puts the panels back as it found them, or as SetPanelsEnabled has asked for meanwhile.
+/// Only jobs write BusyReady.
 class Job {
 public:
     /// Held() is false when another job stands already; the command then returns at once.
@@ -19,18 +18,15 @@ public:
     Job& operator=(const Job&) = delete;
 
     bool Held() const { return m_held; }
-    /// What the panels are to be at the end, in place of what was found.
-    void SetPanelsEnabledAtEnd(bool enabled) { m_panelsAtEnd = enabled; }
 
 private:
     Launcher& m_launcher;
     bool m_held = false;
     bool m_foundPanel0 = true;
     bool m_foundPanel1 = true;
-    std::optional<bool> m_panelsAtEnd;
 };
 
-/// Sets whether both side panels can be used.
+/// Sets whether both side panels can be used; during a job, whether they can at its end.
 void SetPanelsEnabled(Launcher& launcher, bool enabled);
 
 /// The notice over the list; its text blinks until HideBusyMessage.

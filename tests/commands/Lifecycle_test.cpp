@@ -1,3 +1,5 @@
+#include "finding/FilterCommands.h"
+#include "finding/TreeNodes.h"
 #include "library/CatalogueCommands.h"
 #include "shell/JobCommands.h"
 #include "shell/LifecycleCommands.h"
@@ -120,6 +122,35 @@ TEST(Lifecycle, ChangedRootsAreScannedAtTheNextStart)
     EXPECT_EQ(next->catalogue.front().Folder, u"셋"_s);
 }
 
+TEST(Lifecycle, ProgressIsOverWhenTheListIsFilledAndTheTreeFollowsItInAScan)
+{
+    Installation app;
+    app.AddGame(u"하나"_s);
+    app.folder.WriteText(u"Games/하나/DosBox/GenreK.dat"_s, u"퍼즐"_s);
+    struct Sight {
+        bool progress = true;
+        bool newGenre = false;
+    } atCount;
+    shell::Launcher* seen = nullptr;
+    const auto look = [&] {
+        const QStringList genres = finding::ChildTexts(seen->screens.tree, u"genrek"_s);
+        atCount = {seen->screens.progress.visible, genres.contains(u"퍼즐"_s)};
+    };
+    const auto launcher = app.NewLauncher();
+    seen = launcher.get();
+    app.fakes.timers.onPendingEvents = look; // the last time for the count of the list
+    ASSERT_TRUE(shell::Form_Load(*launcher));
+    EXPECT_FALSE(atCount.progress);
+    EXPECT_FALSE(atCount.newGenre);
+    ASSERT_TRUE(shell::Form_Unload(*launcher));
+
+    const auto cached = app.NewLauncher();
+    seen = cached.get();
+    ASSERT_TRUE(shell::Form_Load(*cached));
+    EXPECT_FALSE(atCount.progress);
+    EXPECT_TRUE(atCount.newGenre);
+}
+
 TEST(Lifecycle, EmptyLibraryIsToldOnceAndDisablesThePanels)
 {
     Installation app;
@@ -215,6 +246,30 @@ TEST(Lifecycle, ObsoleteEmulatorFolderGoesToTheBin)
     app.Start();
     EXPECT_TRUE(app.folder.Exists(u"Elsewhere/precious"_s));
     EXPECT_TRUE(app.folder.Exists(u"Emulator/NP21"_s));
+}
+
+TEST(GameList, RowsMakeThePanelsUsableAtOnceOrAtTheEndOfTheJob)
+{
+    Installation app;
+    const auto launcher = app.Start();
+    const shell::MainFrame& frame = launcher->screens.frame;
+    finding::RefreshGameList(*launcher);
+    EXPECT_FALSE(frame.picBack0Enabled);
+    launcher->catalogue.emplace_back();
+    launcher->catalogue.back().Folder = u"새"_s;
+    {
+        const shell::Job job(*launcher);
+        finding::RefreshGameList(*launcher);
+        EXPECT_FALSE(frame.picBack0Enabled);
+    }
+    EXPECT_TRUE(frame.picBack0Enabled && frame.picBack1Enabled);
+    shell::SetPanelsEnabled(*launcher, false);
+    {
+        const shell::Job job(*launcher); // nothing of the former one's is left
+    }
+    EXPECT_FALSE(frame.picBack0Enabled);
+    finding::RefreshGameList(*launcher);
+    EXPECT_TRUE(frame.picBack0Enabled && frame.picBack1Enabled);
 }
 
 TEST(Notice, BlinksBlackRedBlueWhileItStands)
