@@ -74,6 +74,9 @@ void Wire(forms::Deeds& deeds, shell::Launcher& launcher)
 {
     deeds.LVGamelist_ItemClick = [&] { library::LVGamelist_ItemClick(launcher); };
     deeds.LVGamelist_SelectionMoved = [&] { library::LVGamelist_SelectionMoved(launcher); };
+    deeds.LVGamelist_ColumnClick = [&](int column) {
+        finding::LVGamelist_ColumnClick(launcher, column);
+    };
     deeds.LVGamelist_DblClick = [&] { library::LVGamelist_DblClick(launcher); };
     deeds.cmdRun_Click = [&] { running::RunGame(launcher); };
     deeds.mnuRun = [&] { return running::RunMenu(launcher); };

@@ -67,6 +67,22 @@ void RefreshGameList(Launcher& launcher)
     }
 }
 
+void LVGamelist_ColumnClick(Launcher& launcher, int column)
+{
+    if (column < 0 || column >= kColumns) {
+        return;
+    }
+    GameList& list = launcher.screens.list;
+    const QString selected =
+        list.selected < 0 ? QString() : list.items[static_cast<std::size_t>(list.selected)].folder;
+    const platform::RedrawLock lock(launcher.screens.gate);
+    list.sort = ListSort{column, column == list.sort.column && !list.sort.descending};
+    RefreshGameList(launcher);
+    if (const int row = list.RowOf(selected); row >= 0) {
+        list.Select(row);
+    }
+}
+
 void SetView(Launcher& launcher, View view)
 {
     const platform::RedrawLock lock(launcher.screens.gate);

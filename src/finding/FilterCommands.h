@@ -13,6 +13,10 @@ namespace pelorin::finding {
 /// the job if one stands. Everybody calls this one.
 void RefreshGameList(shell::Launcher& launcher);
 
+/// A click on a column's header: sorts by it, upwards, or downwards if it was sorted by it upwards.
+/// The selected game stays selected.
+void LVGamelist_ColumnClick(shell::Launcher& launcher, int column);
+
 /// optViewmode: shows the list in that view; a notice over it goes.
 void SetView(shell::Launcher& launcher, View view);
 

@@ -248,6 +248,36 @@ TEST(Lifecycle, ObsoleteEmulatorFolderGoesToTheBin)
     EXPECT_TRUE(app.folder.Exists(u"Emulator/NP21"_s));
 }
 
+TEST(GameList, AHeaderClickSortsAndASecondOneReverses)
+{
+    Installation app;
+    for (const QString& game : {u"가"_s, u"나"_s, u"다"_s}) {
+        app.AddGame(game);
+    }
+    for (const auto& [game, maker] : {std::pair(u"가"_s, u"N"_s), std::pair(u"나"_s, u"A"_s)}) {
+        app.folder.WriteText(u"Games/%1/DosBox/ExtraInfo.txt"_s.arg(game), maker);
+    }
+    const auto launcher = app.Start();
+    finding::GameList& list = launcher->screens.list;
+    test::Click(*launcher, u"나"_s);
+    const auto clicked = [&](int column) {
+        finding::LVGamelist_ColumnClick(*launcher, column);
+        QString order;
+        for (const finding::GameItem& item : list.items) {
+            order += item.folder;
+        }
+        EXPECT_EQ(list.items.at(static_cast<std::size_t>(list.selected)).folder, u"나"_s);
+        return order;
+    };
+    constexpr int kMaker = 4;
+    EXPECT_EQ(clicked(kMaker), u"다나가"_s); // empty, A, N
+    EXPECT_EQ(clicked(kMaker), u"가나다"_s);
+    EXPECT_EQ(clicked(0), u"가나다"_s);
+    EXPECT_EQ(clicked(0), u"다나가"_s);
+    EXPECT_EQ(clicked(finding::kColumns), u"다나가"_s);
+    EXPECT_EQ(launcher->current.CurrentFolder, u"나"_s);
+}
+
 TEST(GameList, RowsMakeThePanelsUsableAtOnceOrAtTheEndOfTheJob)
 {
     Installation app;
