@@ -218,7 +218,8 @@ void ReadGameList(Launcher& launcher)
     {
         const platform::RedrawLock lock(launcher.screens.gate);
         const shell::Job job(launcher);
-        hasGames = FillByCache(launcher) || FillByScan(launcher);
+        const bool isStale = launcher.settings.rootsChanged;
+        hasGames = (!isStale && FillByCache(launcher)) || FillByScan(launcher);
     }
     if (!hasGames) {
         TellEmptyLibrary(launcher);

@@ -12,7 +12,7 @@ struct Launcher;
 namespace pelorin::library {
 
 /// Fills Catalogue, icons, tree and list out of the cache files, or by a scan when one is missing
-/// or damaged. At the start of the program.
+/// or damaged or belongs to another root. At the start of the program.
 void ReadGameList(shell::Launcher& launcher);
 
 /// Reads all game folders anew. An empty library loses its cache files and is told so in a box.

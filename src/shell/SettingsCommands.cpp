@@ -44,6 +44,7 @@ platform::Done LoadSettings(Launcher& launcher)
     launcher.titleOrder.reset();
     launcher.screens.frame.caption = launcher.WindowTitle;
     launcher.screens.frame.changed.Tell(MainFrame::Caption | MainFrame::TitlePicture);
+    launcher.settings.rootsChanged = settings.gamesRootReplaced;
     launcher.settings.owesOldCfg = !settings.oldCfgKept && !(settings.replacementReason.isEmpty() &&
                                                              settings.lostRoots.isEmpty());
     for (const QString& text : settings.unwritten) {

@@ -184,6 +184,7 @@ Outcome<LoadedSettings> ReadOnce(const Places& places, const Outcome<LauncherCfg
     QString& gamesRoot = loaded.cfg.gamesRoot;
     QString& exportRoot = loaded.cfg.exportRoot;
     gamesRoot = RepairedRoot(places, gamesRoot, games, loaded.lostRoots);
+    loaded.gamesRootReplaced = !loaded.lostRoots.isEmpty();
     exportRoot = RepairedRoot(places, exportRoot, exported, loaded.lostRoots);
     for (const QString& folder : {exportRoot, gamesRoot, places.InAppDir(u"preset"_s)}) {
         if (IsBlocked(folder)) {
@@ -230,6 +231,7 @@ Outcome<LoadedSettings> LoadSettingsFiles(const Places& places)
             return loaded;
         }
         loaded.Value().replacementReason = reason;
+        loaded.Value().gamesRootReplaced = true;
     }
     WriteAtStart(places, loaded.Value());
     return loaded;

@@ -19,7 +19,8 @@ struct LoadedSettings {
     QStringList lostRoots;     // as the file names them: not there now, so defaults stand in
     QString replacementReason; // why Launcher.cfg was replaced by the defaults; empty: it was not
     bool oldCfgKept = false;   // as Launcher.cfg.bak, because of one of these
-    QStringList unwritten;     // what could not be made or replaced, with the paths
+    bool gamesRootReplaced = false; // by the default, because of one of these
+    QStringList unwritten;          // what could not be made or replaced, with the paths
 };
 
 /// Reads both files below `places.appDir`; the roots in `places` are not looked at. A Launcher.cfg

@@ -122,6 +122,34 @@ TEST(Lifecycle, ChangedRootsAreScannedAtTheNextStart)
     EXPECT_EQ(next->catalogue.front().Folder, u"셋"_s);
 }
 
+TEST(Lifecycle, NoCacheIsReadUnderAnotherRootThanItsOwn)
+{
+    Installation app;
+    app.AddGame(u"집"_s);
+    app.folder.MakeTree({u"Disk/셋/GO.EXE"_s});
+    const auto away = app.Start();
+    away->places.gamesRoot = app.folder.Path(u"Disk"_s);
+    library::cmdRefresh_Click(*away);
+    ASSERT_TRUE(shell::Form_Unload(*away));
+    const QByteArray list = app.folder.ReadRaw(u"Gamelist.lst"_s);
+    ASSERT_TRUE(list.startsWith("\xbc\xc2\x01"));
+
+    const auto startsAtHome = [&](const char* why) {
+        const auto launcher = app.Start();
+        ASSERT_EQ(launcher->catalogue.size(), 1U) << why;
+        EXPECT_EQ(launcher->catalogue.front().Folder, u"집"_s) << why;
+        EXPECT_FALSE(launcher->screens.status.notes.empty()) << why;
+        ASSERT_TRUE(shell::Form_Unload(*launcher));
+        EXPECT_TRUE(app.folder.ReadRaw(u"Gamelist.lst"_s).startsWith("\xc1\xfd\x01")) << why;
+    };
+    QFile::rename(app.folder.Path(u"Disk"_s), app.folder.Path(u"Unplugged"_s));
+    startsAtHome("the root is gone");
+    QFile::rename(app.folder.Path(u"Unplugged"_s), app.folder.Path(u"Disk"_s));
+    app.folder.WriteRaw(u"Gamelist.lst"_s, list);
+    app.folder.WriteRaw(u"Launcher.cfg"_s, "damaged");
+    startsAtHome("the settings were replaced");
+}
+
 TEST(Lifecycle, ProgressIsOverWhenTheListIsFilledAndTheTreeFollowsItInAScan)
 {
     Installation app;
