@@ -143,6 +143,13 @@ Done DeleteFile(const QString& path)
     return NoSuchThing(found);
 }
 
+Done DeleteFileIfThere(const QString& path)
+{
+    Done deleted = DeleteFile(path);
+    const bool missing = !deleted && deleted.Failure().kind == ErrorKind::NotFound;
+    return missing ? Success() : deleted;
+}
+
 Done DeleteFolder(const QString& path)
 {
     const QString folder = OnDisk(path);

@@ -27,6 +27,9 @@ bool FolderExists(const QString& path);
 /// really is the given text is taken alone.
 platform::Done DeleteFile(const QString& path);
 
+/// DeleteFile for what may be gone already: finding nothing is a success.
+platform::Done DeleteFileIfThere(const QString& path);
+
 /// Removes a folder with all it holds, read-only things too; a link to a folder as a link. Refused
 /// for a file system's root, a relative path, one that ends with a separator, "." or "..", and for
 /// whatever holds another file system; nothing is removed then.

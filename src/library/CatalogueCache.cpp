@@ -1,5 +1,6 @@
 #include "library/CatalogueCache.h"
 
+#include "archives/FileOperations.h"
 #include "library/GameFiles.h"
 #include "library/GameInfo.h"
 #include "library/IconSheetFile.h"
@@ -10,7 +11,6 @@
 #include "platform/TextFile.h"
 #include "shell/Places.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QSet>
 
@@ -41,15 +41,6 @@ QString ListPath(const shell::Places& places)
 QString SheetPath(const shell::Places& places)
 {
     return places.InAppDir(u"IconList.bmp"_s);
-}
-
-platform::Done DeleteIfThere(const QString& path)
-{
-    QFile file(path);
-    if (!file.exists() || file.remove()) {
-        return platform::Success();
-    }
-    return Error{ErrorKind::Unwritable, u"%1: %2"_s.arg(path, file.errorString())};
 }
 
 QString RecordOf(const GameEntry& entry)
@@ -152,19 +143,26 @@ platform::Done SaveSheet(
     if (!IconSheetIsCurrent(path, icons, positions)) {
         // The list belongs to the sheet that is about to go. Should the program end before the new
         // list is in its place, a missing one is noticed; one of another order would not be.
-        const auto dropList = [&] { return DeleteIfThere(listPath); };
+        const auto dropList = [&] { return archives::DeleteFileIfThere(listPath); };
         platform::Done written = WriteIconSheet(path, icons, positions, dropList);
         if (!written) {
             return written;
         }
     }
+    return platform::Success();
+}
+
+/// Why former forms of the sheet are still there; nothing depends on them.
+QStringList DeleteFormerSheets(const shell::Places& places)
+{
+    QStringList reasons;
     for (const QString& former : {u"IconList.jpg"_s, u"SmallIconList.jpg"_s}) {
-        platform::Done gone = DeleteIfThere(places.InAppDir(former));
+        const platform::Done gone = archives::DeleteFileIfThere(places.InAppDir(former));
         if (!gone) {
-            return gone;
+            reasons << gone.Failure().text;
         }
     }
-    return platform::Success();
+    return reasons;
 }
 
 /// False when the record is damaged.
@@ -270,7 +268,7 @@ platform::Outcome<CacheReport> SaveCatalogueCache(
     const QString listPath = ListPath(places); // before it is deleted, in its spelling
     const std::vector<int> positions = PositionsToSave(catalogue, report.leftOut);
     if (positions.empty()) {
-        const platform::Done gone = DeleteIfThere(listPath);
+        const platform::Done gone = archives::DeleteFileIfThere(listPath);
         return gone ? platform::Outcome<CacheReport>(report) : gone.Failure();
     }
     // Both are on the disk before either takes the place of an old file.
@@ -282,13 +280,16 @@ platform::Outcome<CacheReport> SaveCatalogueCache(
     if (saved) {
         saved = list.Replace();
     }
+    if (saved) {
+        report.formerSheets = DeleteFormerSheets(places);
+    }
     return saved ? platform::Outcome<CacheReport>(report) : saved.Failure();
 }
 
 platform::Done DeleteCatalogueCache(const shell::Places& places)
 {
-    const platform::Done list = DeleteIfThere(ListPath(places));
-    const platform::Done sheet = DeleteIfThere(SheetPath(places));
+    const platform::Done list = archives::DeleteFileIfThere(ListPath(places));
+    const platform::Done sheet = archives::DeleteFileIfThere(SheetPath(places));
     return list ? sheet : list;
 }
 

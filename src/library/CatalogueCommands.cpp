@@ -306,6 +306,9 @@ Done SaveCatalogue(Launcher& launcher)
     if (!saved) {
         return saved.Failure();
     }
+    for (const QString& reason : saved.Value().formerSheets) {
+        shell::TellNote(launcher, kCategory, reason);
+    }
     TellWithoutCache(launcher, saved.Value().leftOut);
     return platform::Success();
 }

@@ -1,9 +1,8 @@
 #include "library/GameInfo.h"
 
+#include "archives/FileOperations.h"
 #include "library/private/NewFile.h"
 #include "platform/Numbers.h"
-
-#include <QFile>
 
 #include <algorithm>
 #include <array>
@@ -130,12 +129,10 @@ Genres ConvertOldGenre(GameFiles& files, const QString& code, GenreForm form, Tr
         return genres;
     }
     const QString name = files.meta.Find(u"Extra.dat"_s);
-    QFile old(files.MetaPath(name));
-    if (old.remove()) {
+    const platform::Done gone = archives::DeleteFileIfThere(files.MetaPath(name));
+    troubles.AddIfFailed(gone);
+    if (gone) {
         files.ForgetMetaFile(name);
-    } else {
-        troubles.Add(platform::Error{
-            platform::ErrorKind::Unwritable, u"%1: %2"_s.arg(old.fileName(), old.errorString())});
     }
     return genres;
 }
@@ -251,13 +248,11 @@ platform::Done DeleteFacts(GameFiles& files)
     if (name.isEmpty()) {
         return platform::Success();
     }
-    QFile file(files.MetaPath(name));
-    if (!file.remove() && file.exists()) {
-        return platform::Error{
-            platform::ErrorKind::Unwritable, u"%1: %2"_s.arg(file.fileName(), file.errorString())};
+    platform::Done gone = archives::DeleteFileIfThere(files.MetaPath(name));
+    if (gone) {
+        files.ForgetMetaFile(name);
     }
-    files.ForgetMetaFile(name);
-    return platform::Success();
+    return gone;
 }
 
 Genres ReadGenres(GameFiles& files, GenreForm form, Troubles& troubles)

@@ -1,10 +1,10 @@
 #include "library/GamePreparation.h"
 
+#include "archives/FileOperations.h"
 #include "library/IconImages.h"
 #include "library/private/NewFile.h"
 
 #include <QDir>
-#include <QFile>
 
 #include <array>
 
@@ -83,12 +83,10 @@ void DeleteSmallIcon(GameFiles& files, Troubles& troubles)
     if (name.isEmpty() || !files.HasMetaFile(name)) {
         return;
     }
-    QFile file(files.MetaPath(name));
-    if (file.remove()) {
+    const platform::Done gone = archives::DeleteFileIfThere(files.MetaPath(name));
+    troubles.AddIfFailed(gone);
+    if (gone) {
         files.ForgetMetaFile(name);
-    } else {
-        troubles.Add(platform::Error{
-            platform::ErrorKind::Unwritable, u"%1: %2"_s.arg(file.fileName(), file.errorString())});
     }
 }
 

@@ -65,6 +65,8 @@ TEST(DeleteFile, OneFile)
     const Done missing = DeleteFile(folder.Path(u"missing"_s));
     EXPECT_EQ(KindOf(missing), ErrorKind::NotFound);
     EXPECT_TRUE(missing.Failure().text.startsWith(folder.Path(u"missing"_s)));
+    EXPECT_TRUE(DeleteFileIfThere(folder.Path(u"missing"_s)).Ok());
+    EXPECT_EQ(KindOf(DeleteFileIfThere(folder.Path(u"sub"_s))), ErrorKind::Refused);
     EXPECT_EQ(folder.Tree(), (QStringList{u"cd/"_s, u"keep"_s, u"sub/"_s, u"toFolder"_s}));
 }
 

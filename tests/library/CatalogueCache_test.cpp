@@ -159,6 +159,14 @@ TEST_F(CatalogueCacheTest, FormerSheetsGoAndSpellingsStay)
     m_root.MakeTree({u"GAMELIST.LST"_s, u"iconlist.jpg"_s, u"SmallIconList.jpg"_s});
     ASSERT_TRUE(Save(Library(1)));
     EXPECT_EQ(m_root.Tree(), (QStringList{u"GAMELIST.LST"_s, u"Games/"_s, u"IconList.bmp"_s}));
+    // One that can't go holds back nothing that the next start reads.
+    m_root.MakeTree({u"IconList.jpg/x"_s, u"SmallIconList.jpg"_s});
+    const auto saved = Save(Library(2));
+    ASSERT_TRUE(saved);
+    ASSERT_EQ(saved.Value().formerSheets.size(), 1);
+    EXPECT_TRUE(saved.Value().formerSheets.front().startsWith(m_root.Path(u"IconList.jpg"_s)));
+    EXPECT_FALSE(m_root.Exists(u"SmallIconList.jpg"_s));
+    EXPECT_EQ(m_root.ReadRaw(u"GAMELIST.LST"_s).count('\x02'), 1);
 }
 
 TEST_F(CatalogueCacheTest, WhatTheListCantHoldIsLeftOutOfBothFiles)
