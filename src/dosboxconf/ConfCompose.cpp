@@ -106,7 +106,6 @@ private:
     /// the error, so logging overrides the stored waitonerror, which stands in a group before.
     void SwitchLogging(bool on)
     {
-        m_out.logging = on;
         m_skipNext = !on;
         if (on) {
             m_out.text.ReplaceText(u"waitonerror=false"_s, u"waitonerror=true"_s);

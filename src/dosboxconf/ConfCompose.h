@@ -14,7 +14,6 @@ struct ConfText {
     platform::HostText text;
     QString mixerLine;    // also a line of the text
     bool glideOn = false; // glide.ini is to be rewritten before the start
-    bool logging = false; // the log option is on, so waitonerror is on in the text
 };
 
 /// Pure: the grid's selection is the configuration of the run. One text serves all builds, which
