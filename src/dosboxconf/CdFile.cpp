@@ -1,5 +1,6 @@
 #include "dosboxconf/CdFile.h"
 
+#include "dosboxconf/private/MetaFolder.h"
 #include "platform/Numbers.h"
 #include "platform/Paths.h"
 #include "platform/TextFile.h"
@@ -119,20 +120,23 @@ void ChkMountCdClicked(
 
 platform::Done SaveCdConf(const shell::Places& places, const QString& folder, const CdPanel& panel)
 {
-    const QString path = CdConfPath(places, folder);
     if (!panel.chkCD) {
-        QFile file(path);
+        QFile file(CdConfPath(places, folder));
         if (file.exists() && !file.remove()) {
             return platform::Error{
-                platform::ErrorKind::Unwritable, u"%1: %2"_s.arg(path, file.errorString())};
+                platform::ErrorKind::Unwritable,
+                u"%1: %2"_s.arg(file.fileName(), file.errorString())};
         }
         return platform::Success();
     }
     if (panel.lstCD.isEmpty()) {
         return platform::Success();
     }
+    if (platform::Done made = MakeMetaDir(places, folder); !made) {
+        return made;
+    }
     return platform::WriteLines(
-        path,
+        CdConfPath(places, folder),
         {panel.chkMountCD ? u"1"_s : u"0"_s, QString::number(panel.CdMountMode == 0 ? 0 : 1)});
 }
 

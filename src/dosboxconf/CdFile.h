@@ -45,7 +45,8 @@ void ChkMountCdClicked(
     CdPanel& panel, bool checked, const QStringList& images, const QString& placeholder);
 
 /// Writes CD.conf; with chkCD but no row leaves all as it is; without chkCD deletes the file.
-/// Error Unwritable.
+/// Makes the metadata folder if it is missing. Error Unwritable, or Refused for a game that is not
+/// there.
 platform::Done SaveCdConf(const shell::Places& places, const QString& folder, const CdPanel& panel);
 
 } // namespace pelorin::dosboxconf

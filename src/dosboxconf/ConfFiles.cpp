@@ -2,12 +2,12 @@
 
 #include "dosboxconf/ConfDefaults.h"
 #include "dosboxconf/ConfUpgrade.h"
+#include "dosboxconf/private/MetaFolder.h"
 #include "dosboxconf/private/StoredConf.h"
 #include "platform/Numbers.h"
 #include "platform/Paths.h"
 #include "platform/TextFile.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -16,8 +16,6 @@ namespace pelorin::dosboxconf {
 
 namespace {
 
-using platform::Error;
-using platform::ErrorKind;
 using platform::Outcome;
 
 QString DefaultConfPath(const shell::Places& places)
@@ -272,12 +270,8 @@ Outcome<ConfReport> WriteGameConf(
     const OptionGrid& grid,
     const Selection& table)
 {
-    if (!platform::IsPlainName(folder) || !QFileInfo(places.GameDir(folder)).isDir()) {
-        return Error{ErrorKind::Refused, u"%1: no such game"_s.arg(places.GameDir(folder))};
-    }
-    const QString metaDir = places.MetaDir(folder);
-    if (!QDir().mkpath(metaDir)) {
-        return Error{ErrorKind::Unwritable, u"%1: can't be made"_s.arg(metaDir)};
+    if (const platform::Done made = MakeMetaDir(places, folder); !made) {
+        return made.Failure();
     }
     return WriteConf(GameConfPath(places, folder), grid, table);
 }

@@ -56,8 +56,8 @@ ConfReport ReadDefaultConf(const shell::Places& places, OptionGrid& grid);
 /// Error Unwritable.
 platform::Outcome<ConfReport> WriteDefaultConf(const shell::Places& places, const OptionGrid& grid);
 
-/// Writes a table as the game's edit.conf, with the same care. Error Unwritable, or Refused for
-/// a folder that is no plain name.
+/// Writes a table as the game's edit.conf, with the same care. Makes the metadata folder if it
+/// is missing. Error Unwritable, or Refused for a folder that is no game here.
 platform::Outcome<ConfReport> WriteGameConf(
     const shell::Places& places,
     const QString& folder,

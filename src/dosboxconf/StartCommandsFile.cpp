@@ -1,5 +1,6 @@
 #include "dosboxconf/StartCommandsFile.h"
 
+#include "dosboxconf/private/MetaFolder.h"
 #include "platform/TextFile.h"
 
 #include <algorithm>
@@ -65,6 +66,9 @@ platform::Done WriteAutoexecConf(
     const QStringList& commands,
     platform::Loss loss)
 {
+    if (platform::Done made = MakeMetaDir(places, folder); !made) {
+        return made;
+    }
     return platform::WriteLines(
         AutoexecConfPath(places, folder), WithoutEmptyLines(commands), loss);
 }

@@ -16,8 +16,9 @@ namespace pelorin::dosboxconf {
 /// The non-empty lines; none without a file. Error Unreadable.
 platform::Outcome<QStringList> ReadAutoexecConf(const shell::Places& places, const QString& folder);
 
-/// Replaces the file by the non-empty lines, in order. Error Unwritable, or, where `loss` refuses
-/// that, Unencodable with the characters that code page 949 can't keep; the old file stands then.
+/// Replaces the file by the non-empty lines, in order; makes the metadata folder if it is missing.
+/// Error Unwritable, Refused for a game that is not there, or, where `loss` refuses that,
+/// Unencodable with the characters that code page 949 can't keep; the old file stands then.
 platform::Done WriteAutoexecConf(
     const shell::Places& places,
     const QString& folder,

@@ -127,6 +127,10 @@ TEST_F(CdFileTest, SavingWritesDeletesOrLeavesAlone)
     EXPECT_TRUE(SaveCdConf(places, u"Star"_s, panel)) << "nothing to delete";
     ChkCdClicked(panel, true, {}, row);
     EXPECT_FALSE(SaveCdConf(places, u"Gone"_s, panel));
+    EXPECT_FALSE(folder.Exists(u"Gone"_s));
+    folder.MakeTree({u"Bare/GO.EXE"_s});
+    ASSERT_TRUE(SaveCdConf(places, u"Bare"_s, panel));
+    EXPECT_EQ(folder.ReadRaw(u"Bare/DosBox/CD.conf"_s), "0\r\n0\r\n");
 }
 
 } // namespace

@@ -24,6 +24,9 @@ TEST(StartCommandsFileTest, EmptyLinesAreNeitherReadNorWritten)
 
     ASSERT_TRUE(WriteAutoexecConf(places, u"Star"_s, {u""_s, u"시작.bat"_s, u""_s, u"b"_s}));
     EXPECT_EQ(folder.ReadText(u"Star/dosbox/AUTOEXEC.CONF"_s), u"시작.bat\r\nb\r\n"_s);
+    folder.MakeTree({u"Bare/GO.EXE"_s});
+    ASSERT_TRUE(WriteAutoexecConf(places, u"Bare"_s, {u"go"_s}));
+    EXPECT_EQ(folder.ReadLines(u"Bare/DosBox/autoexec.conf"_s), QStringList{u"go"_s});
 }
 
 TEST(StartCommandsFileTest, WhatTheCodePageCantKeepIsRefusedAndTheOldFileStands)
@@ -35,7 +38,10 @@ TEST(StartCommandsFileTest, WhatTheCodePageCantKeepIsRefusedAndTheOldFileStands)
     ASSERT_FALSE(done);
     EXPECT_EQ(done.Failure().kind, platform::ErrorKind::Unencodable);
     EXPECT_EQ(folder.ReadLines(u"Star/DosBox/autoexec.conf"_s), QStringList{u"old"_s});
-    EXPECT_FALSE(WriteAutoexecConf(places, u"Gone"_s, {u"a"_s}));
+    for (const QString& name : {u"Gone"_s, u""_s}) {
+        EXPECT_FALSE(WriteAutoexecConf(places, name, {u"a"_s}));
+    }
+    EXPECT_EQ(folder.Tree().size(), 3) << "no folder is made for what is no game";
 }
 
 struct StartListTest : testing::Test {
