@@ -292,7 +292,8 @@ LoadedConf LoadGameConf(const shell::Places& places, const QString& folder, Opti
         return loaded;
     }
     StoredConf stored = ParseConf(lines.Value());
-    if (!stored.whole) {
+    // Of a file without a mark nothing is taken, however many lines it has.
+    if (!stored.whole && stored.layout != ConfLayout::Groups11) {
         loaded.report.linesMissing = true;
         loaded.report.notes << u"%1: lines are missing; these options are 0"_s.arg(path);
     }

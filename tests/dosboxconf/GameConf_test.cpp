@@ -78,6 +78,13 @@ TEST_F(GameConfTest, AFileWithoutAMarkIsReplacedByValuesOfTheGlobalFileAndKept)
     EXPECT_EQ(lines[LineOf(kSampleRate)], u"2"_s);
     EXPECT_EQ(lines[LineOf(kSensitivity)], u"1"_s);
     EXPECT_EQ(At(kAutolock), 1);
+
+    // A short one is replaced as well, so no line of it is missed.
+    folder.WriteLines(editConf, {u"1"_s, u"2"_s});
+    const ConfReport shortOne = LoadGameConf(places, u"Star"_s, grid).report;
+    EXPECT_FALSE(shortOne.linesMissing);
+    EXPECT_EQ(shortOne.notes.size(), 1) << "only where the old file is kept";
+    EXPECT_EQ(At(kAutolock), 1);
 }
 
 TEST_F(GameConfTest, AShortFileReadsZerosAndIsKeptBeforeTheNextWrite)
