@@ -18,38 +18,49 @@ namespace {
 
 constexpr auto kCategory = "pelorin.dosboxconf";
 
-bool HasGame(const Launcher& launcher)
+/// The game that the page shows. The selection may be a step ahead of it.
+const QString& ShownGame(const Launcher& launcher)
 {
-    return platform::IsPlainName(launcher.current.CurrentFolder);
+    return launcher.screens.details.folder;
+}
+
+bool ShowsGame(const Launcher& launcher)
+{
+    return platform::IsPlainName(ShownGame(launcher));
 }
 
 /// The row of lstCD that stands for the game's own folder.
 QString Placeholder(const Launcher& launcher)
 {
-    return launcher.lang.Text(172, {launcher.current.CurrentFolder});
+    return launcher.lang.Text(172, {ShownGame(launcher)});
 }
 
 QStringList Images(const Launcher& launcher)
 {
-    return ReadCdFacts(launcher.places, launcher.current.CurrentFolder).images;
+    return ReadCdFacts(launcher.places, ShownGame(launcher)).images;
 }
 
 } // namespace
 
 void lstAutoexec_DblClick(Launcher& launcher, int row)
 {
-    const QString old = launcher.screens.start.lstAutoexec.value(row);
+    StartCommands& start = launcher.screens.start;
+    const QString folder = ShownGame(launcher);
+    const QString old = start.lstAutoexec.value(row);
     const QString reply =
         launcher.ports.prompts.InputText(launcher.lang[184], launcher.lang[185], old);
-    ReplaceLine(launcher.screens.start, row, reply);
+    // Windows events ran: the list may be another game's by now, or have other rows.
+    if (ShownGame(launcher) == folder && start.lstAutoexec.value(row) == old) {
+        ReplaceLine(start, row, reply);
+    }
 }
 
 void WriteAutoexecConf(Launcher& launcher)
 {
-    if (!HasGame(launcher)) {
+    if (!ShowsGame(launcher)) {
         return;
     }
-    const QString folder = launcher.current.CurrentFolder;
+    const QString folder = ShownGame(launcher);
     const QStringList commands = launcher.screens.start.lstAutoexec;
     if (!shell::MayLose(launcher, platform::EncodeCp949(commands.join(QString())).lost)) {
         return;
@@ -66,37 +77,37 @@ void FillCdList(Launcher& launcher)
     ResetCdPanel(launcher.screens.cd);
     FillCdList(
         launcher.screens.cd,
-        ReadCdFacts(launcher.places, launcher.current.CurrentFolder),
+        ReadCdFacts(launcher.places, ShownGame(launcher)),
         Placeholder(launcher));
 }
 
 void chkCD_Click(Launcher& launcher, bool checked)
 {
-    if (HasGame(launcher)) {
+    if (ShowsGame(launcher)) {
         ChkCdClicked(launcher.screens.cd, checked, Images(launcher), Placeholder(launcher));
     }
 }
 
 void chkMountCD_Click(Launcher& launcher, bool checked)
 {
-    if (HasGame(launcher)) {
+    if (ShowsGame(launcher)) {
         ChkMountCdClicked(launcher.screens.cd, checked, Images(launcher), Placeholder(launcher));
     }
 }
 
 void mnuCD_Click(Launcher& launcher, int index)
 {
-    if (HasGame(launcher)) {
+    if (ShowsGame(launcher)) {
         ChooseCdMode(launcher.screens.cd, index, Images(launcher), Placeholder(launcher));
     }
 }
 
 void cmdSaveCD_Click(Launcher& launcher)
 {
-    if (!HasGame(launcher)) {
+    if (!ShowsGame(launcher)) {
         return;
     }
-    const QString folder = launcher.current.CurrentFolder;
+    const QString folder = ShownGame(launcher); // by value: the refresh may show another
     if (const platform::Done saved = SaveCdConf(launcher.places, folder, launcher.screens.cd);
         !saved) {
         shell::TellNote(launcher, kCategory, saved.Failure().text);

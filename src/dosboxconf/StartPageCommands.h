@@ -4,16 +4,18 @@ namespace pelorin::shell {
 struct Launcher;
 }
 
-// What the start page's buttons do beyond the lists in memory (StartCommandsFile.h, CdFile.h).
+// What the start page's buttons do beyond the lists in memory (StartCommandsFile.h, CdFile.h). All
+// of it is about the game that the page shows (DetailsPanel::folder), wherever the selection is.
 
 namespace pelorin::dosboxconf {
 
-/// Asks for the text of a line of lstAutoexec; a reply of blanks leaves it.
+/// Asks for the text of a line of lstAutoexec. A reply of blanks leaves it, as does one that comes
+/// when the line stands there no more.
 void lstAutoexec_DblClick(shell::Launcher& launcher, int row);
 /// cmdSaveExec: writes the list as the game's autoexec.conf.
 void WriteAutoexecConf(shell::Launcher& launcher);
 
-/// Shows how the game on hand gets its CD; nothing of the former game stays.
+/// Shows how the game gets its CD; nothing of the former game stays.
 void FillCdList(shell::Launcher& launcher);
 void chkCD_Click(shell::Launcher& launcher, bool checked);
 void chkMountCD_Click(shell::Launcher& launcher, bool checked);

@@ -21,7 +21,8 @@ struct Deeds {
     using Menu = std::function<shell::MenuModel()>;
 
     // The list. ItemClick follows each change of the selection, SelectionMoved comes when it rests:
-    // on the release of a mouse button or key, and every 60 ms while a key repeats.
+    // on the release of a mouse button or key, every 60 ms while a key repeats, and when the list
+    // loses the focus.
     Deed LVGamelist_ItemClick;
     Deed LVGamelist_SelectionMoved;
     Deed LVGamelist_DblClick; // Enter as well

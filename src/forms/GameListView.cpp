@@ -74,6 +74,7 @@ ViewHooks GameListView::Hooks()
         [this](const QKeyEvent& event) { return KeyPressed(event); },
         [this](const QKeyEvent& event) { KeyReleased(event); },
         [this](const QMouseEvent& event) { MouseReleased(event); },
+        [this] { FocusLost(); },
         [this] {
             const QRect row = View()->visualRect(m_selection.currentIndex());
             ShowGameMenu(View()->viewport()->mapToGlobal(row.center()));
@@ -319,6 +320,14 @@ void GameListView::MouseReleased(const QMouseEvent& event)
     Settle();
     if (event.button() == Qt::RightButton) {
         ShowGameMenu(event.globalPosition().toPoint());
+    }
+}
+
+void GameListView::FocusLost()
+{
+    // The release of the key that moved the selection will come to somebody else.
+    if (m_moved && !m_shown.screens.gate.Locked()) {
+        Settle();
     }
 }
 

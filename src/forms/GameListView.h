@@ -5,6 +5,7 @@
 #include "forms/Listening.h"
 #include "forms/Shown.h"
 
+#include <QFocusEvent>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QListView>
@@ -25,6 +26,7 @@ struct ViewHooks {
     std::function<bool(const QKeyEvent& event)> keyPressed; // true: done with it
     std::function<void(const QKeyEvent& event)> keyReleased;
     std::function<void(const QMouseEvent& event)> mouseReleased;
+    std::function<void()> focusLost;
     std::function<void()> menuKeyPressed;
     std::function<void(QWidget& viewport)> painted;
 };
@@ -54,6 +56,11 @@ protected:
     {
         QtView::mouseReleaseEvent(event);
         m_hooks.mouseReleased(*event);
+    }
+    void focusOutEvent(QFocusEvent* event) override
+    {
+        QtView::focusOutEvent(event);
+        m_hooks.focusLost();
     }
     void contextMenuEvent(QContextMenuEvent* event) override
     {
@@ -106,6 +113,7 @@ private:
     bool KeyPressed(const QKeyEvent& event);
     void KeyReleased(const QKeyEvent& event);
     void MouseReleased(const QMouseEvent& event);
+    void FocusLost();
     void ShowGameMenu(QPoint position);
     void PaintEmpty(QWidget& viewport) const;
 

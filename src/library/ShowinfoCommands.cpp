@@ -83,6 +83,7 @@ void ShowinfoProcess(Launcher& launcher)
         return;
     }
     const platform::RedrawLock lock(launcher.screens.gate);
+    launcher.screens.details.folder = launcher.current.CurrentFolder;
     const GameFiles files = ListGame(launcher.places, launcher.current.CurrentFolder);
     ShowTexts(launcher, files);
     ShowPath(launcher, files);

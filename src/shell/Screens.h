@@ -42,10 +42,13 @@ struct MainFrame {
     platform::Notifier panelsEnabled; // picBack0Enabled, picBack1Enabled; no redraw lock holds it
 };
 
-/// The right page's information about the selected game.
+/// The right page's information about a game.
 struct DetailsPanel {
     enum Changed : std::uint32_t { Texts = 1, Icon = 2, Genres = 4 };
 
+    /// The game that the right panel shows: these texts, StartCommands and CdPanel are its, and are
+    /// saved to it. While a selection moves it is not yet CurrentFolder. Empty before the first.
+    QString folder;
     std::array<QString, 2> txtTitle;
     QString txtInfo;
     QString lblGenreK;

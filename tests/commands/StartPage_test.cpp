@@ -1,6 +1,7 @@
 #include "dosboxconf/StartCommandsFile.h"
 #include "dosboxconf/StartPageCommands.h"
 #include "library/CatalogueCommands.h"
+#include "library/ShowinfoCommands.h"
 #include "support/Installation.h"
 
 #include <QDir>
@@ -30,6 +31,49 @@ TEST(StartPage, EditsAndSavesTheCommandsOfTheGameOnHand)
 
     Click(*launcher, u"둘"_s);
     EXPECT_EQ(launcher->screens.start.lstAutoexec, QStringList{u"game.com"_s});
+}
+
+TEST(StartPage, SavesToTheGameThatItShowsWhileTheSelectionIsAlreadyElsewhere)
+{
+    Installation app;
+    app.AddGame(u"하나"_s);
+    app.AddGame(u"둘"_s);
+    app.folder.MakeTree({u"Games/하나/DosBox/CD/a.iso"_s, u"Games/둘/DosBox/CD/b.iso"_s});
+    const auto launcher = app.Start();
+    Click(*launcher, u"하나"_s);
+    launcher->screens.start.lstAutoexec = {u"one.exe"_s};
+    launcher->screens.list.Select(launcher->screens.list.RowOf(u"둘"_s));
+    library::LVGamelist_ItemClick(*launcher);
+    ASSERT_EQ(launcher->current.CurrentFolder, u"둘"_s);
+    dosboxconf::WriteAutoexecConf(*launcher);
+    EXPECT_EQ(app.folder.ReadRaw(u"Games/하나/DosBox/autoexec.conf"_s), "one.exe\r\n");
+    EXPECT_EQ(app.folder.ReadRaw(u"Games/둘/DosBox/autoexec.conf"_s), "game.com\r\n");
+
+    dosboxconf::chkCD_Click(*launcher, true);
+    EXPECT_EQ(launcher->screens.cd.lstCD, QStringList{u"a.iso"_s});
+    dosboxconf::mnuCD_Click(*launcher, 0);
+    EXPECT_EQ(launcher->screens.cd.lstCD, QStringList{launcher->lang.Text(172, {u"하나"_s})});
+    dosboxconf::cmdSaveCD_Click(*launcher);
+    EXPECT_TRUE(app.folder.Exists(u"Games/하나/DosBox/CD.conf"_s));
+    EXPECT_FALSE(app.folder.Exists(u"Games/둘/DosBox/CD.conf"_s));
+}
+
+TEST(StartPage, AReplyForALineThatIsGoneChangesNothing)
+{
+    Installation app;
+    app.AddGame(u"하나"_s);
+    app.AddGame(u"둘"_s);
+    const auto launcher = app.Start();
+    Click(*launcher, u"하나"_s);
+    // Both games have the same line there.
+    app.fakes.prompts.WillType(u"one.exe"_s, [&] { Click(*launcher, u"둘"_s); });
+    dosboxconf::lstAutoexec_DblClick(*launcher, 0);
+    EXPECT_EQ(launcher->screens.start.lstAutoexec, QStringList{u"game.com"_s});
+
+    app.fakes.prompts.WillType(
+        u"two.exe"_s, [&] { launcher->screens.start.lstAutoexec.prepend(u"rem"_s); });
+    dosboxconf::lstAutoexec_DblClick(*launcher, 0);
+    EXPECT_EQ(launcher->screens.start.lstAutoexec, (QStringList{u"rem"_s, u"game.com"_s}));
 }
 
 TEST(StartPage, TheNextGameDoesNotInheritTheCd)

@@ -128,6 +128,20 @@ TEST_F(GameListViewTest, ARepeatingKeySettlesNowAndThen)
     EXPECT_EQ(did.count(u"SelectionMoved"_s), 2);
 }
 
+TEST_F(GameListViewTest, TheSelectionSettlesWhenTheFocusLeavesBeforeTheRelease)
+{
+    screens.list.view = View::List;
+    Open();
+    window->activateWindow();
+    Icons()->setFocus();
+    SendKey(*Icons(), QEvent::KeyPress, Qt::Key_Down, false);
+    Find("tabInfo")->setFocus();
+    EXPECT_EQ(did, (QStringList{u"ItemClick"_s, u"SelectionMoved"_s}));
+    Icons()->setFocus();
+    Find("tabInfo")->setFocus();
+    EXPECT_EQ(did.size(), 2) << "nothing has moved since";
+}
+
 TEST_F(GameListViewTest, EnterRunsOnceHoweverLongItIsHeld)
 {
     Open();
