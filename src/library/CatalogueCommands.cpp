@@ -255,7 +255,7 @@ void cmdRefresh_Click(Launcher& launcher)
     ShowinfoProcess(launcher);
 }
 
-void RefreshGameEntry(Launcher& launcher, const QString& folder)
+void RereadGameEntry(Launcher& launcher, const QString& folder)
 {
     const int position = PositionOf(launcher.catalogue, folder);
     if (position < 0) {
@@ -274,7 +274,14 @@ void RefreshGameEntry(Launcher& launcher, const QString& folder)
             launcher.current.CurrentTitle = list.items[static_cast<std::size_t>(row)].text[0];
         }
     }
-    ShowinfoProcess(launcher);
+}
+
+void RefreshGameEntry(Launcher& launcher, const QString& folder)
+{
+    if (PositionOf(launcher.catalogue, folder) >= 0) {
+        RereadGameEntry(launcher, folder);
+        ShowinfoProcess(launcher);
+    }
 }
 
 Done RemoveGameEntry(Launcher& launcher, const QString& folder)

@@ -21,7 +21,10 @@ void ScanGames(shell::Launcher& launcher);
 /// F5: a scan, and the selection taken over anew. Nothing while a job stands.
 void cmdRefresh_Click(shell::Launcher& launcher);
 
-/// Reads one game's titles, build and marks again, and shows them in its row and in the details.
+/// Reads one game's titles, build and marks again and shows them in its row.
+void RereadGameEntry(shell::Launcher& launcher, const QString& folder);
+
+/// RereadGameEntry, and the details of the current game are shown anew.
 void RefreshGameEntry(shell::Launcher& launcher, const QString& folder);
 
 /// Moves the game's folder to the recycle bin and takes the game out of the Catalogue. On an error

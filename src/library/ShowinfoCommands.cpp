@@ -1,7 +1,10 @@
 #include "library/ShowinfoCommands.h"
 
+#include "dosboxconf/ConfFiles.h"
+#include "dosboxconf/ConfReportCommands.h"
 #include "dosboxconf/StartCommandsFile.h"
 #include "dosboxconf/StartPageCommands.h"
+#include "library/CatalogueCommands.h"
 #include "library/CatalogueEdits.h"
 #include "library/GameFiles.h"
 #include "library/GameInfo.h"
@@ -66,6 +69,24 @@ void ShowStartPage(Launcher& launcher, const GameFiles& files)
     dosboxconf::FillCdList(launcher);
 }
 
+/// A configuration of an older layout is rewritten here, and its build read anew, so that a start
+/// finds the build where it looks for it.
+void LoadConf(Launcher& launcher, const QString& folder)
+{
+    const dosboxconf::ConfReport report =
+        dosboxconf::LoadGameConf(launcher.places, folder, launcher.options).report;
+    dosboxconf::TellReport(launcher, report);
+    if (report.upgraded) {
+        RereadGameEntry(launcher, folder);
+    }
+    constexpr int kGlobalPage = 3;
+    constexpr int kGamePage = 4;
+    const int tab = launcher.screens.frame.tabInfo;
+    if (tab == kGlobalPage || tab == kGamePage) {
+        launcher.screens.frame.changed.Tell(shell::MainFrame::Tab); // it shows what is loaded
+    }
+}
+
 void ShowCaption(Launcher& launcher)
 {
     const QString& title = launcher.current.CurrentTitle;
@@ -88,6 +109,7 @@ void ShowinfoProcess(Launcher& launcher)
     ShowTexts(launcher, files);
     ShowPath(launcher, files);
     ShowStartPage(launcher, files);
+    LoadConf(launcher, files.folder);
     ShowCaption(launcher);
 }
 

@@ -7,7 +7,8 @@ struct Launcher;
 namespace pelorin::library {
 
 /// Brings everything that shows the current game up to date: details, start commands, runnable
-/// files, CD, caption and status bar. What fails leaves the rest as it stands.
+/// files, CD, configuration (the grid takes the game's, an edit.conf of an older layout is
+/// rewritten), caption and status bar. What fails leaves the rest as it stands.
 void ShowinfoProcess(shell::Launcher& launcher);
 
 /// Writes info.txt of the current game from the boxes for titles and description. Asks first when

@@ -85,6 +85,26 @@ TEST(Run, UnsavedStartCommandsCountAndTheGamesOwnSettingsRule)
     EXPECT_TRUE(conf.contains("waitonerror=true"));
 }
 
+TEST(Run, SettingsOfAnOlderLayoutNameTheirBuildAtTheFirstStart)
+{
+    Installation app;
+    app.AddGame(u"하나"_s);
+    app.folder.WriteScript(u"DOSBox/0.74/dosbox"_s, u"exit 0\n"_s);
+    // 11 groups of 21: the build stands at (1,4), and line 2 is the full screen's.
+    QStringList old(1 + 11 * 21, u"0"_s);
+    old[0] = u"ver.10.11.21"_s;
+    old[1] = u"14"_s;
+    old[1 + 21 + 4] = u"1"_s;
+    app.folder.WriteLines(u"Games/하나/DosBox/edit.conf"_s, old);
+    const auto launcher = app.Start();
+    EXPECT_EQ(launcher->catalogue.at(0).DosboxVersion, 1);
+    running::RunGame(*launcher);
+    ASSERT_EQ(app.fakes.processes.Starts().size(), 1U) << LastNote(*launcher).toStdString();
+    EXPECT_EQ(
+        app.fakes.processes.Starts().front().request.program,
+        app.folder.Path(u"DOSBox/0.74/dosbox"_s));
+}
+
 TEST(Run, TellsWhyNothingStarts)
 {
     struct Row {
