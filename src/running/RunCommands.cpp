@@ -217,6 +217,10 @@ void RunGame(Launcher& launcher)
     if (!IsThere(launcher, folder) || IsPacked(launcher, folder)) {
         return;
     }
+    // A moving selection is a step ahead of what the controls hold.
+    if (launcher.screens.details.folder != folder) {
+        library::ShowinfoProcess(launcher);
+    }
     const RunRequest request = RequestOf(launcher, RunMode::Game);
     const QString build = dosboxconf::ReadGameBuild(launcher.places, folder, launcher.options);
     switch (BranchOf(request.mode, build, request.startCommands.size())) {
@@ -274,7 +278,8 @@ void mnuRun_Click(Launcher& launcher, int index)
         RunGame(launcher);
         return;
     }
-    if (index < kFirstRecent || index >= kFirstRecent + shell::kRecentGames) {
+    const bool isRecent = index >= kFirstRecent && index < kFirstRecent + shell::kRecentGames;
+    if (!isRecent || launcher.flags.JobHeld) {
         return;
     }
     const auto slot = static_cast<std::size_t>(index - kFirstRecent);

@@ -13,8 +13,9 @@ struct Launcher;
 
 namespace pelorin::running {
 
-/// Starts the current game with its start commands, under the build that its settings name. What
-/// can't be started is told in the status bar's fourth panel, and nothing is written then.
+/// Starts the current game with its start commands, under the build that its settings name. The
+/// right panel shows that game then: its unsaved start commands and CD count. What can't be started
+/// is told in the status bar's fourth panel, and nothing is written then.
 void RunGame(shell::Launcher& launcher);
 
 /// The text of a start: loads the configuration of the run into the grid, which keeps it, and
@@ -26,7 +27,7 @@ platform::Outcome<dosboxconf::ConfText> BuildDosboxConf(
 shell::MenuModel RunMenu(const shell::Launcher& launcher);
 
 /// An entry of mnuRun was chosen. The recent games are 10 to 24; one whose folder is gone does
-/// nothing.
+/// nothing. Nothing while a job stands.
 void mnuRun_Click(shell::Launcher& launcher, int index);
 
 } // namespace pelorin::running

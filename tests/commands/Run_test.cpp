@@ -1,5 +1,6 @@
 #include "library/ShowinfoCommands.h"
 #include "running/RunCommands.h"
+#include "shell/JobCommands.h"
 #include "support/Installation.h"
 
 #include <QDir>
@@ -83,6 +84,29 @@ TEST(Run, UnsavedStartCommandsCountAndTheGamesOwnSettingsRule)
     const QByteArray conf = app.folder.ReadRaw(u"DOSBox/0.74/dosbox.conf"_s);
     EXPECT_TRUE(conf.endsWith("c:\r\ncd data\r\nother.exe\r\n"));
     EXPECT_TRUE(conf.contains("waitonerror=true"));
+}
+
+TEST(Run, AMovingSelectionStartsWithItsOwnCommandsAndCd)
+{
+    Installation app;
+    app.AddGame(u"하나"_s);
+    app.AddGame(u"둘"_s);
+    app.folder.MakeTree({u"Games/하나/DosBox/CD/a.iso"_s});
+    app.folder.WriteLines(u"Games/하나/DosBox/CD.conf"_s, {u"0"_s, u"1"_s});
+    app.folder.WriteLines(u"Games/둘/DosBox/autoexec.conf"_s, {u"two.exe"_s});
+    const auto launcher = app.Start();
+    Click(*launcher, u"하나"_s);
+    launcher->screens.list.Select(launcher->screens.list.RowOf(u"둘"_s));
+    library::LVGamelist_DblClick(*launcher);
+    QByteArray conf = app.folder.ReadRaw(u"DOSBox/0.74_SVN/dosbox.conf"_s);
+    EXPECT_TRUE(conf.endsWith("\r\nc:\r\ntwo.exe\r\n")) << "neither game.com nor a CD";
+    EXPECT_EQ(launcher->screens.details.folder, u"둘"_s);
+
+    Click(*launcher, u"하나"_s);
+    launcher->screens.start.lstAutoexec = {u"unsaved.exe"_s};
+    library::LVGamelist_DblClick(*launcher);
+    conf = app.folder.ReadRaw(u"DOSBox/0.74_SVN/dosbox.conf"_s);
+    EXPECT_TRUE(conf.endsWith("a.iso\" -t iso\r\n\r\nunsaved.exe\r\n"));
 }
 
 TEST(Run, SettingsOfAnOlderLayoutNameTheirBuildAtTheFirstStart)
@@ -230,6 +254,12 @@ TEST(Run, RecentGamesStandInTheMenuAndStartFromIt)
     EXPECT_TRUE(EntryOf(menu, 4)->separator);
     EXPECT_TRUE(EntryOf(menu, 2)->text.contains(u"하나"_s));
 
+    {
+        const shell::Job job(*launcher);
+        running::mnuRun_Click(*launcher, 11);
+        EXPECT_EQ(launcher->current.CurrentFolder, u"하나"_s);
+        EXPECT_EQ(launcher->screens.details.folder, u"하나"_s);
+    }
     running::mnuRun_Click(*launcher, 11);
     EXPECT_EQ(launcher->current.CurrentFolder, u"A & B"_s);
     EXPECT_EQ(app.fakes.processes.Starts().size(), 3U);
