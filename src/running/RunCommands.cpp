@@ -17,6 +17,8 @@
 #include "shell/Launcher.h"
 #include "shell/RecentFile.h"
 
+#include <QFileInfo>
+
 using namespace Qt::StringLiterals;
 
 namespace pelorin::running {
@@ -48,48 +50,63 @@ void TellFailure(Launcher& launcher, const platform::Error& error)
 
 /// A start ready to go: what to run, and the text that lies in its folder as dosbox.conf.
 struct Launch {
-    platform::ProcessRequest request;
+    Outcome<platform::ProcessRequest> request; // or why there is no program
     QString confPath;
     QByteArray confBytes;
     QString confShown;
     QStringList notes;
 };
 
-/// Composes and checks without writing anything.
+/// Without a program: of the Windows program that is there and can't be run, else our own.
+platform::PathForm FormOf(const Outcome<platform::HostProgram>& found, const QString& asked)
+{
+    if (found) {
+        return found.Value().pathForm;
+    }
+    return QFileInfo::exists(asked) ? platform::PathForm::Windows : platform::PathForm::Posix;
+}
+
+/// Composes and checks without writing anything. A missing program is no error yet.
 Outcome<Launch> PrepareLaunch(Launcher& launcher, const RunRequest& request, const QString& build)
 {
-    const Outcome<dosboxconf::ConfText> composed = BuildDosboxConf(launcher, request, build);
+    const dosboxconf::RunFacts facts =
+        dosboxconf::LoadRunFacts(launcher.places, ConfRequestOf(request, build));
+    const Outcome<dosboxconf::ConfText> composed = BuildDosboxConf(launcher, request, facts);
     if (!composed) {
         return composed.Failure();
     }
     const CommandLine command = DosboxCommandLine(launcher.options);
-    const QString folder = u"DOSBox/"_s + ConfigFolder(request.mode, build);
+    const QString workingFolder =
+        launcher.places.InAppDir(u"DOSBox/"_s + ConfigFolder(request.mode, build));
+    const QString asked = platform::ResolvePath(workingFolder, command.program);
     const platform::ProgramHost host(launcher.places.appDir, launcher.searchPath);
-    const Outcome<platform::HostProgram> found = host.Find(folder + u'/' + command.program);
-    if (!found) {
-        return found.Failure();
-    }
-    const platform::HostProgram& program = found.Value();
+    const Outcome<platform::HostProgram> found = host.Find(asked);
+    const platform::PathForm form = FormOf(found, asked);
 
-    if (const platform::Done possible = CheckCommands(request, program.pathForm); !possible) {
+    if (const platform::Done possible = CheckCommands(request, form); !possible) {
         return possible.Failure();
     }
     const RunEnding ending{request.mode, request.startCommands, request.typedLine, false, {}};
     const platform::HostText text = FinishRunText(composed.Value().text, ending);
-    const dosboxconf::RunFacts facts =
-        dosboxconf::LoadRunFacts(launcher.places, ConfRequestOf(request, build));
-    if (const platform::Done fits = CheckLaunch(facts, text, program.pathForm); !fits) {
+    if (const platform::Done fits = CheckLaunch(facts, text, form); !fits) {
         return fits.Failure();
     }
-    const QString workingFolder = launcher.places.InAppDir(folder);
-    return Launch{
-        program.Request(command.arguments, workingFolder, ShowStateOf(request.mode)),
+    Launch launch{
+        platform::ProcessRequest(),
         platform::ResolvePath(workingFolder, u"dosbox.conf"_s),
-        text.Print(program.pathForm),
-        text.Preview(program.pathForm),
-        LaunchNotes(request, text, program.pathForm)};
+        text.Print(form),
+        text.Preview(form),
+        LaunchNotes(request, text, form)};
+    if (found) {
+        launch.request =
+            found.Value().Request(command.arguments, workingFolder, ShowStateOf(request.mode));
+    } else {
+        launch.request = found.Failure();
+    }
+    return launch;
 }
 
+/// A program that was started and is gone too soon.
 void TellEnd(
     Launcher& launcher, const QString& title, const Launch& launch, const platform::ProcessEnd& end)
 {
@@ -102,42 +119,52 @@ void TellEnd(
         {title, QString::number(static_cast<double>(end.runMs) / 1000.0, 'f', 1)});
     const QString output = QString::fromLocal8Bit(end.output);
     shell::TellNote(
-        launcher, kCategory, headline, LaunchStory(launch.request, launch.confShown, output));
+        launcher,
+        kCategory,
+        headline,
+        LaunchStory(launch.request.Value(), launch.confShown, output));
 }
 
-/// Writes dosbox.conf and starts the emulator; it is not waited for.
-platform::Done StartLaunch(Launcher& launcher, const QString& title, const Launch& launch)
+/// It is not waited for. What holds it back is told.
+void StartEmulator(Launcher& launcher, const QString& title, const Launch& launch)
 {
-    if (platform::Done written = platform::WriteBytes(launch.confPath, launch.confBytes);
-        !written) {
-        return written;
+    if (!launch.request) {
+        TellFailure(launcher, launch.request.Failure());
+        return;
     }
-    return launcher.ports.processes.StartDetached(
-        launch.request, [&launcher, title, launch](const platform::ProcessEnd& end) {
+    const platform::ProcessRequest& request = launch.request.Value();
+    const platform::Done started = launcher.ports.processes.StartDetached(
+        request, [&launcher, title, launch](const platform::ProcessEnd& end) {
             TellEnd(launcher, title, launch, end);
         });
+    if (!started) {
+        shell::TellNote(
+            launcher,
+            kCategory,
+            started.Failure().text,
+            LaunchStory(request, launch.confShown, QString()));
+    }
 }
 
 void LaunchDosbox(Launcher& launcher, const RunRequest& request, const QString& build)
 {
-    const Outcome<Launch> launch = PrepareLaunch(launcher, request, build);
-    if (!launch) {
-        TellFailure(launcher, launch.Failure());
+    const Outcome<Launch> prepared = PrepareLaunch(launcher, request, build);
+    if (!prepared) {
+        TellFailure(launcher, prepared.Failure());
         return;
     }
-    for (const QString& note : launch.Value().notes) {
+    const Launch& launch = prepared.Value();
+    for (const QString& note : launch.notes) {
         shell::TellNote(launcher, kCategory, note);
     }
-    const platform::Done started = StartLaunch(launcher, request.title, launch.Value());
-    if (!started) {
-        const QString& reason = started.Failure().text;
-        shell::TellNote(
-            launcher,
-            kCategory,
-            reason,
-            LaunchStory(launch.Value().request, launch.Value().confShown, QString()));
+    if (const platform::Done written = platform::WriteBytes(launch.confPath, launch.confBytes);
+        !written) {
+        // No folder, no program: the latter names what the user can do something about.
+        TellFailure(launcher, launch.request ? written.Failure() : launch.request.Failure());
         return;
     }
+    // Whether the emulator came up does not matter to the recent list: the user asked for the game.
+    StartEmulator(launcher, request.title, launch);
     if (EntersRecentList(request.mode)) {
         shell::AddRecent(launcher.recent, request.folder, request.title);
     }
@@ -189,9 +216,9 @@ bool IsPacked(Launcher& launcher, const QString& folder)
 } // namespace
 
 Outcome<dosboxconf::ConfText> BuildDosboxConf(
-    Launcher& launcher, const RunRequest& request, const QString& build)
+    Launcher& launcher, const RunRequest& request, const dosboxconf::RunFacts& facts)
 {
-    if (const platform::Done possible = CheckRequest(request, build); !possible) {
+    if (const platform::Done possible = CheckRequest(request, facts.request.build); !possible) {
         return possible.Failure();
     }
     const bool hasOwn = dosboxconf::HasGameConf(launcher.places, request.folder);
@@ -203,8 +230,6 @@ Outcome<dosboxconf::ConfText> BuildDosboxConf(
             launcher,
             dosboxconf::LoadGameConf(launcher.places, request.folder, launcher.options).report);
     }
-    const dosboxconf::RunFacts facts =
-        dosboxconf::LoadRunFacts(launcher.places, ConfRequestOf(request, build));
     return dosboxconf::ComposeDosboxConf(facts, launcher.options);
 }
 

@@ -15,13 +15,14 @@ namespace pelorin::running {
 
 /// Starts the current game with its start commands, under the build that its settings name. The
 /// right panel shows that game then: its unsaved start commands and CD count. What can't be started
-/// is told in the status bar's fourth panel, and nothing is written then.
+/// is told in the status bar's fourth panel, and nothing is written then; of an emulator that is
+/// missing or does not come up, dosbox.conf is written and the game enters the recent list.
 void RunGame(shell::Launcher& launcher);
 
 /// The text of a start: loads the configuration of the run into the grid, which keeps it, and
-/// composes. Error Refused when the request can't become a text.
+/// composes. `facts` are those of the request. Error Refused when it can't become a text.
 platform::Outcome<dosboxconf::ConfText> BuildDosboxConf(
-    shell::Launcher& launcher, const RunRequest& request, const QString& build);
+    shell::Launcher& launcher, const RunRequest& request, const dosboxconf::RunFacts& facts);
 
 /// mnuRun, the popup of cmdRun(1).
 shell::MenuModel RunMenu(const shell::Launcher& launcher);

@@ -132,54 +132,78 @@ TEST(Run, SettingsOfAnOlderLayoutNameTheirBuildAtTheFirstStart)
 TEST(Run, TellsWhyNothingStarts)
 {
     struct Row {
-        const char* name;
-        void (*spoil)(Installation&, shell::Launcher&);
-        QString told;
-        bool started;
+        const char* name = nullptr;
+        void (*spoil)(Installation&, shell::Launcher&) = nullptr;
+        QStringList values; // the told text holds the first one ...
+        int entry = 0;      // ... or, unless 0, is this text of the language file with all of them
+        bool asked = false; // the system was asked for the start
+        bool written = false; // dosbox.conf is, and the game has entered the recent list
     };
     const Row rows[] = {
         {"no emulator",
          [](Installation& app, shell::Launcher&) {
              QFile::remove(app.folder.Path(u"DOSBox/0.74_SVN/dosbox"_s));
          },
-         u"dosbox"_s,
-         false},
-        {"folder gone",
+         {u"a native program \"dosbox\""_s},
+         0,
+         false,
+         true},
+        {"no folder of the build",
          [](Installation& app, shell::Launcher&) {
-             QDir(app.folder.Path(u"Games/하나"_s)).removeRecursively();
+             QDir(app.folder.Path(u"DOSBox/0.74_SVN"_s)).removeRecursively();
          },
-         u"하나"_s,
-         false},
-        {"packed",
-         [](Installation& app, shell::Launcher&) {
-             app.folder.MakeTree({u"Games/하나/store.7z"_s});
-         },
-         u"하나"_s,
-         false},
-        {"build off the list",
-         [](Installation& app, shell::Launcher&) {
-             app.folder.WriteLines(u"Games/하나/DosBox/edit.conf"_s, {u"ver.15.02.01"_s, u"77"_s});
-         },
-         u"하나"_s,
-         false},
-        {"another emulator",
-         [](Installation& app, shell::Launcher&) {
-             app.folder.WriteLines(u"Games/하나/DosBox/edit.conf"_s, {u"ver.15.02.01"_s, u"14"_s});
-         },
-         u"SNES9X"_s,
-         false},
-        {"too many commands",
-         [](Installation&, shell::Launcher& launcher) {
-             launcher.screens.start.lstAutoexec = QStringList(400, u"rem a long line"_s);
-         },
-         u"[autoexec]"_s,
+         {u"DOSBox/0.74_SVN is missing"_s},
+         0,
+         false,
          false},
         {"the system refuses",
          [](Installation& app, shell::Launcher&) {
              app.fakes.processes.RefuseNext(platform::ErrorKind::Refused, u"no memory"_s);
          },
-         u"no memory"_s,
+         {u"no memory"_s},
+         0,
+         true,
          true},
+        {"folder gone",
+         [](Installation& app, shell::Launcher&) {
+             QDir(app.folder.Path(u"Games/하나"_s)).removeRecursively();
+         },
+         {u"하나"_s},
+         342,
+         false,
+         false},
+        {"packed",
+         [](Installation& app, shell::Launcher&) {
+             app.folder.MakeTree({u"Games/하나/store.7z"_s});
+         },
+         {u"하나"_s},
+         343,
+         false,
+         false},
+        {"build off the list",
+         [](Installation& app, shell::Launcher&) {
+             app.folder.WriteLines(u"Games/하나/DosBox/edit.conf"_s, {u"ver.15.02.01"_s, u"77"_s});
+         },
+         {u"하나"_s},
+         344,
+         false,
+         false},
+        {"another emulator",
+         [](Installation& app, shell::Launcher&) {
+             app.folder.WriteLines(u"Games/하나/DosBox/edit.conf"_s, {u"ver.15.02.01"_s, u"14"_s});
+         },
+         {u"하나"_s, u"SNES9X"_s},
+         345,
+         false,
+         false},
+        {"too many commands",
+         [](Installation&, shell::Launcher& launcher) {
+             launcher.screens.start.lstAutoexec = QStringList(400, u"rem a long line"_s);
+         },
+         {u"[autoexec]"_s},
+         0,
+         false,
+         false},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -188,10 +212,15 @@ TEST(Run, TellsWhyNothingStarts)
         const auto launcher = app.Start();
         row.spoil(app, *launcher);
         running::RunGame(*launcher);
-        EXPECT_TRUE(LastNote(*launcher).contains(row.told)) << LastNote(*launcher).toStdString();
-        EXPECT_EQ(app.fakes.processes.Starts().size(), row.started ? 1U : 0U);
-        EXPECT_EQ(app.folder.Exists(u"DOSBox/0.74_SVN/dosbox.conf"_s), row.started);
-        EXPECT_TRUE(launcher->recent.RecentFolders[0].isEmpty());
+        const QString told = LastNote(*launcher);
+        if (row.entry != 0) {
+            EXPECT_EQ(told, launcher->lang.Text(row.entry, row.values));
+        } else {
+            EXPECT_TRUE(told.contains(row.values.first())) << told.toStdString();
+        }
+        EXPECT_EQ(app.fakes.processes.Starts().size(), row.asked ? 1U : 0U);
+        EXPECT_EQ(app.folder.Exists(u"DOSBox/0.74_SVN/dosbox.conf"_s), row.written);
+        EXPECT_EQ(launcher->recent.RecentFolders[0], row.written ? u"하나"_s : QString());
         EXPECT_TRUE(app.fakes.prompts.Asked().empty());
     }
 }
