@@ -78,7 +78,7 @@ bool HoldsUnfitText(const shell::Places& places, const QString& folder)
 {
     struct Source {
         QString name;
-        int lines;
+        int lines = 0;
     };
     const GameFiles files = ListGame(places, folder);
     for (const Source& source :
@@ -307,11 +307,13 @@ QStringList FoldersWithoutCache(const shell::Places& places, const Catalogue& ca
     for (const GameEntry& entry : catalogue) {
         known.insert(entry.Folder);
     }
+    // Of a full library nobody knows how many folders lie behind the last one.
+    const bool full = catalogue.size() >= kMostGames;
     QStringList missing;
     const QStringList folders = platform::ListFolder(places.gamesRoot).folders;
     for (const QString& folder : folders) {
         if (!known.contains(folder) && MayBeGame(places, folder) &&
-            (!CanNameInList(folder) || HoldsUnfitText(places, folder))) {
+            (!CanNameInList(folder) || (!full && HoldsUnfitText(places, folder)))) {
             missing << folder;
         }
     }

@@ -59,7 +59,8 @@ platform::Done DeleteCatalogueCache(const shell::Places& places);
 QStringList GamesWithoutCache(const Catalogue& catalogue);
 
 /// The sub-folders of GamesRoot that a save has left out and that `catalogue` does not hold. Lists
-/// GamesRoot, and opens only folders that are new there; writes nothing.
+/// GamesRoot, and opens only folders that are new there (none when the Catalogue is full); writes
+/// nothing.
 QStringList FoldersWithoutCache(const shell::Places& places, const Catalogue& catalogue);
 
 } // namespace pelorin::library

@@ -15,7 +15,7 @@ Use UseOf(const QString& word)
 {
     struct Row {
         QStringView word;
-        Use use;
+        Use use = Use::Program;
     };
     static constexpr Row kRows[] = {
         {u"call", Use::Prefix},

@@ -69,7 +69,7 @@ TEST(CacheFaults, ListDamagedOrForeignSheetCutOrOfAnotherSize)
          sheet,
          [](auto& bytes) {
              bytes[18] = 96;
-             bytes += QByteArray(32 * 96, '\0');
+             bytes += QByteArray(qsizetype{32} * 96, '\0');
          },
          u"not the sheet of 2 icons"_s},
         {"no bitmap", sheet, [](auto& bytes) { bytes.replace(0, 2, "PK"); }, u"not the sheet"_s},

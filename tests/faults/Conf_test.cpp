@@ -20,45 +20,45 @@ class ConfFaults : public testing::Test {
 protected:
     ConfFaults()
     {
-        app.AddGame(u"별"_s);
-        app.Start();
-        factory = app.folder.ReadLines(u"Default.conf"_s);
+        m_app.AddGame(u"별"_s);
+        m_app.Start();
+        m_factory = m_app.folder.ReadLines(u"Default.conf"_s);
     }
-    QByteArray Raw(const QString& file) const { return app.folder.ReadRaw(file); }
+    QByteArray Raw(const QString& file) const { return m_app.folder.ReadRaw(file); }
     QByteArray DosboxConf() const { return Raw(u"DOSBox/0.74_SVN/dosbox.conf"_s); }
 
-    Installation app;
-    QStringList factory;
+    Installation m_app;
+    QStringList m_factory;
 };
 
 TEST_F(ConfFaults, DefaultConfCut)
 {
-    app.folder.WriteLines(u"Default.conf"_s, factory.mid(0, 2000));
+    m_app.folder.WriteLines(u"Default.conf"_s, m_factory.mid(0, 2000));
     const QByteArray cut = Raw(u"Default.conf"_s);
     StandardError errors;
-    const auto launcher = app.Start();
-    const QString told = app.folder.Path(u"Default.conf: can't be read whole"_s);
+    const auto launcher = m_app.Start();
+    const QString told = m_app.folder.Path(u"Default.conf: can't be read whole"_s);
     EXPECT_TRUE(Notes(*launcher).contains(told)) << Notes(*launcher).toStdString();
     EXPECT_TRUE(errors.Text().contains(told.toUtf8()));
     running::RunGame(*launcher);
-    EXPECT_EQ(app.fakes.processes.Starts().size(), 1U) << "with factory values";
+    EXPECT_EQ(m_app.fakes.processes.Starts().size(), 1U) << "with factory values";
     EXPECT_EQ(Notes(*launcher).count(told), 1) << "told once";
     EXPECT_EQ(Raw(u"Default.conf"_s), cut);
-    EXPECT_FALSE(app.folder.Exists(u"Default.conf.bak"_s));
+    EXPECT_FALSE(m_app.folder.Exists(u"Default.conf.bak"_s));
 
     ASSERT_TRUE(dosboxconf::WriteDefaultConf(launcher->places, launcher->options));
     EXPECT_EQ(Raw(u"Default.conf.bak"_s), cut);
-    EXPECT_EQ(app.folder.ReadLines(u"Default.conf"_s), factory);
+    EXPECT_EQ(m_app.folder.ReadLines(u"Default.conf"_s), m_factory);
 }
 
 TEST_F(ConfFaults, EditConfShort)
 {
-    app.folder.WriteLines(kEditConf, factory.mid(0, kOutputLine));
+    m_app.folder.WriteLines(kEditConf, m_factory.mid(0, kOutputLine));
     const QByteArray cut = Raw(kEditConf);
-    const auto launcher = app.Start();
+    const auto launcher = m_app.Start();
     running::RunGame(*launcher);
-    EXPECT_EQ(app.fakes.processes.Starts().size(), 1U);
-    EXPECT_TRUE(Notes(*launcher).contains(app.folder.Path(kEditConf + u": lines are missing"_s)))
+    EXPECT_EQ(m_app.fakes.processes.Starts().size(), 1U);
+    EXPECT_TRUE(Notes(*launcher).contains(m_app.folder.Path(kEditConf + u": lines are missing"_s)))
         << Notes(*launcher).toStdString();
     EXPECT_EQ(Raw(kEditConf), cut);
 
@@ -71,14 +71,14 @@ TEST_F(ConfFaults, IndexesOffTheList)
     for (const QString& file : {u"Default.conf"_s, kEditConf}) {
         for (const QString& index : {u"77"_s, u"-1"_s, u"2147483647"_s}) {
             SCOPED_TRACE((file + u' ' + index).toStdString());
-            QStringList lines = factory;
+            QStringList lines = m_factory;
             lines[kOutputLine] = index;
-            app.folder.WriteLines(file, lines);
+            m_app.folder.WriteLines(file, lines);
             const QByteArray before = Raw(file);
-            const auto launcher = app.Start();
+            const auto launcher = m_app.Start();
             running::RunGame(*launcher);
-            const QString told =
-                app.folder.Path(file + u": no such value in the list, so none is used: output\n"_s);
+            const QString told = m_app.folder.Path(
+                file + u": no such value in the list, so none is used: output\n"_s);
             EXPECT_EQ(Notes(*launcher).count(told), 1) << Notes(*launcher).toStdString();
             EXPECT_TRUE(DosboxConf().contains("\r\noutput=\r\n"));
             EXPECT_EQ(Raw(file), before);
@@ -95,14 +95,14 @@ TEST_F(ConfFaults, IndexesOffTheList)
             };
             select({1, 5});
             ASSERT_TRUE(save());
-            EXPECT_FALSE(app.folder.Exists(file + u".bak"_s));
+            EXPECT_FALSE(m_app.folder.Exists(file + u".bak"_s));
             const QByteArray second = Raw(file);
             select({1, 4});
             ASSERT_TRUE(save());
             EXPECT_EQ(Raw(file + u".bak"_s), second);
-            EXPECT_TRUE(QFile::remove(app.folder.Path(file + u".bak"_s)));
+            EXPECT_TRUE(QFile::remove(m_app.folder.Path(file + u".bak"_s)));
         }
-        app.folder.WriteLines(u"Default.conf"_s, factory);
+        m_app.folder.WriteLines(u"Default.conf"_s, m_factory);
     }
 }
 

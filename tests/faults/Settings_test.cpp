@@ -38,15 +38,15 @@ class SettingsFaults : public testing::Test {
 protected:
     SettingsFaults()
     {
-        app.AddGame(u"기본"_s);
-        app.folder.MakeTree({u"내 게임/별/GO.EXE"_s});
-        app.Start();
-        app.folder.WriteLines(u"Launcher.cfg"_s, UsersSettings(app));
+        m_app.AddGame(u"기본"_s);
+        m_app.folder.MakeTree({u"내 게임/별/GO.EXE"_s});
+        m_app.Start();
+        m_app.folder.WriteLines(u"Launcher.cfg"_s, UsersSettings(m_app));
     }
-    QByteArray Cfg() const { return app.folder.ReadRaw(u"Launcher.cfg"_s); }
-    QByteArray Backup() const { return app.folder.ReadRaw(u"Launcher.cfg.bak"_s); }
+    QByteArray Cfg() const { return m_app.folder.ReadRaw(u"Launcher.cfg"_s); }
+    QByteArray Backup() const { return m_app.folder.ReadRaw(u"Launcher.cfg.bak"_s); }
 
-    Installation app;
+    Installation m_app;
 };
 
 TEST_F(SettingsFaults, LauncherCfgDamaged)
@@ -64,19 +64,19 @@ TEST_F(SettingsFaults, LauncherCfgDamaged)
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        QStringList lines = UsersSettings(app);
+        QStringList lines = UsersSettings(m_app);
         row.spoil(lines);
-        app.folder.WriteLines(u"Launcher.cfg"_s, lines);
+        m_app.folder.WriteLines(u"Launcher.cfg"_s, lines);
         const QByteArray damaged = Cfg();
         StandardError errors;
-        const auto launcher = app.Start();
-        const QString told = app.folder.Path(u"Launcher.cfg"_s) + u": "_s + row.line;
+        const auto launcher = m_app.Start();
+        const QString told = m_app.folder.Path(u"Launcher.cfg"_s) + u": "_s + row.line;
         EXPECT_TRUE(Notes(*launcher).contains(told)) << Notes(*launcher).toStdString();
         EXPECT_TRUE(Notes(*launcher).contains(u"Launcher.cfg.bak"_s));
         EXPECT_TRUE(errors.Text().contains(told.toUtf8()));
         EXPECT_EQ(Backup(), damaged);
-        EXPECT_EQ(launcher->places.gamesRoot, app.folder.Path(u"Games"_s));
-        EXPECT_EQ(app.folder.ReadLines(u"Launcher.cfg"_s)[5], app.folder.Path(u"Games"_s));
+        EXPECT_EQ(launcher->places.gamesRoot, m_app.folder.Path(u"Games"_s));
+        EXPECT_EQ(m_app.folder.ReadLines(u"Launcher.cfg"_s)[5], m_app.folder.Path(u"Games"_s));
         EXPECT_TRUE(shell::Form_Unload(*launcher));
         EXPECT_EQ(Backup(), damaged);
     }
@@ -94,19 +94,19 @@ TEST_F(SettingsFaults, SecondErrorInTheSettings)
         {"unreadable recent list", u"recent.sav"_s, u"recent.sav/inside"_s, u"recent.sav"_s},
         {"a file for a folder", u"preset"_s, u"preset"_s, u"preset"_s},
     };
-    app.folder.WriteLines(u"Launcher.cfg"_s, {u"damaged"_s});
+    m_app.folder.WriteLines(u"Launcher.cfg"_s, {u"damaged"_s});
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        const QString path = app.folder.Path(row.gone);
+        const QString path = m_app.folder.Path(row.gone);
         ASSERT_TRUE(QFile::remove(path) || QDir(path).removeRecursively());
-        app.folder.MakeTree({row.blocked});
-        const auto before = FilesOf(app.folder);
-        const auto launcher = app.NewLauncher();
+        m_app.folder.MakeTree({row.blocked});
+        const auto before = FilesOf(m_app.folder);
+        const auto launcher = m_app.NewLauncher();
         const platform::Done loaded = shell::Form_Load(*launcher);
         ASSERT_FALSE(loaded);
-        EXPECT_TRUE(loaded.Failure().text.startsWith(app.folder.Path(row.told) + u": "_s))
+        EXPECT_TRUE(loaded.Failure().text.startsWith(m_app.folder.Path(row.told) + u": "_s))
             << loaded.Failure().text.toStdString();
-        EXPECT_EQ(FilesOf(app.folder), before);
+        EXPECT_EQ(FilesOf(m_app.folder), before);
         QDir(path).removeRecursively();
     }
 }
@@ -114,15 +114,15 @@ TEST_F(SettingsFaults, SecondErrorInTheSettings)
 TEST_F(SettingsFaults, ARootThatIsGone)
 {
     const QByteArray before = Cfg();
-    ASSERT_TRUE(QDir().rename(app.folder.Path(u"내 게임"_s), app.folder.Path(u"뺀 디스크"_s)));
-    const auto launcher = app.Start();
-    EXPECT_EQ(launcher->places.gamesRoot, app.folder.Path(u"Games"_s));
-    EXPECT_EQ(launcher->places.exportRoot, app.folder.Path(u"Export"_s));
-    EXPECT_EQ(Notes(*launcher).count(app.folder.Path(u"내 게임"_s)), 2) << "one for each root";
+    ASSERT_TRUE(QDir().rename(m_app.folder.Path(u"내 게임"_s), m_app.folder.Path(u"뺀 디스크"_s)));
+    const auto launcher = m_app.Start();
+    EXPECT_EQ(launcher->places.gamesRoot, m_app.folder.Path(u"Games"_s));
+    EXPECT_EQ(launcher->places.exportRoot, m_app.folder.Path(u"Export"_s));
+    EXPECT_EQ(Notes(*launcher).count(m_app.folder.Path(u"내 게임"_s)), 2) << "one for each root";
     EXPECT_EQ(launcher->screens.list.view, finding::View::Details) << "the rest is kept";
     EXPECT_EQ(Backup(), before);
     ASSERT_TRUE(shell::Form_Unload(*launcher));
-    EXPECT_EQ(app.folder.ReadLines(u"Launcher.cfg"_s)[5], app.folder.Path(u"Games"_s));
+    EXPECT_EQ(m_app.folder.ReadLines(u"Launcher.cfg"_s)[5], m_app.folder.Path(u"Games"_s));
     EXPECT_EQ(Backup(), before);
 }
 

@@ -207,6 +207,10 @@ TEST_F(CatalogueCacheTest, WhatWasLeftOutIsFoundAgainByNameOrText)
     library.catalogue[0].Folder = u"Café"_s;
     EXPECT_FALSE(
         library::FoldersWithoutCache(m_library.places, library.catalogue).contains(u"Café"_s));
+    library.catalogue.resize(library::kMostGames);
+    EXPECT_THAT(
+        library::FoldersWithoutCache(m_library.places, library.catalogue), ElementsAre(u"Café 2"_s))
+        << "a full library takes no more";
 }
 
 TEST_F(CatalogueCacheTest, DamagedListsAreRefused)
