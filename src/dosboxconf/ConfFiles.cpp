@@ -75,8 +75,10 @@ void NoteOffTheirLists(
         return;
     }
     const QString more = off.size() > kMostNamed ? u", ..."_s : QString();
-    report.notes << u"%1: no such value in the list, so none is used: %2"_s.arg(
-        path, off.mid(0, kMostNamed).join(u", "_s) + more);
+    report.notes << platform::Wording{
+        400,
+        u"<1>: no such value in the list, so none is used: <2>"_s,
+        {path, off.mid(0, kMostNamed).join(u", "_s) + more}};
 }
 
 /// Whether `table` lacks something that nobody could have seen in the old one.
@@ -112,8 +114,10 @@ Outcome<ConfReport> WriteConf(
             return kept.Failure();
         }
         report.backupKept = true;
-        report.notes << u"%1: the old file is kept as %2.bak"_s.arg(
-            path, platform::LastPathSegment(path));
+        report.notes << platform::Wording{
+            401,
+            u"<1>: the old file is kept as <2>.bak."_s,
+            {path, platform::LastPathSegment(path)}};
     }
     if (const platform::Done written = platform::WriteLines(path, PrintConf(table)); !written) {
         return written.Failure();
@@ -127,7 +131,7 @@ void WriteOrNote(ConfReport& report, const Outcome<ConfReport>& written)
     if (written) {
         Merge(report, written.Value());
     } else {
-        report.notes << written.Failure().text;
+        report.notes << written.Failure().Told();
     }
 }
 
@@ -247,7 +251,8 @@ ConfReport ReadDefaultConf(const shell::Places& places, OptionGrid& grid)
     if (!stored.whole) {
         SetFactoryDefaults(grid);
         report.fellBack = true;
-        report.notes << u"%1: can't be read whole; factory settings stand in"_s.arg(path);
+        report.notes << platform::Wording{
+            402, u"<1>: can't be read whole; factory settings stand in."_s, {path}};
     } else if (stored.layout == ConfLayout::Current) {
         grid.OptionSelection = stored.values;
     } else {
@@ -288,14 +293,15 @@ LoadedConf LoadGameConf(const shell::Places& places, const QString& folder, Opti
     const Outcome<QStringList> lines = platform::ReadLines(path);
     if (!lines) {
         loaded.report.fellBack = true;
-        loaded.report.notes << lines.Failure().text;
+        loaded.report.notes << lines.Failure().Told();
         return loaded;
     }
     StoredConf stored = ParseConf(lines.Value());
     // Of a file without a mark nothing is taken, however many lines it has.
     if (!stored.whole && stored.layout != ConfLayout::Groups11) {
         loaded.report.linesMissing = true;
-        loaded.report.notes << u"%1: lines are missing; these options are 0"_s.arg(path);
+        loaded.report.notes << platform::Wording{
+            403, u"<1>: lines are missing; these options are 0."_s, {path}};
     }
     if (stored.layout != ConfLayout::Current) {
         loaded.report.upgraded = true;

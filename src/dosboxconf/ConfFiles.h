@@ -18,7 +18,7 @@
 
 namespace pelorin::dosboxconf {
 
-/// What happened on the way. `notes` are for the user, in English, each naming its file; whoever
+/// What happened on the way. `notes` are for the user, each naming its file; whoever
 /// calls again and again (a selection does) shows a note once.
 struct ConfReport {
     bool created = false;  // there was no file; factory values were written
@@ -26,7 +26,7 @@ struct ConfReport {
     bool fellBack = false; // the file could not be read whole; factory values stand in
     bool linesMissing = false; // edit.conf was too short; what was missing reads as 0
     bool backupKept = false;   // the old file lies beside the new one as .bak
-    QStringList notes;
+    QList<platform::Wording> notes;
 };
 
 /// One row of lstEdit(0..2): an option that a game sets differently from the global settings.

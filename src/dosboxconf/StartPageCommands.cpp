@@ -68,7 +68,7 @@ void WriteAutoexecConf(Launcher& launcher)
     const platform::Done written =
         WriteAutoexecConf(launcher.places, folder, commands, platform::Loss::Accept);
     if (!written) {
-        shell::TellNote(launcher, kCategory, written.Failure().text);
+        shell::TellNote(launcher, kCategory, written.Failure());
     }
 }
 
@@ -110,7 +110,7 @@ void cmdSaveCD_Click(Launcher& launcher)
     const QString folder = ShownGame(launcher); // by value: the refresh may show another
     if (const platform::Done saved = SaveCdConf(launcher.places, folder, launcher.screens.cd);
         !saved) {
-        shell::TellNote(launcher, kCategory, saved.Failure().text);
+        shell::TellNote(launcher, kCategory, saved.Failure());
         return;
     }
     library::RefreshGameEntry(launcher, folder);

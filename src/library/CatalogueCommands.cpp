@@ -174,7 +174,7 @@ bool FillByCache(Launcher& launcher)
 void TellEmptyLibrary(Launcher& launcher)
 {
     if (const Done deleted = DeleteCatalogueCache(launcher.places); !deleted) {
-        shell::TellNote(launcher, kCategory, deleted.Failure().text);
+        shell::TellNote(launcher, kCategory, deleted.Failure());
     }
     launcher.ports.prompts.Ask(platform::MessageBox{
         launcher.lang[135] + u"\r\n\r\n"_s + launcher.lang[134],

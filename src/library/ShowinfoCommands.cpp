@@ -60,7 +60,7 @@ void ShowStartPage(Launcher& launcher, const GameFiles& files)
     const platform::Outcome<QStringList> commands =
         dosboxconf::ReadAutoexecConf(launcher.places, files.folder);
     if (!commands) {
-        shell::TellNote(launcher, kCategory, commands.Failure().text);
+        shell::TellNote(launcher, kCategory, commands.Failure());
     }
     dosboxconf::FillStartCommands(start, commands.ValueOr({}));
     start.fileEXE = RunnableFiles(files);
@@ -123,7 +123,7 @@ void WriteGameInfo(Launcher& launcher)
     }
     GameFiles files = ListGame(launcher.places, folder);
     if (const platform::Done written = WriteInfo(files, info, Loss::Accept); !written) {
-        shell::TellNote(launcher, kCategory, written.Failure().text);
+        shell::TellNote(launcher, kCategory, written.Failure());
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Wording.h"
+
 #include <QString>
 
 #include <utility>
@@ -20,7 +22,15 @@ enum class ErrorKind {
 /// Why something failed: a kind for the program and a text for the user, which names the file.
 struct Error {
     ErrorKind kind = ErrorKind::Malformed;
-    QString text;
+    QString text;    // English
+    Wording words{}; // the same in the language of the window; empty where nobody has worded it
+
+    static Error Worded(ErrorKind kind, const Wording& words)
+    {
+        return Error{kind, words.English(), words};
+    }
+    /// What to tell: the words, or else the text as it stands.
+    Wording Told() const { return words.english.isEmpty() ? Wording{0, text, {}} : words; }
 };
 
 /// A value, or the error that stands in its place. Never both, never neither.

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <optional>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -14,9 +15,9 @@ namespace pelorin::platform {
 
 namespace {
 
-Error Missing(const QString& text)
+Error Missing(const Wording& words)
 {
-    return {ErrorKind::NotFound, text};
+    return Error::Worded(ErrorKind::NotFound, words);
 }
 
 bool IsExecutableFile(const QString& path)
@@ -74,16 +75,19 @@ HostProgram NativeProgram(const QString& path, const QString& stem)
     return host;
 }
 
-/// What is wrong with a native counterpart that is there; empty when there is none.
-QString WhyNotNative(const QString& path)
+/// What is wrong with a native counterpart that is there; nothing when there is none.
+std::optional<Wording> WhyNotNative(const QString& path)
 {
     const QFileInfo info(path);
     if (info.isSymLink() && !info.exists()) {
-        return u"%1 is a link to %2, which is missing"_s.arg(path, info.symLinkTarget());
+        return Wording{
+            393, u"<1> is a link to <2>, which is missing."_s, {path, info.symLinkTarget()}};
     }
-    return info.isFile()
-               ? u"%1 is no program of this system, or not marked as executable"_s.arg(path)
-               : QString();
+    if (!info.isFile()) {
+        return std::nullopt;
+    }
+    return Wording{
+        394, u"<1> is no program of this system, or not marked as executable."_s, {path}};
 }
 
 } // namespace
@@ -113,33 +117,35 @@ Outcome<HostProgram> ProgramHost::Find(const QString& program) const
     const QFileInfo asked(path);
     const Listing beside = ListFolder(asked.path());
     if (!beside.exists) {
-        return Missing(u"the folder %1 is missing"_s.arg(asked.path()));
+        return Missing(Wording{395, u"The folder <1> is missing."_s, {asked.path()}});
     }
     const QString folder = asked.path() + u'/';
     const QString stem = WithoutExe(asked.fileName());
-    QString trouble;
+    std::optional<Wording> trouble;
     for (const QString& wanted : NativeNames(stem)) {
         const QString name = beside.Find(wanted); // lists no broken link
         const QString native = folder + (name.isEmpty() ? wanted : name);
         if (IsNativeProgram(native)) {
             return NativeProgram(native, stem);
         }
-        if (trouble.isEmpty()) {
+        if (!trouble) {
             trouble = WhyNotNative(native);
         }
     }
     const QString windowsName = beside.Find(asked.fileName());
     if (stem == asked.fileName() || !beside.HasFile(windowsName)) {
-        return Missing(
-            trouble.isEmpty() ? u"neither %1 nor a native program \"%2\" beside it is there"_s.arg(
-                                    path, NativeNames(stem).join(u"\", \""_s))
-                              : trouble);
+        return Missing(trouble.value_or(Wording{
+            396,
+            u"Neither <1> nor a native program <2> beside it is there."_s,
+            {path, NativeNames(stem).join(u", "_s)}}));
     }
     HostProgram host;
     host.program = FindExecutable(m_searchPath, {u"wine"_s, u"wine64"_s});
     if (host.program.isEmpty()) {
-        return Missing(
-            u"%1 is a Windows program, and Wine is not installed"_s.arg(folder + windowsName));
+        return Missing(Wording{
+            397,
+            u"<1> is a Windows program, and Wine is not installed."_s,
+            {folder + windowsName}});
     }
     host.leading = QStringList{folder + windowsName};
     host.pathForm = PathForm::Windows;
@@ -157,7 +163,8 @@ Outcome<HostProgram> ProgramHost::FindTool(const QString& name) const
         found = FindExecutable(m_searchPath, names);
     }
     if (found.isEmpty()) {
-        return Missing(u"none of the programs \"%1\" is installed"_s.arg(names.join(u"\", \""_s)));
+        return Missing(
+            Wording{398, u"None of these programs is installed: <1>"_s, {names.join(u", "_s)}});
     }
     return NativeProgram(found, QString());
 }

@@ -16,6 +16,7 @@ namespace {
 using platform::Error;
 using platform::ErrorKind;
 using platform::PathForm;
+using platform::Wording;
 
 bool BreaksItsLine(QChar c)
 {
@@ -36,10 +37,12 @@ qsizetype AutoexecSize(const QByteArray& printed)
 
 Error BrokenName(const QString& name)
 {
-    return Error{
+    return Error::Worded(
         ErrorKind::Refused,
-        u"%1: a quotation mark or a line break in a name can't be written to dosbox.conf"_s.arg(
-            name)};
+        Wording{
+            387,
+            u"<1>: a quotation mark or a line break in a name can't be written to dosbox.conf."_s,
+            {name}});
 }
 
 /// `firstTooLong` bytes and more are refused.
@@ -52,10 +55,12 @@ platform::Done CheckPath(const QString& path, qsizetype firstTooLong, PathForm f
     if (form == PathForm::Windows || bytes < firstTooLong) {
         return platform::Success();
     }
-    return Error{
+    return Error::Worded(
         ErrorKind::Refused,
-        u"%1: the path has %2 bytes; DOSBox takes no more than %3 here"_s.arg(path).arg(bytes).arg(
-            firstTooLong - 1)};
+        Wording{
+            388,
+            u"<1>: the path has <2> bytes; DOSBox takes no more than <3> here."_s,
+            {path, QString::number(bytes), QString::number(firstTooLong - 1)}});
 }
 
 platform::Done CheckImages(const dosboxconf::RunFacts& facts, PathForm form)
@@ -81,11 +86,12 @@ platform::Done CheckAutoexec(const QByteArray& printed)
     if (bytes <= most) {
         return platform::Success();
     }
-    return Error{
+    return Error::Worded(
         ErrorKind::Refused,
-        u"The [autoexec] section has %1 bytes; DOSBox takes %2. Fewer start commands or CD "
-        "images would help."_s.arg(bytes)
-            .arg(most)};
+        Wording{
+            389,
+            u"The start commands make <1> bytes; DOSBox takes <2>. Fewer of them or fewer CD images help."_s,
+            {QString::number(bytes), QString::number(most)}});
 }
 
 QStringList TypedCommands(const RunRequest& request)
@@ -121,9 +127,10 @@ platform::Done CheckCommands(const RunRequest& request, PathForm form)
     for (const QString& command : commands) {
         const QStringList needed = UnopenableNamesIn(command).needed;
         if (!needed.isEmpty()) {
-            return Error{
+            return Error::Worded(
                 ErrorKind::Refused,
-                u"%1: DOSBox can't open a file with such a name"_s.arg(needed.first())};
+                Wording{
+                    390, u"<1>: DOSBox can't open a file with such a name."_s, {needed.first()}});
         }
     }
     return platform::Success();
@@ -143,24 +150,26 @@ platform::Done CheckLaunch(
     return form == PathForm::Posix ? CheckAutoexec(finished.Print(form)) : platform::Success();
 }
 
-QStringList LaunchNotes(
+QList<Wording> LaunchNotes(
     const RunRequest& request, const platform::HostText& finished, PathForm form)
 {
-    QStringList notes;
+    QList<Wording> notes;
     if (form == PathForm::Posix) {
         const QStringList commands = TypedCommands(request);
         for (const QString& command : commands) {
             const QStringList passedOn = UnopenableNamesIn(command).passedOn;
             for (const QString& word : passedOn) {
-                notes << u"%1: if this is a file, DOSBox can't open it by such a name"_s.arg(word);
+                notes << Wording{
+                    391, u"<1>: if this is a file, DOSBox can't open it by such a name."_s, {word}};
             }
         }
     }
     if (const QString lost = finished.Lost(form); !lost.isEmpty()) {
-        notes << u"dosbox.conf can't hold these characters: %1"_s.arg(lost);
+        notes << Wording{392, u"dosbox.conf can't hold these characters: <1>"_s, {lost}};
     }
     if (request.mode == RunMode::NetHost && request.serverPort != dosboxconf::kIpxPort) {
-        notes << u"The IPX server listens on port %1"_s.arg(request.serverPort);
+        notes << Wording{
+            399, u"The IPX server listens on port <1>."_s, {QString::number(request.serverPort)}};
     }
     return notes;
 }

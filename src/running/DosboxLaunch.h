@@ -5,6 +5,7 @@
 #include "platform/Outcome.h"
 #include "running/RunRequest.h"
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -39,7 +40,7 @@ platform::Done CheckLaunch(
 /// What the user should know and what does not hold back the start, one text each: a word of a start
 /// command that is no name of a file for a native DOSBox, characters that the guest's code page can't keep,
 /// a server that listens on another port than 213.
-QStringList LaunchNotes(
+QList<platform::Wording> LaunchNotes(
     const RunRequest& request, const platform::HostText& finished, platform::PathForm form);
 
 } // namespace pelorin::running

@@ -17,7 +17,10 @@ QString Quoted(const QString& argument)
 } // namespace
 
 QString LaunchStory(
-    const platform::ProcessRequest& request, const QString& confText, const QString& output)
+    const shell::LangTable& lang,
+    const platform::ProcessRequest& request,
+    const QString& confText,
+    const QString& output)
 {
     QStringList command{Quoted(request.program)};
     for (const QString& argument : request.arguments) {
@@ -28,11 +31,11 @@ QString LaunchStory(
         environment << it.key() + u'=' + it.value();
     }
     const QStringList lines{
-        u"Command: "_s + command.join(u' '),
-        u"Folder: "_s + request.workingFolder,
-        u"Environment added: "_s + environment.join(u' '),
+        lang.OwnText(404, u"Command: <1>"_s, {command.join(u' ')}),
+        lang.OwnText(405, u"Folder: <1>"_s, {request.workingFolder}),
+        lang.OwnText(406, u"Environment added: <1>"_s, {environment.join(u' ')}),
         QString(),
-        u"Output:"_s,
+        lang.OwnText(407, u"Output:"_s),
         output,
         u"dosbox.conf:"_s,
         confText};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Processes.h"
+#include "shell/LangTable.h"
 
 #include <QString>
 
@@ -12,6 +13,9 @@ inline constexpr qint64 kTooShortMs = 3000;
 /// All that a start was made of, for the user who wants to know why it failed: command, folder,
 /// environment, the text of dosbox.conf, and what the program printed.
 QString LaunchStory(
-    const platform::ProcessRequest& request, const QString& confText, const QString& output);
+    const shell::LangTable& lang,
+    const platform::ProcessRequest& request,
+    const QString& confText,
+    const QString& output);
 
 } // namespace pelorin::running

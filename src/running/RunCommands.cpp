@@ -43,18 +43,13 @@ RunRequest RequestOf(const Launcher& launcher, RunMode mode)
     return request;
 }
 
-void TellFailure(Launcher& launcher, const platform::Error& error)
-{
-    shell::TellNote(launcher, kCategory, error.text);
-}
-
 /// A start ready to go: what to run, and the text that lies in its folder as dosbox.conf.
 struct Launch {
     Outcome<platform::ProcessRequest> request; // or why there is no program
     QString confPath;
     QByteArray confBytes;
     QString confShown;
-    QStringList notes;
+    QList<platform::Wording> notes;
 };
 
 /// Without a program: of the Windows program that is there and can't be run, else our own.
@@ -122,14 +117,14 @@ void TellEnd(
         launcher,
         kCategory,
         headline,
-        LaunchStory(launch.request.Value(), launch.confShown, output));
+        LaunchStory(launcher.lang, launch.request.Value(), launch.confShown, output));
 }
 
 /// It is not waited for. What holds it back is told.
 void StartEmulator(Launcher& launcher, const QString& title, const Launch& launch)
 {
     if (!launch.request) {
-        TellFailure(launcher, launch.request.Failure());
+        shell::TellNote(launcher, kCategory, launch.request.Failure());
         return;
     }
     const platform::ProcessRequest& request = launch.request.Value();
@@ -141,8 +136,8 @@ void StartEmulator(Launcher& launcher, const QString& title, const Launch& launc
         shell::TellNote(
             launcher,
             kCategory,
-            started.Failure().text,
-            LaunchStory(request, launch.confShown, QString()));
+            started.Failure(),
+            LaunchStory(launcher.lang, request, launch.confShown, QString()));
     }
 }
 
@@ -150,17 +145,18 @@ void LaunchDosbox(Launcher& launcher, const RunRequest& request, const QString& 
 {
     const Outcome<Launch> prepared = PrepareLaunch(launcher, request, build);
     if (!prepared) {
-        TellFailure(launcher, prepared.Failure());
+        shell::TellNote(launcher, kCategory, prepared.Failure());
         return;
     }
     const Launch& launch = prepared.Value();
-    for (const QString& note : launch.notes) {
-        shell::TellNote(launcher, kCategory, note);
+    for (const platform::Wording& note : launch.notes) {
+        shell::TellNote(launcher, kCategory, launcher.lang.Told(note));
     }
     if (const platform::Done written = platform::WriteBytes(launch.confPath, launch.confBytes);
         !written) {
         // No folder, no program: the latter names what the user can do something about.
-        TellFailure(launcher, launch.request ? written.Failure() : launch.request.Failure());
+        shell::TellNote(
+            launcher, kCategory, launch.request ? written.Failure() : launch.request.Failure());
         return;
     }
     // Whether the emulator came up does not matter to the recent list: the user asked for the game.

@@ -108,4 +108,10 @@ void TellNote(Launcher& launcher, const char* category, const QString& text, con
     launcher.screens.status.Tell(text, story.isEmpty() ? text : story);
 }
 
+void TellNote(
+    Launcher& launcher, const char* category, const platform::Error& failure, const QString& story)
+{
+    TellNote(launcher, category, launcher.lang.Told(failure.Told()), story);
+}
+
 } // namespace pelorin::shell

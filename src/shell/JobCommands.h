@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Outcome.h"
+
 #include <QString>
 
 namespace pelorin::shell {
@@ -41,6 +43,12 @@ void TellNote(
     Launcher& launcher,
     const char* category,
     const QString& text,
+    const QString& story = QString());
+/// The same for what failed, in the window's language where that has words for it.
+void TellNote(
+    Launcher& launcher,
+    const char* category,
+    const platform::Error& failure,
     const QString& story = QString());
 
 } // namespace pelorin::shell

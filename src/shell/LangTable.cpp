@@ -24,14 +24,6 @@ bool IsKoreanName(const QString& name)
     return name == u"펠로린"_s;
 }
 
-QString Filled(QString text, const QStringList& values)
-{
-    for (qsizetype i = 0; i < values.size(); ++i) {
-        text.replace(u"<%1>"_s.arg(i + 1), values[i]);
-    }
-    return text;
-}
-
 } // namespace
 
 Outcome<LangTable> LangTable::FromLines(const QStringList& lines, const QString& name)
@@ -67,13 +59,19 @@ const QString& LangTable::operator[](int entry) const
 
 QString LangTable::Text(int entry, const QStringList& values) const
 {
-    return Filled((*this)[entry], values);
+    return platform::Wording::Filled((*this)[entry], values);
 }
 
 QString LangTable::OwnText(int entry, const QString& english, const QStringList& values) const
 {
     const QString& text = (*this)[entry];
-    return Filled(text.isEmpty() ? english : text, values);
+    return platform::Wording::Filled(text.isEmpty() ? english : text, values);
+}
+
+QString LangTable::Told(const platform::Wording& words) const
+{
+    return words.entry > kLastEntry ? OwnText(words.entry, words.english, words.values)
+                                    : words.English();
 }
 
 bool LangTable::IsKorean() const

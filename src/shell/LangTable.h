@@ -28,6 +28,9 @@ public:
     QString OwnText(
         int entry, const QString& english, const QStringList& values = QStringList()) const;
 
+    /// OwnText of these words; without an entry their English.
+    QString Told(const platform::Wording& words) const;
+
     /// Entry 1 is exactly the Korean name.
     bool IsKorean() const;
 

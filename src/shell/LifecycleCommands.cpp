@@ -40,7 +40,7 @@ void ClearObsoleteFolder(Launcher& launcher)
         return;
     }
     if (const platform::Done gone = launcher.ports.bin.MoveToBin(path); !gone) {
-        TellNote(launcher, kCategory, gone.Failure().text);
+        TellNote(launcher, kCategory, gone.Failure());
     }
 }
 

@@ -296,7 +296,7 @@ def agreement_faults(root, language):
 
 
 # OwnText(340, u"..."_s and OwnEntry kOwnYes{355, u"..."}
-BUILT_IN = re.compile(r'(?:OwnText\(|OwnEntry \w+\{)\s*(\d+),\s*u"((?:[^"\\]|\\.)*)"')
+BUILT_IN = re.compile(r'(?:OwnText\(|OwnEntry \w+\{|Wording\{)\s*(\d+),\s*u"((?:[^"\\]|\\.)*)"')
 
 
 def built_in_faults(root):
