@@ -113,17 +113,20 @@ TEST(DosboxLaunchTest, NotesTellWhatDoesNotHoldBackTheStart)
     request.typedLine = u"play.exe 둘.dat"_s;
     const HostText plain = HostText().Text(u"가"_s);
     ASSERT_EQ(LaunchNotes(request, plain, PathForm::Posix).size(), 1);
-    EXPECT_TRUE(LaunchNotes(request, plain, PathForm::Posix).first().English().contains(u"지도.dat"_s));
+    EXPECT_TRUE(
+        LaunchNotes(request, plain, PathForm::Posix).first().English().contains(u"지도.dat"_s));
     EXPECT_TRUE(LaunchNotes(request, plain, PathForm::Windows).isEmpty());
     request.mode = RunMode::DosPrompt;
     EXPECT_TRUE(LaunchNotes(request, plain, PathForm::Posix).isEmpty());
     request.mode = RunMode::FileWithArgs;
-    EXPECT_TRUE(LaunchNotes(request, plain, PathForm::Posix).first().English().contains(u"둘.dat"_s));
+    EXPECT_TRUE(
+        LaunchNotes(request, plain, PathForm::Posix).first().English().contains(u"둘.dat"_s));
 
     request.mode = RunMode::NetHost;
     request.startCommands.clear();
     request.serverPort = dosboxconf::kIpxFallbackPort;
-    const QList<platform::Wording> notes = LaunchNotes(request, HostText().Text(u"żółw"_s), PathForm::Posix);
+    const QList<platform::Wording> notes =
+        LaunchNotes(request, HostText().Text(u"żółw"_s), PathForm::Posix);
     ASSERT_EQ(notes.size(), 2);
     EXPECT_TRUE(notes[0].English().contains(u"żó"_s));
     EXPECT_TRUE(notes[1].English().contains(u"19900"_s));
