@@ -1,4 +1,5 @@
 #include "library/ShowinfoCommands.h"
+#include "running/DosboxLaunch.h"
 #include "running/RunCommands.h"
 #include "shell/JobCommands.h"
 #include "support/Installation.h"
@@ -144,16 +145,16 @@ TEST(Run, TellsWhyNothingStarts)
          [](Installation& app, shell::Launcher&) {
              QFile::remove(app.folder.Path(u"DOSBox/0.74_SVN/dosbox"_s));
          },
-         {u"a native program \"dosbox\""_s},
-         0,
+         {u"DOSBox/0.74_SVN/dosbox.exe"_s, u"dosbox"_s},
+         396,
          false,
          true},
         {"no folder of the build",
          [](Installation& app, shell::Launcher&) {
              QDir(app.folder.Path(u"DOSBox/0.74_SVN"_s)).removeRecursively();
          },
-         {u"DOSBox/0.74_SVN is missing"_s},
-         0,
+         {u"DOSBox/0.74_SVN"_s},
+         395,
          false,
          false},
         {"the system refuses",
@@ -200,7 +201,7 @@ TEST(Run, TellsWhyNothingStarts)
          [](Installation&, shell::Launcher& launcher) {
              launcher.screens.start.lstAutoexec = QStringList(400, u"rem a long line"_s);
          },
-         {u"[autoexec]"_s},
+         {QString::number(running::kAutoexecBytes)},
          0,
          false,
          false},
@@ -214,7 +215,11 @@ TEST(Run, TellsWhyNothingStarts)
         running::RunGame(*launcher);
         const QString told = LastNote(*launcher);
         if (row.entry != 0) {
-            EXPECT_EQ(told, launcher->lang.Text(row.entry, row.values));
+            QStringList values = row.values;
+            if (values.first().startsWith(u"DOSBox/")) {
+                values.first() = app.folder.Path(values.first());
+            }
+            EXPECT_EQ(told, launcher->lang.Text(row.entry, values));
         } else {
             EXPECT_TRUE(told.contains(row.values.first())) << told.toStdString();
         }

@@ -37,7 +37,7 @@ TEST_F(ConfFaults, DefaultConfCut)
     const QByteArray cut = Raw(u"Default.conf"_s);
     StandardError errors;
     const auto launcher = m_app.Start();
-    const QString told = m_app.folder.Path(u"Default.conf: can't be read whole"_s);
+    const QString told = launcher->lang.Text(402, {m_app.folder.Path(u"Default.conf"_s)});
     EXPECT_TRUE(Notes(*launcher).contains(told)) << Notes(*launcher).toStdString();
     EXPECT_TRUE(errors.Text().contains(told.toUtf8()));
     running::RunGame(*launcher);
@@ -58,7 +58,7 @@ TEST_F(ConfFaults, EditConfShort)
     const auto launcher = m_app.Start();
     running::RunGame(*launcher);
     EXPECT_EQ(m_app.fakes.processes.Starts().size(), 1U);
-    EXPECT_TRUE(Notes(*launcher).contains(m_app.folder.Path(kEditConf + u": lines are missing"_s)))
+    EXPECT_TRUE(Notes(*launcher).contains(launcher->lang.Text(403, {m_app.folder.Path(kEditConf)})))
         << Notes(*launcher).toStdString();
     EXPECT_EQ(Raw(kEditConf), cut);
 
@@ -77,8 +77,8 @@ TEST_F(ConfFaults, IndexesOffTheList)
             const QByteArray before = Raw(file);
             const auto launcher = m_app.Start();
             running::RunGame(*launcher);
-            const QString told = m_app.folder.Path(
-                file + u": no such value in the list, so none is used: output\n"_s);
+            const QString told =
+                launcher->lang.Text(400, {m_app.folder.Path(file), u"output"_s}) + u'\n';
             EXPECT_EQ(Notes(*launcher).count(told), 1) << Notes(*launcher).toStdString();
             EXPECT_TRUE(DosboxConf().contains("\r\noutput=\r\n"));
             EXPECT_EQ(Raw(file), before);

@@ -44,7 +44,10 @@ TEST(LaunchFaults, MountedPathOf239Bytes)
     app.AddGame(nameOf(239));
     const auto launcher = app.Start();
     Click(*launcher, nameOf(239));
-    ExpectNoStart(app, *launcher, u"239 bytes"_s);
+    ExpectNoStart(
+        app,
+        *launcher,
+        launcher->lang.Text(388, {app.folder.Path(u"Games/"_s + nameOf(239)), u"239"_s, u"238"_s}));
     Click(*launcher, nameOf(238));
     EXPECT_TRUE(Starts(app, *launcher)) << Notes(*launcher).toStdString();
 }
@@ -55,7 +58,7 @@ TEST(LaunchFaults, AutoexecTooLong)
     app.AddGame(u"별"_s);
     const auto launcher = app.Start();
     launcher->screens.start.lstAutoexec = QStringList(100, QString(60, u'x'));
-    ExpectNoStart(app, *launcher, u"[autoexec]"_s);
+    ExpectNoStart(app, *launcher, QString::number(running::kAutoexecBytes));
     // Up to the last byte that the emulator takes.
     launcher->screens.start.lstAutoexec = {u"x"_s};
     ASSERT_TRUE(Starts(app, *launcher));
@@ -65,7 +68,7 @@ TEST(LaunchFaults, AutoexecTooLong)
     QFile::remove(app.folder.Path(kConf));
     launcher->recent = shell::RecentList();
     launcher->screens.start.lstAutoexec = {QString(left + 2, u'x')};
-    ExpectNoStart(app, *launcher, u"[autoexec]"_s);
+    ExpectNoStart(app, *launcher, QString::number(running::kAutoexecBytes));
     launcher->screens.start.lstAutoexec = {QString(left + 1, u'x')};
     EXPECT_TRUE(Starts(app, *launcher)) << Notes(*launcher).toStdString();
 }
@@ -109,7 +112,7 @@ TEST(LaunchFaults, KoreanStartFile)
             EXPECT_TRUE(Starts(app, *launcher));
             EXPECT_EQ(Notes(*launcher), QString());
         } else {
-            ExpectNoStart(app, *launcher, row.told + u": DOSBox can't open"_s);
+            ExpectNoStart(app, *launcher, row.told + launcher->lang.Text(390, {QString()}));
         }
     }
 }

@@ -1,4 +1,5 @@
 #include "finding/TreeNodes.h"
+
 #include "shell/LangTable.h"
 
 #include <gmock/gmock.h>

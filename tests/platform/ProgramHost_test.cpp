@@ -39,7 +39,7 @@ protected:
 TEST_F(ProgramHostTest, NativeProgramBesideThenWineThenAnErrorThatNamesIt)
 {
     const QString dosbox = u"DOSBox\\0.74_SVN\\dosbox.exe"_s;
-    EXPECT_TRUE(Find(dosbox).startsWith(u"missing: neither ")) << Find(dosbox).toStdString();
+    EXPECT_TRUE(Find(dosbox).startsWith(u"missing: Neither ")) << Find(dosbox).toStdString();
     EXPECT_TRUE(Find(u"DOSBox\\None\\dosbox.exe"_s).contains(u"DOSBox/None"));
 
     m_folder.WriteRaw(u"app/DOSBox/0.74_SVN/DOSBox.exe"_s, "MZ");
@@ -92,7 +92,7 @@ TEST_F(ProgramHostTest, TroubleWithTheNativeProgramIsNamed)
 {
     m_folder.MakeLink(u"app/DOSBox/0.74_SVN/dosbox"_s, u"/no/such/dosbox"_s);
     EXPECT_TRUE(Find(u"DOSBox\\0.74_SVN\\dosbox.exe"_s)
-                    .endsWith(u"is a link to /no/such/dosbox, which is missing"));
+                    .endsWith(u"is a link to /no/such/dosbox, which is missing."));
     m_folder.WriteRaw(u"app/tool"_s, "#!/bin/sh\n");
     EXPECT_TRUE(Find(u"tool.exe"_s).contains(u"app/tool is no program"));
     m_folder.WriteRaw(u"app/readme.txt"_s, "text");
