@@ -115,8 +115,8 @@ void ShowinfoProcess(Launcher& launcher)
 
 void WriteGameInfo(Launcher& launcher)
 {
-    const QString folder = launcher.current.CurrentFolder;
     const DetailsPanel& details = launcher.screens.details;
+    const QString folder = details.folder; // the boxes are its, wherever the selection is by now
     const InfoText info{{details.txtTitle[0], details.txtTitle[1]}, details.txtInfo};
     if (!platform::IsPlainName(folder) || !shell::MayLose(launcher, LostInInfo(info))) {
         return;

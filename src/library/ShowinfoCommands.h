@@ -11,8 +11,8 @@ namespace pelorin::library {
 /// rewritten), caption and status bar. What fails leaves the rest as it stands.
 void ShowinfoProcess(shell::Launcher& launcher);
 
-/// Writes info.txt of the current game from the boxes for titles and description. Asks first when
-/// the file can't hold all of it; a No leaves it as it is.
+/// Writes info.txt of the game that the details show, from the boxes for titles and description.
+/// Asks first when the file can't hold all of it; a No leaves it as it is.
 void WriteGameInfo(shell::Launcher& launcher);
 
 /// Takes the selected row over as the current game. Without one, or while the list is being built,

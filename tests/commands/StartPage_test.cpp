@@ -49,6 +49,12 @@ TEST(StartPage, SavesToTheGameThatItShowsWhileTheSelectionIsAlreadyElsewhere)
     EXPECT_EQ(app.folder.ReadRaw(u"Games/하나/DosBox/autoexec.conf"_s), "one.exe\r\n");
     EXPECT_EQ(app.folder.ReadRaw(u"Games/둘/DosBox/autoexec.conf"_s), "game.com\r\n");
 
+    app.folder.WriteRaw(u"Games/둘/DosBox/info.txt"_s, "its own");
+    launcher->screens.details.txtTitle = {u"첫째"_s, u"First"_s};
+    library::WriteGameInfo(*launcher);
+    EXPECT_EQ(app.folder.ReadText(u"Games/하나/DosBox/info.txt"_s), u"첫째\u0003First\r\n"_s);
+    EXPECT_EQ(app.folder.ReadRaw(u"Games/둘/DosBox/info.txt"_s), "its own");
+
     dosboxconf::chkCD_Click(*launcher, true);
     EXPECT_EQ(launcher->screens.cd.lstCD, QStringList{u"a.iso"_s});
     dosboxconf::mnuCD_Click(*launcher, 0);
