@@ -1,11 +1,11 @@
 #include "dosboxconf/CdFile.h"
 
+#include "archives/FileOperations.h"
 #include "dosboxconf/private/MetaFolder.h"
 #include "platform/Numbers.h"
 #include "platform/Paths.h"
 #include "platform/TextFile.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -121,13 +121,7 @@ void ChkMountCdClicked(
 platform::Done SaveCdConf(const shell::Places& places, const QString& folder, const CdPanel& panel)
 {
     if (!panel.chkCD) {
-        QFile file(CdConfPath(places, folder));
-        if (file.exists() && !file.remove()) {
-            return platform::Error{
-                platform::ErrorKind::Unwritable,
-                u"%1: %2"_s.arg(file.fileName(), file.errorString())};
-        }
-        return platform::Success();
+        return archives::DeleteFileIfThere(CdConfPath(places, folder));
     }
     if (panel.lstCD.isEmpty()) {
         return platform::Success();

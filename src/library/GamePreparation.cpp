@@ -111,12 +111,10 @@ IconPixels PrepareGameFolder(GameFiles& files, const IconPixels& defaultIcon, Tr
     // What can't be listed is left alone: nobody knows what a write would replace there.
     const platform::Done made = files.game.exists ? MakeMetaDir(files) : platform::Success();
     if (!made || !files.meta.exists) {
-        const QString& unreadable = files.game.exists ? files.metaDir : files.gameDir;
+        const QString reason = u"%1: the folder can't be read"_s.arg(
+            files.game.exists ? files.metaDir : files.gameDir);
         troubles.Add(
-            made
-                ? platform::
-                      Error{platform::ErrorKind::Unreadable, u"%1: the folder can't be read"_s.arg(unreadable)}
-                : made.Failure());
+            made ? platform::Error{platform::ErrorKind::Unreadable, reason} : made.Failure());
         return defaultIcon;
     }
     MakeMetaSubFolder(files, u"CD"_s, troubles);
