@@ -1,5 +1,7 @@
 #include "fuzz/Harness.h"
 
+#include "platform/TextFile.h"
+
 #include <QDir>
 #include <QFile>
 
@@ -21,6 +23,11 @@ void Require(bool promise, const char* text)
         std::fprintf(stderr, "broken promise: %s\n", text);
         std::abort();
     }
+}
+
+QByteArray AsWritten(const QStringList& lines)
+{
+    return platform::EncodeCp949(lines.join(u'\n')).bytes;
 }
 
 FuzzInstallation::FuzzInstallation()

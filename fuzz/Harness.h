@@ -6,6 +6,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
 
 #include <cstddef>
@@ -22,6 +23,9 @@ QByteArray BytesOf(const std::uint8_t* data, std::size_t size);
 
 /// Ends the process with the text, so that the fuzzer keeps the input.
 void Require(bool promise, const char* text);
+
+/// What the lines become in a file; characters that it can't keep are the same then.
+QByteArray AsWritten(const QStringList& lines);
 
 /// An installation with a game "Star" that has a metadata folder, in a temporary folder that goes
 /// with the process. Files outlive one input: a target writes or removes all that it reads.

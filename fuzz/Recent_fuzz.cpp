@@ -1,18 +1,8 @@
 #include "fuzz/Harness.h"
-#include "platform/TextFile.h"
 #include "shell/RecentFile.h"
 
 using namespace Qt::StringLiterals;
 using namespace pelorin;
-
-namespace {
-
-QByteArray Written(const shell::RecentList& recent)
-{
-    return platform::EncodeCp949(shell::RecentLines(recent).join(u'\n')).bytes;
-}
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
@@ -24,7 +14,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     fuzz::Require(read.Ok(), "any list of games can be read");
     fuzz::Require(shell::WriteRecentFile(places, read.Value()).Ok(), "it can be written again");
     const auto second = shell::ReadRecentFile(places);
-    fuzz::Require(Written(second.Value()) == Written(read.Value()), "it reads the same");
+    fuzz::Require(
+        fuzz::AsWritten(shell::RecentLines(second.Value())) ==
+            fuzz::AsWritten(shell::RecentLines(read.Value())),
+        "it reads the same");
 
     shell::RecentList grown = second.Value();
     shell::AddRecent(grown, u"Star"_s, u"별"_s);

@@ -1,18 +1,8 @@
 #include "fuzz/Harness.h"
-#include "platform/TextFile.h"
 #include "shell/SettingsFile.h"
 
 using namespace Qt::StringLiterals;
 using namespace pelorin;
-
-namespace {
-
-QByteArray Written(const shell::LauncherCfg& cfg)
-{
-    return platform::EncodeCp949(shell::LauncherCfgLines(cfg).join(u'\n')).bytes;
-}
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
@@ -33,6 +23,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     fuzz::Require(again.Ok(), "what was saved can be read");
     fuzz::Require(again.Value().replacementReason.isEmpty(), "what was saved is whole");
     fuzz::Require(
-        Written(again.Value().cfg) == Written(first.cfg), "what was saved reads the same");
+        fuzz::AsWritten(shell::LauncherCfgLines(again.Value().cfg)) ==
+            fuzz::AsWritten(shell::LauncherCfgLines(first.cfg)),
+        "what was saved reads the same");
     return 0;
 }
