@@ -38,8 +38,8 @@ platform::Done CheckLaunch(
     const dosboxconf::RunFacts& facts, const platform::HostText& finished, platform::PathForm form);
 
 /// What the user should know and what does not hold back the start, one text each: a word of a start
-/// command that is no name of a file for a native DOSBox, characters that the guest's code page can't keep,
-/// a server that listens on another port than 213.
+/// command that is no name of a file for a native DOSBox, characters that the guest's code page
+/// can't keep, a server that listens on another port than 213.
 QList<platform::Wording> LaunchNotes(
     const RunRequest& request, const platform::HostText& finished, platform::PathForm form);
 

@@ -65,8 +65,8 @@ QString TakeWord(QString& line)
     return word;
 }
 
-/// DOSBox ends a command at a slash, and one of its own at a point or a backslash as well: "cd\games",
-/// "echo.", even "call.exe".
+/// DOSBox ends a command at a slash, and one of its own at a point or a backslash as well:
+/// "cd\games", "echo.", even "call.exe".
 void PartCommand(QString& word, QString& line)
 {
     const auto isEnd = [](QChar c) { return c == u'\\' || c == u'.' || c == u'/'; };

@@ -37,8 +37,8 @@ platform::Done KeepOldCfg(const Places& places);
 
 /// Writes the recent file, then Launcher.cfg; the second also when the first failed. A minimized
 /// window leaves the short form, which resets the next start, and the full one beside it as
-/// Launcher.cfg.bak. Error: the failures, a line for each with its path; Unencodable when a root can't be
-/// written in code page 949.
+/// Launcher.cfg.bak. Error: the failures, a line for each with its path; Unencodable when a root
+/// can't be written in code page 949.
 platform::Done SaveSettingsFiles(
     const Places& places, const LauncherCfg& cfg, const RecentList& recent);
 
