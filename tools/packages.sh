@@ -13,7 +13,7 @@ packages_of() {
             xdg-utils file shared-mime-info ;;
     test) # test libraries, and a display without a monitor whose windows can be read and driven
         echo libgtest-dev libgmock-dev python3 \
-            xvfb openbox xdotool imagemagick x11-apps x11-utils xauth ;;
+            xvfb openbox xdotool wmctrl imagemagick x11-apps x11-utils xauth ;;
     check) # formatting and linting
         echo git ccache clang-format-14 clang-tidy-14 ;;
     fuzz) # libFuzzer, and how much of a reader it reached

@@ -126,9 +126,11 @@ bool Xdotool::Activate(const WindowId& window, int timeoutMs) const
 
 void Xdotool::Close(const WindowId& window) const
 {
-    // "windowclose" would destroy the window under the program's feet.
-    Run({u"windowactivate"_s, u"--sync"_s, QString::fromLatin1(window)});
-    Key(u"alt+F4"_s);
+    // xdotool's "windowclose" would destroy the window under the program's feet, and openbox misses
+    // an Alt+F4 that comes as the first key of a session.
+    const QString number = u"0x"_s + QString::number(window.toULongLong(), 16);
+    const auto done = RunTool(u"wmctrl"_s, {u"-i"_s, u"-c"_s, number}, m_environment);
+    EXPECT_EQ(done.exitCode, 0) << "wmctrl: " << done.errors.toStdString();
 }
 
 } // namespace pelorin::test

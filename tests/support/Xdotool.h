@@ -37,7 +37,7 @@ public:
     QRect Geometry(const WindowId& window) const;
     /// Raises it and gives it the focus; false when it has not got it in time.
     bool Activate(const WindowId& window, int timeoutMs) const;
-    /// As its frame's close button does.
+    /// Asks the window manager, as its frame's close button does.
     void Close(const WindowId& window) const;
 
 private:
