@@ -10,6 +10,7 @@
 #include "forms/QtPrompts.h"
 #include "forms/Shown.h"
 #include "forms/frmDosGames.h"
+#include "forms/frmFolderCFG.h"
 #include "library/CatalogueCommands.h"
 #include "library/ShowinfoCommands.h"
 #include "platform/DesktopShellVerbs.h"
@@ -19,8 +20,10 @@
 #include "platform/XdgBin.h"
 #include "running/RunCommands.h"
 #include "shell/CommandLine.h"
+#include "shell/FolderCfgCommands.h"
 #include "shell/Launcher.h"
 #include "shell/LifecycleCommands.h"
+#include "shell/SiteCommands.h"
 
 #include <QApplication>
 #include <QDir>
@@ -70,6 +73,27 @@ void WireStartPage(forms::Deeds& deeds, shell::Launcher& launcher)
     deeds.cmdSaveCD_Click = [&] { dosboxconf::cmdSaveCD_Click(launcher); };
 }
 
+void OpenFolderCFG(shell::Launcher& launcher)
+{
+    using shell::Root;
+    shell::frmFolderCFG_Load(launcher);
+    forms::frmFolderCFG(
+        launcher.screens.folderCfg,
+        launcher.lang,
+        {[&](Root root) { shell::ChooseRoot(launcher, root); },
+         [&](Root root) { shell::TakeDefaultRoot(launcher, root); },
+         [&](Root root) { shell::OpenRoot(launcher, root); },
+         [&] { return shell::AcceptRoots(launcher); }},
+        QApplication::activeWindow())
+        .exec();
+}
+
+void WireWindow(forms::Deeds& deeds, shell::Launcher& launcher)
+{
+    deeds.cmdFolderCFG_Click = [&] { OpenFolderCFG(launcher); };
+    deeds.cmdVespra_Click = [&] { shell::cmdVespra_Click(launcher); };
+}
+
 void Wire(forms::Deeds& deeds, shell::Launcher& launcher)
 {
     deeds.LVGamelist_ItemClick = [&] { library::LVGamelist_ItemClick(launcher); };
@@ -86,6 +110,7 @@ void Wire(forms::Deeds& deeds, shell::Launcher& launcher)
     deeds.cmdCompact_Click = [&] { archives::cmdCompact_Click(launcher); };
     deeds.Form_Unload = [&] { return shell::Form_Unload(launcher); };
     WireStartPage(deeds, launcher);
+    WireWindow(deeds, launcher);
 }
 
 int RunWindow(int argc, char** argv)

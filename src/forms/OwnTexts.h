@@ -18,7 +18,7 @@ inline QString Own(const shell::LangTable& lang, const OwnEntry& own)
     return lang.OwnText(own.entry, QString::fromUtf16(own.english));
 }
 
-// The numbers that the forms use: 355 to 382.
+// The numbers that the forms use: 355 to 382, and some from 408 on.
 inline constexpr OwnEntry kOwnYes{355, u"Yes"};
 inline constexpr OwnEntry kOwnNo{356, u"No"};
 inline constexpr OwnEntry kOwnOk{357, u"OK"};
@@ -47,5 +47,7 @@ inline constexpr OwnEntry kOwnRight{379, u"Right"};
 inline constexpr OwnEntry kOwnNotes{380, u"Notes"};
 inline constexpr OwnEntry kOwnPages{381, u"Pages"};
 inline constexpr OwnEntry kOwnMedia{382, u"Pictures, recordings and manuals"};
+inline constexpr OwnEntry kOwnNoSite{
+    494, u"No site is set. A line site=ADDRESS in Endpoints.cfg sets one."};
 
 } // namespace pelorin::forms

@@ -3,6 +3,7 @@
 #include "forms/OwnTexts.h"
 
 #include <QAbstractButton>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTabBar>
@@ -47,7 +48,6 @@ constexpr ControlText kTexts[] = {
     {u"cmdFind", Kind::ToolTip, Entry(33)},
     {u"picAddGame", Kind::Caption, kOwnAddGame},
     {u"picAddGame", Kind::ToolTip, Entry(34)},
-    {u"cmdVespra", Kind::ToolTip, kOwnSite},
     {u"TreeView1", Kind::Name, kOwnFilter},
     {u"tabInfo", Kind::Name, kOwnPages},
     // The information page.
@@ -107,6 +107,17 @@ constexpr ControlText kTexts[] = {
     {u"cmdFolderCFG", Kind::Caption, Entry(237)},
     {u"cmdUpdate", Kind::Caption, Entry(298)},
     {u"lblKeys", Kind::Caption, kOwnKeys},
+    // frmFolderCFG.
+    {u"fraGames", Kind::Caption, Entry(197)},
+    {u"txtGames", Kind::Name, Entry(197)},
+    {u"cmdGamesPath", Kind::Caption, Entry(201)},
+    {u"cmdGamesDefault", Kind::Caption, Entry(199)},
+    {u"cmdGamesOpen", Kind::Caption, Entry(200)},
+    {u"fraExport", Kind::Caption, Entry(198)},
+    {u"txtExport", Kind::Name, Entry(198)},
+    {u"cmdExportPath", Kind::Caption, Entry(201)},
+    {u"cmdExportDefault", Kind::Caption, Entry(199)},
+    {u"cmdExportOpen", Kind::Caption, Entry(200)},
     // The tools page.
     {u"lblTools", Kind::Caption, Entry(325)},
 };
@@ -121,6 +132,8 @@ void Give(QWidget& widget, Kind kind, const QString& text)
             button->setText(text);
         } else if (auto* label = qobject_cast<QLabel*>(&widget)) {
             label->setText(text);
+        } else if (auto* group = qobject_cast<QGroupBox*>(&widget)) {
+            group->setTitle(text);
         }
         break;
     case Kind::ToolTip: {

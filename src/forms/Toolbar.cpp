@@ -172,6 +172,15 @@ void Toolbar::ShowTitlePicture()
     m_picture2->setIcon(PictureIcon(korean ? u"title-korean"_s : u"title-english"_s));
 }
 
+void Toolbar::ShowSite()
+{
+    const bool hasSite = m_shown.screens.frame.hasSite;
+    m_cmdVespra->setEnabled(hasSite && m_deeds.cmdVespra_Click);
+    const QString name = Own(m_shown.lang, kOwnSite);
+    m_cmdVespra->setAccessibleName(name);
+    m_cmdVespra->setToolTip(hasSite ? name : Own(m_shown.lang, kOwnNoSite));
+}
+
 void Toolbar::TakeTexts()
 {
     QStringList lines;
@@ -184,6 +193,7 @@ void Toolbar::TakeTexts()
     m_cmdVespra->setText(m_shown.lang[0]);
     m_cmdVespra->setToolButtonStyle(
         m_shown.lang[0].isEmpty() ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon);
+    ShowSite();
 }
 
 } // namespace pelorin::forms

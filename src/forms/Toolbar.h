@@ -26,6 +26,7 @@ public:
     QLineEdit* Find() const { return m_txtFind; }
     void ShowViewMode();
     void ShowTitlePicture();
+    void ShowSite();
     /// Texts that are made of several entries.
     void TakeTexts();
 

@@ -131,6 +131,9 @@ void frmDosGames::Follow(std::uint32_t changed)
     if ((changed & MainFrame::TitlePicture) != 0) {
         m_toolbar->ShowTitlePicture();
     }
+    if ((changed & MainFrame::Site) != 0) {
+        m_toolbar->ShowSite();
+    }
     if ((changed & MainFrame::Tab) != 0) {
         m_picBack1->ShowTab();
     }

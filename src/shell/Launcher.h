@@ -6,6 +6,7 @@
 #include "library/IconSheet.h"
 #include "platform/Ports.h"
 #include "shell/Current.h"
+#include "shell/Endpoints.h"
 #include "shell/LangTable.h"
 #include "shell/Places.h"
 #include "shell/RecentList.h"
@@ -28,6 +29,7 @@ struct Launcher {
     Places places;
     LangTable lang;
     Settings settings;
+    Endpoints endpoints;
     RecentList recent;
     library::Catalogue catalogue;
     library::IconSheet icons;

@@ -14,6 +14,7 @@
 #include "shell/LanguageCommands.h"
 #include "shell/Launcher.h"
 #include "shell/SettingsCommands.h"
+#include "shell/SiteCommands.h"
 #include "shell/WindowTitle.h"
 
 #include <QDir>
@@ -103,6 +104,7 @@ platform::Done Form_Load(Launcher& launcher)
     if (platform::Done loaded = LoadSettings(launcher); !loaded) {
         return loaded;
     }
+    LoadEndpoints(launcher);
     launcher.flags.ConfigListFocused = false;
     launcher.screens.cd.chkMountCD = false;
     launcher.flags.CloseBlocked = false;

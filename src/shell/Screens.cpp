@@ -31,6 +31,7 @@ Screens::Screens()
         &start.changed,
         &cd.changed,
         &placement.changed,
+        &folderCfg.changed,
         &status.changed,
         &frame.changed,
     };

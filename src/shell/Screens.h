@@ -23,6 +23,7 @@ struct MainFrame {
         Front = 16,   // bring the window forward
         TitlePicture = 32,
         Show = 64,
+        Site = 128,
     };
     enum class State { Normal, Maximized, Minimized };
 
@@ -37,6 +38,7 @@ struct MainFrame {
     bool picBack1Enabled = true;
     int tabInfo = 1;             // page on top, counted from 1
     bool minimumSizeHook = true; // false with the marker file NoHook
+    bool hasSite = false;        // there is an address for cmdVespra
 
     platform::Notifier changed;
     platform::Notifier panelsEnabled; // picBack0Enabled, picBack1Enabled; no redraw lock holds it
@@ -65,6 +67,16 @@ struct PlacementPanel {
     std::array<QString, 2> txtDosboxPos; // x and y, as typed
     bool chkDosboxMove = false;
     int cmbDosboxMove = 4; // delay is index + 1 seconds
+
+    platform::Notifier changed;
+};
+
+/// frmFolderCFG: the two roots as they stand in its boxes, until they are accepted.
+struct FolderCfg {
+    enum Changed : std::uint32_t { All = 1 };
+
+    QString txtGames;
+    QString txtExport;
 
     platform::Notifier changed;
 };
@@ -125,6 +137,7 @@ struct Screens {
     dosboxconf::StartCommands start;
     dosboxconf::CdPanel cd;
     PlacementPanel placement;
+    FolderCfg folderCfg;
     StatusBar status;
     ProgressPanel progress;
     BusyNotice notice;

@@ -3,6 +3,7 @@
 #include "platform/Paths.h"
 #include "platform/TextFile.h"
 #include "shell/RecentFile.h"
+#include "shell/RootFolders.h"
 
 #include <QDir>
 #include <QFile>
@@ -62,24 +63,9 @@ Done MakeFolder(const QString& path)
 
 bool FitsALine(const QString& text)
 {
-    return !text.contains(u'\r') && !text.contains(u'\n') &&
+    // A backslash would come back as a separator.
+    return !text.contains(u'\r') && !text.contains(u'\n') && !text.contains(u'\\') &&
            platform::EncodeCp949(text).lost.isEmpty();
-}
-
-/// The root as Launcher.cfg can hold it: whole, or below AppDir where code page 949 can't keep the
-/// way there.
-Outcome<QString> RootText(const Places& places, const QString& root)
-{
-    if (FitsALine(root)) {
-        return root;
-    }
-    QString relative = QDir(places.appDir).relativeFilePath(root);
-    if (FitsALine(relative)) {
-        return relative;
-    }
-    return Error{
-        ErrorKind::Unencodable,
-        u"%1: code page 949 can't keep the path %2"_s.arg(CfgPath(places), root)};
 }
 
 /// What is lost of other lines (a typed position) is not worth losing the file.
@@ -111,10 +97,9 @@ QString RepairedRoot(
     if (QString(written).remove(u' ').isEmpty() || native.toLower() == root.bareName) {
         return root.standard;
     }
-    const QString absolute = QDir::isAbsolutePath(native) ? native : places.appDir + u'/' + native;
-    const QString found = platform::ResolvePath(QString(), absolute);
-    if (QFileInfo(found).isDir()) {
-        return QDir::cleanPath(found);
+    const QString found = RootPath(places, written);
+    if (found != u"/" && QFileInfo(found).isDir()) {
+        return found;
     }
     if (found != root.standard) {
         lost << written;
@@ -274,6 +259,20 @@ Done SaveSettingsFiles(const Places& places, const LauncherCfg& cfg, const Recen
             recentWritten.Failure().text + u'\n' + cfgWritten.Failure().text};
     }
     return recentWritten ? cfgWritten : recentWritten;
+}
+
+Outcome<QString> RootText(const Places& places, const QString& root)
+{
+    if (FitsALine(root)) {
+        return root;
+    }
+    QString relative = QDir(places.appDir).relativeFilePath(root);
+    if (FitsALine(relative)) {
+        return relative;
+    }
+    return Error{
+        ErrorKind::Unencodable,
+        u"%1: code page 949 can't keep the path %2"_s.arg(CfgPath(places), root)};
 }
 
 Done WriteDefaultSettings(const Places& places)

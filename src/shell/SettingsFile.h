@@ -42,6 +42,10 @@ platform::Done KeepOldCfg(const Places& places);
 platform::Done SaveSettingsFiles(
     const Places& places, const LauncherCfg& cfg, const RecentList& recent);
 
+/// The root as Launcher.cfg can hold it: whole, or below AppDir where code page 949 can't keep the
+/// way there. Error Unencodable when it can hold neither.
+platform::Outcome<QString> RootText(const Places& places, const QString& root);
+
 /// Writes Launcher.cfg as a first start has it and makes the two default root folders.
 platform::Done WriteDefaultSettings(const Places& places);
 

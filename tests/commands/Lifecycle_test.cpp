@@ -105,23 +105,6 @@ TEST(Lifecycle, WhatOneRunSavesTheNextOneReadsWithoutOpeningAGame)
     EXPECT_EQ(app.folder.ReadRaw(u"Gamelist.lst"_s), list);
 }
 
-TEST(Lifecycle, ChangedRootsAreScannedAtTheNextStart)
-{
-    Installation app;
-    app.AddGame(u"하나"_s);
-    const auto launcher = app.Start();
-    launcher->places.gamesRoot = app.folder.Path(u"Other"_s);
-    launcher->settings.rootsChanged = true;
-    app.folder.MakeTree({u"Other/셋/GO.EXE"_s});
-    app.folder.WriteRaw(u"Gamelist.lst"_s, "of the old root");
-    ASSERT_TRUE(shell::Form_Unload(*launcher));
-    EXPECT_FALSE(app.folder.Exists(u"Gamelist.lst"_s));
-
-    const auto next = app.Start();
-    ASSERT_EQ(next->catalogue.size(), 1U);
-    EXPECT_EQ(next->catalogue.front().Folder, u"셋"_s);
-}
-
 TEST(Lifecycle, NoCacheIsReadUnderAnotherRootThanItsOwn)
 {
     Installation app;

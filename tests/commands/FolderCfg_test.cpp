@@ -1,0 +1,158 @@
+#include "library/CatalogueCommands.h"
+#include "shell/FolderCfgCommands.h"
+#include "shell/LifecycleCommands.h"
+#include "shell/SiteCommands.h"
+#include "support/Installation.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace pelorin;
+using shell::Root;
+using test::Installation;
+
+namespace {
+
+/// frmFolderCFG open over a started program with one game.
+class FolderCfg : public testing::Test {
+protected:
+    FolderCfg()
+    {
+        app.AddGame(u"하나"_s);
+        launcher = app.Start();
+        shell::frmFolderCFG_Load(*launcher);
+    }
+
+    shell::FolderCfg& Boxes() const { return launcher->screens.folderCfg; }
+    QString Path(const char16_t* relative) const
+    {
+        return app.folder.Path(QString::fromUtf16(relative));
+    }
+
+    Installation app;
+    std::unique_ptr<shell::Launcher> launcher;
+};
+
+} // namespace
+
+TEST_F(FolderCfg, AChosenFolderGoesIntoItsBoxUnlessItCantBeARoot)
+{
+    EXPECT_EQ(Boxes().txtGames, Path(u"Games"));
+    EXPECT_EQ(Boxes().txtExport, Path(u"Export"));
+    test::ScriptedPrompts& prompts = app.fakes.prompts;
+    Boxes().txtGames = Path(u"Games/not/there");
+    prompts.WillChoose({});
+    shell::ChooseRoot(*launcher, Root::Games);
+    ASSERT_EQ(prompts.Asked().size(), 1U);
+    EXPECT_EQ(prompts.Asked()[0].title, launcher->lang[210]);
+    EXPECT_EQ(prompts.Asked()[0].preset, Path(u"Games"));
+    EXPECT_EQ(Boxes().txtGames, Path(u"Games/not/there"));
+
+    prompts.Forget();
+    prompts.WillChoose(u"/usr"_s);
+    shell::ChooseRoot(*launcher, Root::Export);
+    ASSERT_EQ(prompts.Asked().size(), 2U);
+    EXPECT_EQ(prompts.Asked()[0].title, launcher->lang[211]);
+    EXPECT_EQ(prompts.Asked()[1].text, launcher->lang[107]);
+    EXPECT_EQ(prompts.Asked()[1].title, launcher->lang[108]);
+    EXPECT_EQ(Boxes().txtExport, Path(u"Export"));
+
+    prompts.WillChoose(Path(u"Dos"));
+    shell::ChooseRoot(*launcher, Root::Export);
+    EXPECT_EQ(Boxes().txtExport, Path(u"Dos"));
+    shell::OpenRoot(*launcher, Root::Export);
+    EXPECT_EQ(app.fakes.shell.opened, QStringList{Path(u"Dos")});
+    shell::TakeDefaultRoot(*launcher, Root::Export);
+    shell::TakeDefaultRoot(*launcher, Root::Games);
+    EXPECT_EQ(Boxes().txtExport, Path(u"Export"));
+    EXPECT_EQ(Boxes().txtGames, Path(u"Games"));
+    EXPECT_EQ(launcher->places.exportRoot, Path(u"Export"));
+}
+
+TEST_F(FolderCfg, RefusedRootsChangeNothing)
+{
+    app.folder.WriteRaw(u"file"_s, "x");
+    app.folder.MakeLink(u"link"_s, Path(u"Games"));
+    const std::pair<QString, QString> refused[] = {
+        {u""_s, Path(u"Export")},
+        {Path(u"New"), u" "_s},
+        {u"/"_s, Path(u"Export")},
+        {u"/proc"_s, Path(u"Export")}, // a mount point
+        {Path(u"Games"), Path(u"Games/Export")},
+        {Path(u"Games"), Path(u"link")},
+        {app.folder.TemporaryFolder(), Path(u"Export")},
+        {Path(u"New"), Path(u"file/under")},
+        {Path(u"漢\u00e9"), Path(u"Export")},
+        {Path(u"a\\b"), Path(u"../😀")},
+    };
+    for (const auto& [games, exported] : refused) {
+        app.fakes.prompts.Forget();
+        Boxes().txtGames = games;
+        Boxes().txtExport = exported;
+        EXPECT_FALSE(shell::AcceptRoots(*launcher)) << games.toStdString();
+        EXPECT_EQ(app.fakes.prompts.Asked().size(), 1U) << games.toStdString();
+    }
+    EXPECT_EQ(launcher->places.gamesRoot, Path(u"Games"));
+    EXPECT_EQ(launcher->places.exportRoot, Path(u"Export"));
+    EXPECT_FALSE(launcher->settings.rootsChanged);
+    EXPECT_FALSE(app.folder.Exists(u"Games/Export"_s));
+}
+
+TEST_F(FolderCfg, ChangedRootsAreMadeAndScannedAtTheNextStart)
+{
+    ASSERT_TRUE(shell::Form_Unload(*launcher));
+    ASSERT_TRUE(app.folder.Exists(u"Gamelist.lst"_s));
+    launcher = app.Start();
+    shell::frmFolderCFG_Load(*launcher);
+    Boxes().txtExport = Path(u"Out/of/it");
+    ASSERT_TRUE(shell::AcceptRoots(*launcher));
+    EXPECT_TRUE(app.folder.Exists(u"Out/of/it"_s));
+    EXPECT_FALSE(launcher->settings.rootsChanged);
+    EXPECT_TRUE(launcher->screens.status.notes.empty());
+
+    app.folder.MakeTree({u"Other/셋/GO.EXE"_s});
+    Boxes().txtGames = u"OTHER\\"_s;
+    ASSERT_TRUE(shell::AcceptRoots(*launcher));
+    EXPECT_EQ(launcher->places.gamesRoot, Path(u"Other"));
+    EXPECT_EQ(launcher->catalogue.front().Folder, u"하나"_s);
+    EXPECT_EQ(launcher->screens.status.notes.size(), 1U);
+    ASSERT_TRUE(shell::Form_Unload(*launcher));
+    EXPECT_FALSE(app.folder.Exists(u"Gamelist.lst"_s));
+    EXPECT_FALSE(app.folder.Exists(u"IconList.bmp"_s));
+
+    const auto next = app.Start();
+    EXPECT_EQ(next->places.exportRoot, Path(u"Out/of/it"));
+    ASSERT_EQ(next->catalogue.size(), 1U);
+    EXPECT_EQ(next->catalogue.front().Folder, u"셋"_s);
+    // A scan in the same session saves the new list at its end.
+    shell::frmFolderCFG_Load(*next);
+    next->screens.folderCfg.txtGames = Path(u"Games");
+    ASSERT_TRUE(shell::AcceptRoots(*next));
+    library::cmdRefresh_Click(*next);
+    EXPECT_EQ(next->catalogue.front().Folder, u"하나"_s);
+    ASSERT_TRUE(shell::Form_Unload(*next));
+    EXPECT_TRUE(app.folder.Exists(u"Gamelist.lst"_s));
+}
+
+TEST(Site, OpensTheAddressThatTheFileNames)
+{
+    Installation app;
+    app.AddGame(u"하나"_s);
+    const auto without = app.Start();
+    EXPECT_FALSE(without->screens.frame.hasSite);
+    shell::cmdVespra_Click(*without);
+    EXPECT_TRUE(app.fakes.shell.openedUrls.isEmpty());
+
+    app.folder.WriteRaw(u"Endpoints.cfg"_s, "site=http://127.0.0.1:8080/blog\r\n");
+    const auto with = app.Start();
+    EXPECT_TRUE(with->screens.frame.hasSite);
+    app.fakes.shell.refuse = platform::Error{platform::ErrorKind::NotFound, u"no browser"_s};
+    shell::cmdVespra_Click(*with);
+    EXPECT_EQ(app.fakes.shell.openedUrls, QStringList{u"http://127.0.0.1:8080/blog/"_s});
+    ASSERT_EQ(with->screens.status.notes.size(), 1U);
+
+    app.folder.WriteRaw(u"Endpoints.cfg"_s, "site=ftp://x/\r\n");
+    const auto broken = app.Start();
+    EXPECT_FALSE(broken->screens.frame.hasSite);
+    EXPECT_EQ(broken->screens.status.notes.size(), 1U);
+}
