@@ -18,6 +18,8 @@ packages_of() {
         echo git ccache clang-format-14 clang-tidy-14 ;;
     fuzz) # libFuzzer, and how much of a reader it reached
         echo clang-14 libclang-rt-14-dev llvm-14 python3 ;;
+    bench) # the benchmark library, and what makes a table of its figures
+        echo libbenchmark-dev python3 ;;
     *)
         echo "packages.sh: no group \"$1\"" >&2
         return 1 ;;

@@ -24,9 +24,10 @@ import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 TIDY = "clang-tidy-14"
-OURS = re.compile(r"(src|tools|tests)/([a-z0-9]+/)*[A-Za-z0-9_]+\.cpp")
+OURS = re.compile(r"(src|tools|tests|bench)/([a-z0-9]+/)*[A-Za-z0-9_]+\.cpp")
 INCLUDE = re.compile(rb'^[ \t]*#[ \t]*include[ \t]*"([^"]+)"', re.MULTILINE)
-LIBRARIES = ["qt6-base-dev", "libfreeimage-dev", "libgtest-dev", "libgmock-dev", "libstdc++-12-dev"]
+LIBRARIES = ["qt6-base-dev", "libfreeimage-dev", "libgtest-dev", "libgmock-dev", "libbenchmark-dev",
+             "libstdc++-12-dev"]
 KEEP_DAYS = 30
 
 
@@ -44,7 +45,7 @@ class Includes:
         if file not in self._direct:
             found = set()
             for name in INCLUDE.findall(file.read_bytes()):
-                for base in (file.parent, ROOT / "src", ROOT / "tests", ROOT / "tools"):
+                for base in (file.parent, ROOT / "src", ROOT / "tests", ROOT / "tools", ROOT / "bench"):
                     candidate = base / os.fsdecode(name)
                     if candidate.is_file():
                         found.add(candidate.resolve())
