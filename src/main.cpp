@@ -12,6 +12,10 @@
 #include "forms/frmDosGames.h"
 #include "forms/frmFolderCFG.h"
 #include "library/CatalogueCommands.h"
+#include "library/DeleteCommands.h"
+#include "library/ListCommands.h"
+#include "library/ListMenus.h"
+#include "library/RenameCommands.h"
 #include "library/ShowinfoCommands.h"
 #include "platform/DesktopShellVerbs.h"
 #include "platform/DetachedProcesses.h"
@@ -21,6 +25,7 @@
 #include "running/RunCommands.h"
 #include "shell/CommandLine.h"
 #include "shell/FolderCfgCommands.h"
+#include "shell/JobCommands.h"
 #include "shell/Launcher.h"
 #include "shell/LifecycleCommands.h"
 #include "shell/SiteCommands.h"
@@ -94,6 +99,27 @@ void WireWindow(forms::Deeds& deeds, shell::Launcher& launcher)
     deeds.cmdVespra_Click = [&] { shell::cmdVespra_Click(launcher); };
 }
 
+void WireListMenu(forms::Deeds& deeds, shell::Launcher& launcher)
+{
+    deeds.mnuGame = [&] {
+        return library::mnuGame_Popup(launcher, static_cast<bool>(deeds.OpenDetails));
+    };
+    deeds.mnuGame_Click = [&](int index) {
+        if (index == library::kDetailsEntry) {
+            forms::Do(deeds.OpenDetails);
+        } else {
+            library::mnuGame_Click(launcher, index);
+        }
+    };
+    deeds.mnuFolder = [&] { return library::mnuFolder_Popup(launcher); };
+    deeds.mnuFolder_Click = [&](int index) { library::mnuFolder_Click(launcher, index); };
+    deeds.LVGamelist_Delete = [&] { library::DeleteSelectedGames(launcher); };
+    deeds.Command1_Click = [&] { shell::Command1_Click(launcher); };
+    deeds.RenameGameFolder = [&] { library::RenameGameFolder(launcher); };
+    deeds.Picture2_Click = [&] { library::Picture2_Click(launcher); };
+    deeds.FocusTitle = [&] { library::FocusTitle(launcher); };
+}
+
 void Wire(forms::Deeds& deeds, shell::Launcher& launcher)
 {
     deeds.LVGamelist_ItemClick = [&] { library::LVGamelist_ItemClick(launcher); };
@@ -111,6 +137,7 @@ void Wire(forms::Deeds& deeds, shell::Launcher& launcher)
     deeds.Form_Unload = [&] { return shell::Form_Unload(launcher); };
     WireStartPage(deeds, launcher);
     WireWindow(deeds, launcher);
+    WireListMenu(deeds, launcher);
 }
 
 int RunWindow(int argc, char** argv)

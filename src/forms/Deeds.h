@@ -55,6 +55,8 @@ struct Deeds {
     // The tree. `child` is the node's place below its category.
     std::function<void(const QString& rootKey, int child, bool checked)> TreeView1_NodeCheck;
 
+    Deed Command1_Click; // gives a job on several games up
+
     // The right panel.
     IndexDeed tabInfo_Click; // counted from 1; frame.tabInfo holds it
     Deed cmdSaveInfo_Click;
@@ -89,7 +91,7 @@ struct Deeds {
     // The tools page.
     IndexDeed cmdDownloadTools_Click;
 
-    // The status bar: 2 the folder, 3 the count. The form itself shows the notes of 4.
+    // The status bar: 3 the count. The folder, 2, is renamed; the form itself shows the notes of 4.
     IndexDeed SBDirectory_PanelClick;
 
     /// The window is about to close; false keeps it open. Not set: it closes.

@@ -75,10 +75,7 @@ ViewHooks GameListView::Hooks()
         [this](const QKeyEvent& event) { KeyReleased(event); },
         [this](const QMouseEvent& event) { MouseReleased(event); },
         [this] { FocusLost(); },
-        [this] {
-            const QRect row = View()->visualRect(m_selection.currentIndex());
-            ShowGameMenu(View()->viewport()->mapToGlobal(row.center()));
-        },
+        [this] { MenuKeyPressed(); },
         [this](QWidget& viewport) { PaintEmpty(viewport); }};
 }
 
@@ -282,11 +279,16 @@ bool GameListView::KeyPressed(const QKeyEvent& event)
         m_deleting = true;
         return true;
     }
+    // Not every platform makes a menu event of it.
+    if (event.modifiers() == Qt::ShiftModifier && event.key() == Qt::Key_F10) {
+        MenuKeyPressed();
+        return true;
+    }
     const Deeds::Deed* const deed = plain ? DeedOf(m_deeds, event.key()) : nullptr;
     if (deed == nullptr) {
         return false;
     }
-    if (!event.isAutoRepeat()) {
+    if (!event.isAutoRepeat() && m_list.selected >= 0) {
         Do(*deed);
     }
     return true;
@@ -329,6 +331,17 @@ void GameListView::FocusLost()
     if (m_moved && !m_shown.screens.gate.Locked()) {
         Settle();
     }
+}
+
+void GameListView::MenuKeyPressed()
+{
+    const QModelIndex selected = m_model.index(m_list.selected, 0);
+    if (!selected.isValid()) {
+        return;
+    }
+    Settle();
+    View()->scrollTo(selected);
+    ShowGameMenu(View()->viewport()->mapToGlobal(View()->visualRect(selected).center()));
 }
 
 void GameListView::ShowGameMenu(QPoint position)

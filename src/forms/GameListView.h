@@ -114,6 +114,7 @@ private:
     void KeyReleased(const QKeyEvent& event);
     void MouseReleased(const QMouseEvent& event);
     void FocusLost();
+    void MenuKeyPressed();
     void ShowGameMenu(QPoint position);
     void PaintEmpty(QWidget& viewport) const;
 

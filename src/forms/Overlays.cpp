@@ -4,6 +4,8 @@
 
 #include <QVBoxLayout>
 
+#include <initializer_list>
+
 using namespace Qt::StringLiterals;
 
 namespace pelorin::forms {
@@ -76,7 +78,7 @@ void ProgressOverlay::Follow()
     }
 }
 
-NoticeOverlay::NoticeOverlay(const Shown& shown, QWidget* parent)
+NoticeOverlay::NoticeOverlay(const Shown& shown, const Deeds& deeds, QWidget* parent)
     : QFrame(parent)
     , m_model(shown.screens.notice)
     , m_lblMessage(new QLabel(this))
@@ -104,11 +106,38 @@ NoticeOverlay::NoticeOverlay(const Shown& shown, QWidget* parent)
         label->setAlignment(Qt::AlignCenter);
         column->addWidget(label);
     }
+    BuildBatch(deeds);
     Follow();
+}
+
+void NoticeOverlay::BuildBatch(const Deeds& deeds)
+{
+    m_label4 = new QLabel(this);
+    m_label4->setObjectName(u"Label4"_s);
+    m_label3 = new QLabel(this);
+    m_label3->setObjectName(u"Label3"_s);
+    m_progressBar1 = new QProgressBar(this);
+    m_progressBar1->setObjectName(u"ProgressBar1"_s);
+    m_progressBar1->setTextVisible(false);
+    m_command1 = new QPushButton(this);
+    m_command1->setObjectName(u"Command1"_s);
+    m_command1->setEnabled(static_cast<bool>(deeds.Command1_Click));
+    connect(m_command1, &QPushButton::clicked, this, [&deeds] { Do(deeds.Command1_Click); });
+    for (QLabel* label : {m_label3, m_label4}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setAlignment(Qt::AlignCenter);
+        SetTextColour(*label, QColor(kNoticeText));
+    }
+    for (QWidget* widget : std::initializer_list<QWidget*>{m_label4, m_progressBar1, m_label3}) {
+        layout()->addWidget(widget);
+    }
+    static_cast<QVBoxLayout*>(layout())->addWidget(m_command1, 0, Qt::AlignHCenter);
 }
 
 void NoticeOverlay::TakeTexts(const shell::LangTable& lang)
 {
+    m_command1->setText(lang[322]);
+    m_progressBar1->setAccessibleName(lang[4]);
     if (m_model.lblMessage.isEmpty()) {
         m_lblMessage->setText(lang[2]);
     }
@@ -132,10 +161,35 @@ void NoticeOverlay::Follow()
     SetTextColour(*m_lblMessage, ColourOf(m_model.colour));
     // The same words twice would look like a fault.
     m_second->setVisible(m_second->text() != m_lblMessage->text());
+    FollowBatch();
     setVisible(m_model.visible);
     if (m_model.visible) {
         Place(m_area);
         raise();
+    }
+}
+
+void NoticeOverlay::FollowBatch()
+{
+    const shell::BatchProgress& batch = m_model.batch;
+    const bool begins = batch.visible && m_command1->isHidden();
+    for (QWidget* widget :
+         std::initializer_list<QWidget*>{m_label3, m_label4, m_progressBar1, m_command1}) {
+        widget->setVisible(batch.visible);
+    }
+    if (!batch.visible) {
+        return;
+    }
+    m_second->hide();
+    // A long title must not make the notice jump from game to game.
+    const int width = Ems(*this, 24);
+    m_label4->setFixedWidth(width);
+    m_label4->setText(fontMetrics().elidedText(batch.Label4, Qt::ElideMiddle, width));
+    m_label3->setText(batch.Label3);
+    m_progressBar1->setRange(0, qMax(1, batch.maximum));
+    m_progressBar1->setValue(batch.value);
+    if (begins) {
+        m_command1->setFocus(); // what has the keyboard else is disabled meanwhile
     }
 }
 

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "forms/Deeds.h"
 #include "forms/Listening.h"
 #include "forms/Shown.h"
 
 #include <QFrame>
 #include <QLabel>
 #include <QProgressBar>
+#include <QPushButton>
 
 namespace pelorin::forms {
 
@@ -30,16 +32,22 @@ private:
 /// ground of its own whatever the palette is.
 class NoticeOverlay : public QFrame {
 public:
-    NoticeOverlay(const Shown& shown, QWidget* parent);
+    NoticeOverlay(const Shown& shown, const Deeds& deeds, QWidget* parent);
     void Place(const QRect& area);
     void TakeTexts(const shell::LangTable& lang);
 
 private:
+    void BuildBatch(const Deeds& deeds);
     void Follow();
+    void FollowBatch();
 
     shell::BusyNotice& m_model;
     QLabel* m_lblMessage;
     QLabel* m_second;
+    QLabel* m_label3 = nullptr;
+    QLabel* m_label4 = nullptr;
+    QProgressBar* m_progressBar1 = nullptr;
+    QPushButton* m_command1 = nullptr;
     QRect m_area;
     Listening m_listening;
 };

@@ -1,5 +1,6 @@
 #include "forms/QtPrompts.h"
 
+#include "forms/Metrics.h"
 #include "forms/OwnTexts.h"
 #include "forms/frmOutput.h"
 
@@ -82,7 +83,7 @@ Answer QtPrompts::Ask(const platform::MessageBox& box)
     for (const Choice& choice : choices) {
         buttons.push_back(dialog.addButton(Words(choice.words), choice.role));
     }
-    dialog.setDefaultButton(buttons.front());
+    dialog.setDefaultButton(box.noByDefault ? buttons.back() : buttons.front());
     dialog.setEscapeButton(buttons.back());
     dialog.exec();
     const auto clicked = std::find(buttons.begin(), buttons.end(), dialog.clickedButton());
@@ -99,6 +100,8 @@ QString QtPrompts::InputText(const QString& prompt, const QString& title, const 
     dialog.setTextValue(preset);
     dialog.setOkButtonText(Words(kOwnOk));
     dialog.setCancelButtonText(Words(kOwnCancel));
+    // Names of folders and start commands are longer than the box would be by itself.
+    dialog.resize(Ems(dialog, 28), dialog.sizeHint().height());
     return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
 }
 

@@ -111,13 +111,12 @@ StatusPanels::StatusPanels(const Shown& shown, const Deeds& deeds, QWidget* pare
         m_panels[static_cast<std::size_t>(i)] = panel;
         addWidget(panel, kStretch[static_cast<std::size_t>(i)]);
     }
-    for (const int number : {2, 3}) {
-        StatusPanel* const panel = m_panels[static_cast<std::size_t>(number - 1)];
-        panel->SetClickable(static_cast<bool>(deeds.SBDirectory_PanelClick));
-        connect(panel, &StatusPanel::clicked, this, [&deeds, number] {
-            Do(deeds.SBDirectory_PanelClick, number);
-        });
-    }
+    m_panels[1]->SetClickable(static_cast<bool>(deeds.RenameGameFolder));
+    connect(m_panels[1], &StatusPanel::clicked, this, [&deeds] { Do(deeds.RenameGameFolder); });
+    m_panels[2]->SetClickable(static_cast<bool>(deeds.SBDirectory_PanelClick));
+    connect(m_panels[2], &StatusPanel::clicked, this, [&deeds] {
+        Do(deeds.SBDirectory_PanelClick, 3);
+    });
     m_panels[3]->setIcon(PictureIcon(u"note"_s));
     m_panels[3]->SetClickable(true);
     connect(m_panels[3], &StatusPanel::clicked, this, [this] { TellNotes(); });

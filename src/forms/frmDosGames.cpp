@@ -100,7 +100,7 @@ void frmDosGames::BuildLeft()
     column->addWidget(split, 1);
     // No children of the panel: they stay readable while that is disabled.
     m_progress = new ProgressOverlay(m_shown, centralWidget());
-    m_notice = new NoticeOverlay(m_shown, centralWidget());
+    m_notice = new NoticeOverlay(m_shown, m_deeds, centralWidget());
     m_list->installEventFilter(this);
     split->installEventFilter(this);
     m_list->SetViewModeListener([this] { m_toolbar->ShowViewMode(); });

@@ -1,5 +1,6 @@
 #include "library/CatalogueCommands.h"
 
+#include "archives/FileOperations.h"
 #include "dosboxconf/ConfFiles.h"
 #include "finding/BuildGameList.h"
 #include "finding/FilterCommands.h"
@@ -7,6 +8,7 @@
 #include "library/CatalogueCache.h"
 #include "library/CatalogueEdits.h"
 #include "library/CatalogueScan.h"
+#include "library/FolderCommands.h"
 #include "library/ShowinfoCommands.h"
 #include "platform/Bin.h"
 #include "platform/Paths.h"
@@ -170,19 +172,6 @@ bool FillByCache(Launcher& launcher)
     return true;
 }
 
-/// What an empty library leaves behind, and how the user learns of it. Outside any redraw lock.
-void TellEmptyLibrary(Launcher& launcher)
-{
-    if (const Done deleted = DeleteCatalogueCache(launcher.places); !deleted) {
-        shell::TellNote(launcher, kCategory, deleted.Failure());
-    }
-    launcher.ports.prompts.Ask(platform::MessageBox{
-        launcher.lang[135] + u"\r\n\r\n"_s + launcher.lang[134],
-        launcher.lang[1],
-        platform::Buttons::Ok,
-        platform::BoxIcon::Information});
-}
-
 } // namespace
 
 ShownProgress::~ShownProgress()
@@ -289,17 +278,31 @@ Done RemoveGameEntry(Launcher& launcher, const QString& folder)
     if (!platform::IsPlainName(folder)) {
         return platform::Error{platform::ErrorKind::Refused, folder};
     }
-    Done binned = launcher.ports.bin.MoveToBin(launcher.places.GameDir(folder));
-    if (!binned) {
+    const QString path = launcher.places.GameDir(folder);
+    Done binned = launcher.ports.bin.MoveToBin(path);
+    // Without its root a game may be on a disk that is unplugged, and then it is not gone.
+    const bool vanished = !binned && !archives::FolderExists(path) &&
+                          archives::FolderExists(launcher.places.gamesRoot);
+    if (!binned && !vanished) {
         return binned;
     }
     RemoveFromCatalogue(launcher.catalogue, launcher.icons, folder);
     launcher.screens.list.changed.Tell(finding::GameList::Icons);
+    FolderGone(launcher, folder);
     shell::SetPanelsEnabled(launcher, !launcher.catalogue.empty());
-    if (launcher.catalogue.empty()) {
-        TellEmptyLibrary(launcher);
-    }
     return platform::Success();
+}
+
+void TellEmptyLibrary(Launcher& launcher)
+{
+    if (const Done deleted = DeleteCatalogueCache(launcher.places); !deleted) {
+        shell::TellNote(launcher, kCategory, deleted.Failure());
+    }
+    launcher.ports.prompts.Ask(platform::MessageBox{
+        launcher.lang[135] + u"\r\n\r\n"_s + launcher.lang[134],
+        launcher.lang[1],
+        platform::Buttons::Ok,
+        platform::BoxIcon::Information});
 }
 
 Done SaveCatalogue(Launcher& launcher)

@@ -27,10 +27,13 @@ void RereadGameEntry(shell::Launcher& launcher, const QString& folder);
 /// RereadGameEntry, and the details of the current game are shown anew.
 void RefreshGameEntry(shell::Launcher& launcher, const QString& folder);
 
-/// Moves the game's folder to the recycle bin and takes the game out of the Catalogue. On an error
-/// the game stays as it is. The caller refreshes the list. A library that is empty then loses its
-/// cache files and is told so in a box.
+/// Moves the game's folder to the recycle bin and takes the game out of the Catalogue. A folder that
+/// is gone already counts as moved. On an error the game stays as it is. The caller refreshes the
+/// list, and calls TellEmptyLibrary when the Catalogue is empty then.
 platform::Done RemoveGameEntry(shell::Launcher& launcher, const QString& folder);
+
+/// Deletes the cache files of a library that has no game any more, and tells so in a box.
+void TellEmptyLibrary(shell::Launcher& launcher);
 
 /// Writes IconList.bmp and Gamelist.lst, or deletes both when the roots have changed since they
 /// were filled, so that the next start scans. Games that the files can't hold are told.

@@ -1,5 +1,6 @@
 #include "library/ShowinfoCommands.h"
 
+#include "dosboxconf/CdFile.h"
 #include "dosboxconf/ConfFiles.h"
 #include "dosboxconf/ConfReportCommands.h"
 #include "dosboxconf/StartCommandsFile.h"
@@ -111,6 +112,35 @@ void ShowinfoProcess(Launcher& launcher)
     ShowStartPage(launcher, files);
     LoadConf(launcher, files.folder);
     ShowCaption(launcher);
+}
+
+void ShowNoGame(Launcher& launcher)
+{
+    const platform::RedrawLock lock(launcher.screens.gate);
+    launcher.current.CurrentFolder.clear();
+    launcher.current.CurrentTitle.clear();
+    DetailsPanel& details = launcher.screens.details;
+    details.folder.clear();
+    details.txtTitle = {};
+    details.txtInfo.clear();
+    details.lblGenreK.clear();
+    details.lblGenreE.clear();
+    details.iconFile.clear();
+    details.changed.Tell(DetailsPanel::Texts | DetailsPanel::Genres | DetailsPanel::Icon);
+    dosboxconf::StartCommands& start = launcher.screens.start;
+    dosboxconf::FillStartCommands(start, {});
+    start.fileEXE.clear();
+    start.fileRow = -1;
+    start.changed.Tell(dosboxconf::StartCommands::Files | dosboxconf::StartCommands::FileRow);
+    dosboxconf::ResetCdPanel(launcher.screens.cd);
+    launcher.screens.cd.changed.Tell(dosboxconf::CdPanel::All);
+    shell::StatusBar& status = launcher.screens.status;
+    status.game.clear();
+    status.folder.clear();
+    status.folderPath.clear();
+    status.changed.Tell(shell::StatusBar::Texts);
+    launcher.screens.frame.caption = launcher.WindowTitle;
+    launcher.screens.frame.changed.Tell(shell::MainFrame::Caption);
 }
 
 void WriteGameInfo(Launcher& launcher)

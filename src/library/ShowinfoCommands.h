@@ -11,6 +11,10 @@ namespace pelorin::library {
 /// rewritten), caption and status bar. What fails leaves the rest as it stands.
 void ShowinfoProcess(shell::Launcher& launcher);
 
+/// The game that the right panel shows is gone, and no other takes its place: all of it is emptied,
+/// and nothing can be saved to a folder that isn't there.
+void ShowNoGame(shell::Launcher& launcher);
+
 /// Writes info.txt of the game that the details show, from the boxes for titles and description.
 /// Asks first when the file can't hold all of it; a No leaves it as it is.
 void WriteGameInfo(shell::Launcher& launcher);

@@ -13,6 +13,7 @@ struct MessageBox {
     QString title;
     Buttons buttons = Buttons::Ok;
     BoxIcon icon = BoxIcon::None;
+    bool noByDefault = false; // Enter answers with the last button, which takes no step
 };
 
 /// Asks people. Each call shows a modal dialog and comes back with the answer; window events run

@@ -49,11 +49,6 @@ std::optional<Sight> SightOf(const QString& path)
     return Sight{status.st_mode & S_IFMT, S_ISREG(status.st_mode) ? status.st_size : 0};
 }
 
-Error Failed(ErrorKind kind, const QString& path, const QString& why)
-{
-    return {kind, u"%1 can't be moved to the recycle bin: %2"_s.arg(path, why)};
-}
-
 QString ReasonOf(int code)
 {
     return QString::fromLocal8Bit(std::generic_category().message(code).c_str());
@@ -223,20 +218,29 @@ Done XdgBin::MoveToBin(const QString& path)
     const QFileInfo given(WithoutTrailingSlashes(path));
     const QString name = given.fileName();
     if (!given.isAbsolute() || name.isEmpty() || name == u"." || name == u"..") {
-        return Failed(ErrorKind::Refused, path, u"it is no full path of a file or folder"_s);
+        return Error::Worded(
+            ErrorKind::Refused,
+            Wording{432, u"<1> is no full path and can't be moved to the recycle bin."_s, {path}});
     }
     const QString source = RealPlace(given);
     if (source.isEmpty() || !SightOf(source)) {
-        return Failed(ErrorKind::NotFound, path, u"it is not there"_s);
+        return Error::Worded(ErrorKind::NotFound, Wording{433, u"<1> is not there."_s, {path}});
     }
     const QStringList mountPoints = MountPoints();
     if (HoldsMountPoint(mountPoints, source)) {
-        return Failed(ErrorKind::Refused, path, u"a file system is mounted there"_s);
+        return Error::Worded(
+            ErrorKind::Refused,
+            Wording{
+                434,
+                u"<1> stays out of the recycle bin: a file system is mounted there."_s,
+                {path}});
     }
     QDir().mkpath(m_dataHome);
     const QString home = QFileInfo(m_dataHome).canonicalFilePath();
     if ((home + u'/').startsWith(source + u'/')) {
-        return Failed(ErrorKind::Refused, path, u"the recycle bin lies in it"_s);
+        return Error::Worded(
+            ErrorKind::Refused,
+            Wording{435, u"<1> can't be moved to the recycle bin, which lies in it."_s, {path}});
     }
     const QString homeTop = TopOfFileSystem(mountPoints, home + u"/Trash"_s);
     const QString top = TopOfFileSystem(mountPoints, source);
@@ -248,7 +252,10 @@ Done XdgBin::MoveToBin(const QString& path)
         }
         reasons << u"%1: %2"_s.arg(trash.path, ReasonOf(code));
     }
-    return Failed(ErrorKind::Unwritable, path, reasons.join(u"; "_s));
+    return Error::Worded(
+        ErrorKind::Unwritable,
+        Wording{
+            431, u"<1> can't be moved to the recycle bin: <2>"_s, {path, reasons.join(u"; "_s)}});
 }
 
 } // namespace pelorin::platform

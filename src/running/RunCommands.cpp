@@ -121,7 +121,7 @@ void TellEnd(
 }
 
 /// It is not waited for. What holds it back is told.
-void StartEmulator(Launcher& launcher, const QString& title, const Launch& launch)
+void StartEmulator(Launcher& launcher, const RunRequest& run, const Launch& launch)
 {
     if (!launch.request) {
         shell::TellNote(launcher, kCategory, launch.request.Failure());
@@ -129,10 +129,13 @@ void StartEmulator(Launcher& launcher, const QString& title, const Launch& launc
     }
     const platform::ProcessRequest& request = launch.request.Value();
     const platform::Done started = launcher.ports.processes.StartDetached(
-        request, [&launcher, title, launch](const platform::ProcessEnd& end) {
-            TellEnd(launcher, title, launch, end);
+        request, [&launcher, run, launch](const platform::ProcessEnd& end) {
+            launcher.runningGames.removeOne(run.folder);
+            TellEnd(launcher, run.title, launch, end);
         });
-    if (!started) {
+    if (started) {
+        launcher.runningGames << run.folder;
+    } else {
         shell::TellNote(
             launcher,
             kCategory,
@@ -160,7 +163,7 @@ void LaunchDosbox(Launcher& launcher, const RunRequest& request, const QString& 
         return;
     }
     // Whether the emulator came up does not matter to the recent list: the user asked for the game.
-    StartEmulator(launcher, request.title, launch);
+    StartEmulator(launcher, request, launch);
     if (EntersRecentList(request.mode)) {
         shell::AddRecent(launcher.recent, request.folder, request.title);
     }

@@ -21,6 +21,7 @@ struct Flags {
     bool ConfigListFocused = false;     // lstConfig has the focus
     bool CloseBlocked = false;          // refuses closing; nothing sets it
     bool Ending = false;                // the window is closing: waits come back abandoned
+    bool CancelRequested = false;       // a job on several games ends after the one in hand
     bool JobHeld = false;               // a Job stands; only Job writes it
     std::optional<bool> PanelsAfterJob; // whether the panels can be used then; unset: as before it
 };

@@ -4,8 +4,11 @@
 #include "shell/Launcher.h"
 
 #include <QLoggingCategory>
+#include <QString>
 
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace pelorin::shell {
 
@@ -83,9 +86,30 @@ void ShowBusyMessage(Launcher& launcher, const QString& text)
     notice.changed.Tell(BusyNotice::All);
 }
 
+bool ShowBatchStep(Launcher& launcher, int index, int count, const QString& game)
+{
+    BusyNotice& notice = launcher.screens.notice;
+    if (index == 0) {
+        launcher.flags.CancelRequested = false;
+    }
+    notice.batch = BatchProgress{
+        true, count, index, QString::number(index + 1) + u" / "_s + QString::number(count), game};
+    notice.changed.Tell(BusyNotice::All);
+    launcher.ports.timers.RunPendingEvents();
+    return !launcher.flags.CancelRequested && !launcher.flags.Ending;
+}
+
+void Command1_Click(Launcher& launcher)
+{
+    launcher.flags.CancelRequested = true;
+    launcher.screens.notice.lblMessage = u"작업을 중단하는 중입니다"_s;
+    launcher.screens.notice.changed.Tell(BusyNotice::All);
+}
+
 void HideBusyMessage(Launcher& launcher)
 {
     BusyNotice& notice = launcher.screens.notice;
+    notice.batch = BatchProgress();
     launcher.ports.timers.Stop(notice.tmrMessage);
     notice.tmrMessage = 0;
     notice.visible = false;

@@ -39,7 +39,8 @@ struct Launcher {
     Flags flags;
     Screens screens;
     std::optional<finding::TitleOrder> titleOrder; // of the title language in use; made when needed
-    QStringList searchPath; // where programs that don't lie in AppDir are looked for
+    QStringList runningGames; // folders whose emulator is up; one may stand several times
+    QStringList searchPath;   // where programs that don't lie in AppDir are looked for
     QString BuildStamp;
     QString WindowTitle;
 };

@@ -16,7 +16,8 @@ struct MenuEntry {
 
 using MenuModel = std::vector<MenuEntry>;
 
-/// A title inside a caption: each "&" doubled, so that it is shown and underlines nothing.
+/// A title inside a caption: each "&" doubled, so that it is shown and underlines nothing; a long
+/// one is cut.
 QString MenuTitle(const QString& title);
 
 } // namespace pelorin::shell

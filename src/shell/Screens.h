@@ -46,7 +46,12 @@ struct MainFrame {
 
 /// The right page's information about a game.
 struct DetailsPanel {
-    enum Changed : std::uint32_t { Texts = 1, Icon = 2, Genres = 4 };
+    enum Changed : std::uint32_t {
+        Texts = 1,
+        Icon = 2,
+        Genres = 4,
+        FocusTitle = 8, // the title in the language in use is to take the keyboard
+    };
 
     /// The game that the right panel shows: these texts, StartCommands and CdPanel are its, and are
     /// saved to it. While a selection moves it is not yet CurrentFolder. Empty before the first.
@@ -113,6 +118,16 @@ struct ProgressPanel {
     platform::Notifier changed;
 };
 
+/// The part of picMessage that a job on several games shows: how far it is, and Command1, which
+/// asks it to stop.
+struct BatchProgress {
+    bool visible = false;
+    int maximum = 1; // of ProgressBar1
+    int value = 0;
+    QString Label3; // how many
+    QString Label4; // the game in hand
+};
+
 /// picMessage over the list.
 struct BusyNotice {
     enum Changed : std::uint32_t { All = 1 };
@@ -121,6 +136,7 @@ struct BusyNotice {
     QString lblMessage;
     std::uint32_t colour = 0; // 0 black, 255 red, 16711680 blue: red in the low byte
     int tmrMessage = 0;       // the timer that blinks it; 0 when it stands still
+    BatchProgress batch;
 
     platform::Notifier changed;
 };

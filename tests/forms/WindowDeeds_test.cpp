@@ -4,6 +4,7 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -137,16 +138,118 @@ TEST_F(WindowDeedsTest, TheSearchBoxIsWrittenWhileTypingAndSearchedOnEnter)
 
 TEST_F(WindowDeedsTest, TheListsKeysReachTheirCommands)
 {
+    struct Row {
+        int key;
+        Qt::KeyboardModifiers modifiers;
+        const char16_t* does;
+        const char16_t* withoutSelection;
+        const char16_t* withoutItems;
+    };
+    const Row rows[] = {
+        {Qt::Key_Return, Qt::NoModifier, u"DblClick", u"DblClick", u""},
+        {Qt::Key_Enter, Qt::KeypadModifier, u"DblClick", u"DblClick", u""},
+        {Qt::Key_Return, Qt::ControlModifier, u"", u"", u""},
+        {Qt::Key_F2, Qt::NoModifier, u"title", u"", u""},
+        {Qt::Key_F2, Qt::ControlModifier, u"", u"", u""},
+        {Qt::Key_F4, Qt::NoModifier, u"rename", u"", u""},
+        {Qt::Key_F4, Qt::ShiftModifier, u"", u"", u""},
+        {Qt::Key_F4, Qt::ControlModifier, u"", u"", u""},
+        {Qt::Key_F5, Qt::NoModifier, u"refresh", u"refresh", u"refresh"},
+        {Qt::Key_F6, Qt::NoModifier, u"details", u"", u""},
+        {Qt::Key_Delete, Qt::NoModifier, u"Delete", u"Delete", u"Delete"},
+        {Qt::Key_F10, Qt::ShiftModifier, u"SelectionMoved menu", u"", u""},
+        {Qt::Key_F10, Qt::ControlModifier, u"", u"", u""},
+    };
     deeds.cmdRefresh_Click = Note(u"refresh"_s);
-    deeds.cmdFind_Click = Note(u"find"_s);
+    deeds.FocusTitle = Note(u"title"_s);
     deeds.RenameGameFolder = Note(u"rename"_s);
+    deeds.OpenDetails = Note(u"details"_s);
+    deeds.mnuGame = [&] {
+        did << u"menu"_s;
+        return shell::MenuModel();
+    };
     Open();
     auto* list = Find("LVGamelist_icons");
     window->activateWindow();
-    QTest::keyClick(list, Qt::Key_F5);
-    QTest::keyClick(list, Qt::Key_F4);
-    QTest::keyClick(list, Qt::Key_F4, Qt::ShiftModifier);
-    EXPECT_EQ(did, (QStringList{u"refresh"_s, u"rename"_s}));
+    const auto press = [&](const Row& row) {
+        did.clear();
+        QTest::keyClick(list, static_cast<Qt::Key>(row.key), row.modifiers);
+        return did.join(u' ');
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(press(row), QString::fromUtf16(row.does)) << row.key << row.modifiers;
+    }
+    screens.list.Select(-1);
+    for (const Row& row : rows) {
+        EXPECT_EQ(press(row), QString::fromUtf16(row.withoutSelection)) << row.key;
+    }
+    screens.list.items.clear();
+    screens.list.changed.Tell(finding::GameList::Reset);
+    for (const Row& row : rows) {
+        EXPECT_EQ(press(row), QString::fromUtf16(row.withoutItems)) << row.key;
+    }
+}
+
+TEST_F(WindowDeedsTest, TheMenuKeyOpensTheMenuAtTheSelectedGame)
+{
+    deeds.mnuGame = [] { return shell::MenuModel{{0, u"Run"_s}}; };
+    deeds.mnuGame_Click = NoteIndex(u"mnuGame"_s);
+    Open();
+    auto* list = Find<QAbstractItemView>("LVGamelist_icons");
+    screens.list.Select(3);
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(1, 1), QPoint(1, 1));
+    QCoreApplication::sendEvent(list->viewport(), &event);
+    auto* menu = Find<QMenu>("mnuGameRoot");
+    EXPECT_TRUE(menu->isVisible());
+    const QRect row = list->visualRect(list->model()->index(3, 0));
+    EXPECT_TRUE(row.contains(list->viewport()->mapFromGlobal(menu->pos())));
+    menu->close();
+}
+
+TEST_F(WindowDeedsTest, TheTitleInUseTakesTheKeyboardAndAllOfItIsSelected)
+{
+    Open();
+    window->activateWindow();
+    screens.details.txtTitle = {u"별"_s, u"Star"_s};
+    screens.details.changed.Tell(shell::DetailsPanel::Texts);
+    for (const bool korean : {true, false}) {
+        settings.TitleLanguageKorean = korean;
+        Find("LVGamelist_icons")->setFocus();
+        screens.details.changed.Tell(shell::DetailsPanel::FocusTitle);
+        auto* title = Find<QLineEdit>(korean ? "txtTitle_0" : "txtTitle_1");
+        EXPECT_TRUE(title->hasFocus());
+        EXPECT_EQ(title->selectedText(), korean ? u"별"_s : u"Star"_s);
+    }
+}
+
+TEST_F(WindowDeedsTest, AJobOnSeveralGamesCanBeGivenUpByMouseAndKey)
+{
+    deeds.Command1_Click = Note(u"give up"_s);
+    Open();
+    window->activateWindow();
+    EXPECT_FALSE(Find("Command1")->isVisible());
+    screens.frame.picBack0Enabled = false;
+    screens.frame.panelsEnabled.Tell(1);
+    screens.notice.visible = true;
+    screens.notice.batch = {true, 5, 2, u"3 / 5"_s, QString(300, u'W') + u"<b>&amp;</b>"_s};
+    screens.notice.changed.Tell(shell::BusyNotice::All);
+    EXPECT_EQ(Find<QProgressBar>("ProgressBar1")->value(), 2);
+    EXPECT_TRUE(Find<QLabel>("Label4")->text().endsWith(u"</b>"_s));
+    EXPECT_LT(Find("picMessage")->width(), Find("LVGamelist")->width());
+    Press("Command1");
+    QTest::keyClick(Find("Command1"), Qt::Key_Space);
+    EXPECT_EQ(did, (QStringList{u"give up"_s, u"give up"_s}));
+    screens.notice.batch.visible = false;
+    screens.notice.changed.Tell(shell::BusyNotice::All);
+    EXPECT_FALSE(Find("Command1")->isVisible());
+}
+
+TEST_F(WindowDeedsTest, TheKeyToSearchSelectsWhatStandsInTheBox)
+{
+    deeds.cmdFind_Click = Note(u"find"_s);
+    Open();
+    auto* list = Find("LVGamelist_icons");
+    window->activateWindow();
     screens.search.txtFind = u"abc"_s;
     screens.search.changed.Tell(1);
     QTest::keyClick(list, Qt::Key_F3);
@@ -157,6 +260,7 @@ TEST_F(WindowDeedsTest, TheListsKeysReachTheirCommands)
 TEST_F(WindowDeedsTest, StatusPanelsHandOnTheirClicks)
 {
     deeds.SBDirectory_PanelClick = NoteIndex(u"panel"_s);
+    deeds.RenameGameFolder = Note(u"rename"_s);
     Open();
     EXPECT_FALSE(Find("SBDirectory_4")->isVisible());
     screens.status.Tell(u"first"_s, u"first story"_s);
@@ -166,7 +270,7 @@ TEST_F(WindowDeedsTest, StatusPanelsHandOnTheirClicks)
     for (const char* name : {"SBDirectory_1", "SBDirectory_2", "SBDirectory_3", "SBDirectory_4"}) {
         Press(name);
     }
-    EXPECT_EQ(did, (QStringList{u"panel 2"_s, u"panel 3"_s}));
+    EXPECT_EQ(did, (QStringList{u"rename"_s, u"panel 3"_s}));
     EXPECT_EQ(prompts.Texts(), QStringList{u"second\nmore\n\nfirst\nfirst story"_s});
 }
 

@@ -1,6 +1,7 @@
 #include "platform/DesktopShellVerbs.h"
 #include "platform/DetachedProcesses.h"
 #include "platform/ProgramHost.h"
+#include "real/RecordingOpener.h"
 #include "support/TestFolder.h"
 #include "support/XSession.h"
 #include "support/Xdotool.h"
@@ -88,26 +89,13 @@ TEST(OutsideProgramsTest, DesktopOpensPathsThatAreHardOnShellsAndAddresses)
     ASSERT_TRUE(session.IsUp());
     const ScopedEnvironment scope(session.Environment());
     const TestFolder& home = session.Home().Folder();
-    home.WriteScript(
-        u"opener"_s,
-        u"printf '%s' \"$1\" > \"$HOME/opened.new\"\nmv \"$HOME/opened.new\" \"$HOME/opened\"\n"_s);
-    home.WriteRaw(
-        u".local/share/applications/opener.desktop"_s,
-        "[Desktop Entry]\nType=Application\nName=Opener\nExec=" + home.Path(u"opener"_s).toUtf8() +
-            " %f\n");
-    home.WriteRaw(
-        u".config/mimeapps.list"_s,
-        "[Default Applications]\ntext/plain=opener.desktop\ninode/directory=opener.desktop\n"
-        "x-scheme-handler/https=opener.desktop\n");
+    const RecordingOpener opener(session.Home(), session.Environment());
 
     platform::DetachedProcesses processes;
     platform::DesktopShellVerbs shell(processes, platform::SearchPath());
     const auto opened = [&](const platform::Done& done) {
         EXPECT_TRUE(done);
-        const bool came = QTest::qWaitFor([&] { return home.Exists(u"opened"_s); }, kPatienceMs);
-        QString what = came ? QString::fromUtf8(home.ReadRaw(u"opened"_s)) : u"nothing"_s;
-        QFile::remove(home.Path(u"opened"_s));
-        return what;
+        return opener.Take();
     };
     for (const QString& name :
          {u"Read me.txt"_s,

@@ -79,7 +79,8 @@ ScriptedPrompts::Reply ScriptedPrompts::Next(Kind kind, const QString& question)
 
 Answer ScriptedPrompts::Ask(const platform::MessageBox& box)
 {
-    m_asked.push_back({Kind::Box, box.text, box.title, QString(), box.buttons, box.icon});
+    m_asked.push_back(
+        {Kind::Box, box.text, box.title, QString(), box.buttons, box.icon, box.noByDefault});
     // A box with one button may have an answer of its own, for the sake of what happens under it.
     const bool scripted = !m_replies.empty() && m_replies.front().kind == Kind::Box &&
                           m_replies.front().answer == Answer::Ok;

@@ -23,6 +23,7 @@ public:
         QString preset; // of an input, or where a folder dialog starts
         platform::Buttons buttons = platform::Buttons::Ok;
         platform::BoxIcon icon = platform::BoxIcon::None;
+        bool noByDefault = false;
     };
 
     ~ScriptedPrompts() override;

@@ -168,6 +168,11 @@ void InformationPage::Follow(std::uint32_t changed)
     if ((changed & DetailsPanel::Icon) != 0) {
         ShowIcon();
     }
+    if ((changed & DetailsPanel::FocusTitle) != 0) {
+        QLineEdit* const title = m_txtTitle[m_shown.settings.TitleLanguageKorean ? 0 : 1];
+        title->setFocus();
+        title->selectAll();
+    }
 }
 
 void InformationPage::ShowIcon()

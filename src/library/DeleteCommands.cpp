@@ -1,0 +1,175 @@
+#include "library/DeleteCommands.h"
+
+#include "finding/FilterCommands.h"
+#include "library/CatalogueCommands.h"
+#include "library/CatalogueEdits.h"
+#include "library/DeleteQuestion.h"
+#include "library/ListCommands.h"
+#include "library/ShowinfoCommands.h"
+#include "platform/Prompts.h"
+#include "platform/Timers.h"
+#include "shell/JobCommands.h"
+#include "shell/Launcher.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::library {
+
+using shell::Launcher;
+
+namespace {
+
+constexpr qint64 kCountMs = 1000;
+
+bool MayDelete(Launcher& launcher, const std::vector<ListedGame>& games)
+{
+    const qint64 start = launcher.ports.timers.NowMs();
+    const auto keepCounting = [&] { return launcher.ports.timers.NowMs() - start < kCountMs; };
+    archives::FolderSize size;
+    QStringList names;
+    for (const ListedGame& game : games) {
+        names << NameForDeletion(game.title, game.folder);
+        archives::AddFolderSize(size, launcher.places.GameDir(game.folder), keepCounting);
+    }
+    return launcher.ports.prompts.Ask(platform::MessageBox{
+               DeleteQuestion(names, size, launcher.lang),
+               launcher.lang.OwnText(425, u"Delete games"_s),
+               platform::Buttons::YesNo,
+               platform::BoxIcon::Exclamation,
+               true}) == platform::Answer::Yes;
+}
+
+/// A line of the report; empty when the game is gone.
+QString DeleteOne(Launcher& launcher, const ListedGame& game)
+{
+    QString reason;
+    if (launcher.runningGames.contains(game.folder)) {
+        reason = launcher.lang.OwnText(426, u"It is running."_s);
+    } else if (const platform::Done removed = RemoveGameEntry(launcher, game.folder); !removed) {
+        reason = launcher.lang.Told(removed.Failure().Told());
+    }
+    return reason.isEmpty() ? reason : launcher.lang[311] + game.title + u" ==> "_s + reason;
+}
+
+/// The lines of the report. Ends early when the user gives up.
+QStringList DeleteAll(Launcher& launcher, const std::vector<ListedGame>& games)
+{
+    const shell::Job job(launcher);
+    QStringList report;
+    if (!job.Held()) {
+        return report;
+    }
+    const int count = static_cast<int>(games.size());
+    if (count > 1) {
+        shell::ShowBusyMessage(
+            launcher, launcher.lang.OwnText(427, u"Moving games to the recycle bin."_s));
+    }
+    for (int i = 0; i < count; ++i) {
+        const ListedGame& game = games[static_cast<std::size_t>(i)];
+        if (count > 1 && !shell::ShowBatchStep(launcher, i, count, game.title)) {
+            break;
+        }
+        report << DeleteOne(launcher, game);
+    }
+    if (count > 1) {
+        shell::HideBusyMessage(launcher);
+    }
+    report.removeAll(QString());
+    return report;
+}
+
+/// The folders of the rows that may take the selection, the best first: those below the selected
+/// ones, then those above.
+QStringList Neighbours(const finding::GameList& list)
+{
+    QStringList below;
+    QStringList above;
+    const int last = list.selectedRows.back();
+    std::vector<bool> chosen(list.items.size());
+    for (const int row : list.selectedRows) {
+        chosen[static_cast<std::size_t>(row)] = true;
+    }
+    for (int row = 0; row < static_cast<int>(list.items.size()); ++row) {
+        if (!chosen[static_cast<std::size_t>(row)]) {
+            const QString& folder = list.items[static_cast<std::size_t>(row)].folder;
+            row > last ? below.append(folder) : above.prepend(folder);
+        }
+    }
+    return below + above;
+}
+
+/// The games that stayed keep the selection, so that a second try needs no search for them.
+void SelectAfterwards(
+    Launcher& launcher, const std::vector<ListedGame>& games, const QStringList& neighbours)
+{
+    finding::GameList& list = launcher.screens.list;
+    QSet<QString> chosen;
+    for (const ListedGame& game : games) {
+        chosen << game.folder;
+    }
+    std::vector<int> rows;
+    for (int row = 0; row < static_cast<int>(list.items.size()); ++row) {
+        if (chosen.contains(list.items[static_cast<std::size_t>(row)].folder)) {
+            rows.push_back(row);
+        }
+    }
+    if (!rows.empty()) {
+        list.Select(rows.front());
+        list.selectedRows = rows;
+        return;
+    }
+    for (const QString& neighbour : neighbours) {
+        if (const int row = list.RowOf(neighbour); row >= 0) {
+            list.Select(row);
+            return;
+        }
+    }
+}
+
+void ShowWhatIsLeft(
+    Launcher& launcher, const std::vector<ListedGame>& games, const QStringList& neighbours)
+{
+    const platform::RedrawLock lock(launcher.screens.gate);
+    finding::RefreshGameList(launcher);
+    SelectAfterwards(launcher, games, neighbours);
+    if (PositionOf(launcher.catalogue, launcher.current.CurrentFolder) < 0) {
+        ShowNoGame(launcher);
+    }
+    LVGamelist_ItemClick(launcher);
+    ShowinfoProcess(launcher);
+}
+
+} // namespace
+
+void DeleteSelectedGames(Launcher& launcher)
+{
+    if (launcher.flags.JobHeld) {
+        return;
+    }
+    const std::vector<ListedGame> games = SelectedGames(launcher);
+    if (games.empty()) {
+        return;
+    }
+    FillBatchSelection(launcher, games);
+    const QStringList neighbours = Neighbours(launcher.screens.list);
+    if (!MayDelete(launcher, games) || launcher.flags.JobHeld) {
+        return;
+    }
+    const QStringList report = DeleteAll(launcher, games);
+    if (launcher.flags.Ending) {
+        return;
+    }
+    ShowWhatIsLeft(launcher, games, neighbours);
+    if (!report.isEmpty()) {
+        launcher.ports.prompts.ShowReport(launcher.lang[312], report.join(u"\r\n"_s));
+    }
+    if (launcher.catalogue.empty()) {
+        TellEmptyLibrary(launcher);
+    }
+}
+
+} // namespace pelorin::library

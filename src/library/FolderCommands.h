@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+namespace pelorin::shell {
+struct Launcher;
+}
+
+// What is kept by the names of game folders and outlives a selection: the one place that follows
+// when a folder gets another name or goes.
+
+namespace pelorin::library {
+
+/// The game's folder bears the new name on the disk and in the Catalogue.
+void FolderRenamed(shell::Launcher& launcher, const QString& oldName, const QString& newName);
+
+/// The game's folder is gone, from the disk and from the Catalogue.
+void FolderGone(shell::Launcher& launcher, const QString& folder);
+
+} // namespace pelorin::library
