@@ -6,8 +6,10 @@
 #include "dosboxconf/StartPageCommands.h"
 #include "finding/FilterCommands.h"
 #include "forms/Deeds.h"
+#include "forms/FocusRing.h"
 #include "forms/Pictures.h"
 #include "forms/QtPrompts.h"
+#include "forms/ReadablePalette.h"
 #include "forms/Shown.h"
 #include "forms/frmDosGames.h"
 #include "forms/frmFolderCFG.h"
@@ -142,7 +144,9 @@ void Wire(forms::Deeds& deeds, shell::Launcher& launcher)
 
 int RunWindow(int argc, char** argv)
 {
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
+    const forms::ReadablePalette palette(application);
+    const forms::FocusRing ring(application);
     bool ending = false;
     forms::QtPrompts prompts;
     platform::DetachedProcesses processes([&ending] { return ending; });

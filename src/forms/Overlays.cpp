@@ -93,7 +93,8 @@ NoticeOverlay::NoticeOverlay(const Shown& shown, const Deeds& deeds, QWidget* pa
     setPalette(light);
     m_lblMessage->setObjectName(u"lblMessage"_s);
     m_second->setObjectName(u"lblMessage2"_s);
-    QFont large = Scaled(font(), 1.15);
+    // Large and bold, since pure red can't stand out well from any light ground.
+    QFont large = Scaled(font(), 1.6);
     large.setBold(true);
     m_lblMessage->setFont(large);
     SetTextColour(*m_second, QColor(kNoticeText));

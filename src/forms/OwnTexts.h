@@ -49,5 +49,6 @@ inline constexpr OwnEntry kOwnPages{381, u"Pages"};
 inline constexpr OwnEntry kOwnMedia{382, u"Pictures, recordings and manuals"};
 inline constexpr OwnEntry kOwnNoSite{
     494, u"No site is set. A line site=ADDRESS in Endpoints.cfg sets one."};
+inline constexpr OwnEntry kOwnPicture{495, u"Picture shown"};
 
 } // namespace pelorin::forms

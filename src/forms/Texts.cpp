@@ -56,6 +56,7 @@ constexpr ControlText kTexts[] = {
     {u"lblGenreTitleK", Kind::Caption, Entry(30)},
     {u"lblGenreTitleE", Kind::Caption, Entry(13)},
     {u"lblInfo", Kind::Caption, Entry(29)},
+    {u"txtInfo", Kind::Name, Entry(29)},
     {u"cmdIcon_0", Kind::ToolTip, Entry(25)},
     {u"cmdIcon_1", Kind::ToolTip, Entry(62)},
     {u"cmdSaveInfo", Kind::Caption, Entry(58)},
@@ -63,6 +64,7 @@ constexpr ControlText kTexts[] = {
     {u"fileImages", Kind::Name, Entry(26)},
     {u"fileAV", Kind::Name, Entry(27)},
     {u"fileManual", Kind::Name, Entry(28)},
+    {u"pic1", Kind::Name, kOwnPicture},
     // The start page.
     {u"lblAutoexec", Kind::Caption, Entry(19)},
     {u"lstAutoexec", Kind::Name, Entry(19)},
@@ -79,6 +81,7 @@ constexpr ControlText kTexts[] = {
     {u"cmdCD", Kind::Caption, Entry(56)},
     {u"cmdSaveCD", Kind::Caption, Entry(57)},
     // The configuration page.
+    {u"lblConfigSub", Kind::Caption, kOwnGroup},
     {u"cmbConfigSub", Kind::Name, kOwnGroup},
     {u"lstConfigTitle", Kind::Name, kOwnOptions},
     {u"lstConfig", Kind::Name, kOwnValues},

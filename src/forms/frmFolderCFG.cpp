@@ -63,7 +63,6 @@ QGroupBox* frmFolderCFG::BuildRoot(Root root, const QString& name, QString& text
     for (const auto& [what, deed] : buttons) {
         auto* button = new QPushButton(frame);
         button->setObjectName(u"cmd"_s + name + QString::fromUtf16(what));
-        button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, this, [&deed = deed, root] { deed(root); });
         row->addWidget(button);
     }
@@ -86,7 +85,6 @@ QLayout* frmFolderCFG::BuildEnd(const shell::LangTable& lang)
     });
     auto* cmdCancel = new QPushButton(lang[205], this);
     cmdCancel->setObjectName(u"cmdCancel"_s);
-    cmdCancel->setAutoDefault(false);
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     auto* row = new QHBoxLayout;
     row->addStretch();

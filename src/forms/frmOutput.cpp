@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -27,8 +28,13 @@ frmOutput::frmOutput(const Words& words, QWidget* parent)
 
     auto* cmdOk = new QPushButton(words.cmdOk, this);
     cmdOk->setObjectName(u"cmdOk"_s);
-    cmdOk->setDefault(true);
     connect(cmdOk, &QPushButton::clicked, this, &QDialog::accept);
+    // Enter closes it wherever the focus is. A default button would look focused all the time.
+    cmdOk->setAutoDefault(false);
+    for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* enter = new QShortcut(QKeySequence(key), this);
+        connect(enter, &QShortcut::activated, this, &QDialog::accept);
+    }
 
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();

@@ -1,3 +1,6 @@
+#include "forms/FocusRing.h"
+#include "forms/ReadablePalette.h"
+
 #include <QApplication>
 
 #include <gtest/gtest.h>
@@ -8,7 +11,9 @@ int main(int argc, char** argv)
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
+    const pelorin::forms::ReadablePalette palette(application);
+    const pelorin::forms::FocusRing ring(application);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

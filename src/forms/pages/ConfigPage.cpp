@@ -25,7 +25,14 @@ ConfigPage::ConfigPage(const Shown& shown, const Deeds&, QWidget* parent)
     m_cmbConfigSub->setObjectName(u"cmbConfigSub"_s);
     m_cmbConfigSub->setMaxVisibleItems(dosboxconf::kGroups);
     m_cmbConfigSub->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    column->addWidget(m_cmbConfigSub);
+    // Screen readers call a combo box by its label alone.
+    auto* caption = new QLabel(this);
+    caption->setObjectName(u"lblConfigSub"_s);
+    caption->setBuddy(m_cmbConfigSub);
+    auto* head = new QHBoxLayout;
+    head->addWidget(caption);
+    head->addWidget(m_cmbConfigSub, 1);
+    column->addLayout(head);
     column->addWidget(BuildLists(), 5);
     auto* txtDesc = new QPlainTextEdit(this);
     txtDesc->setObjectName(u"txtDesc"_s);

@@ -25,7 +25,7 @@ SettingsPage::SettingsPage(const Shown& shown, const Deeds& deeds, QWidget* pare
     column->addWidget(AddHeading(u"lblPlacement"_s));
     auto* place = new QHBoxLayout;
     place->addLayout(BuildPosition(), 1);
-    place->addSpacing(2 * gap);
+    place->addSpacing(gap / 2);
     place->addLayout(BuildNudges());
     column->addLayout(place);
     column->addLayout(BuildDelay());
@@ -36,6 +36,9 @@ SettingsPage::SettingsPage(const Shown& shown, const Deeds& deeds, QWidget* pare
     column->addWidget(AddHeading(u"lblKeys"_s));
     column->addLayout(BuildKeys());
     column->addStretch();
+    // As they stand: the one down stands between left and right.
+    setTabOrder(m_cmdMoveDosbox[1], m_cmdMoveDosbox[3]);
+    setTabOrder(m_cmdMoveDosbox[3], m_cmdMoveDosbox[2]);
     Follow();
 }
 
@@ -64,8 +67,11 @@ QLayout* SettingsPage::BuildPosition()
         AddPush(u"cmdRememberPos"_s, static_cast<bool>(m_deeds.cmdRememberPos_Click));
     connect(
         remember, &QAbstractButton::clicked, this, [this] { Do(m_deeds.cmdRememberPos_Click); });
-    grid->addWidget(set, 1, 0, 1, 4);
-    grid->addWidget(remember, 2, 0, 1, 4);
+    auto* commands = new QHBoxLayout;
+    commands->setSpacing(Gap(*this) / 2);
+    commands->addWidget(set);
+    commands->addWidget(remember, 1);
+    grid->addLayout(commands, 1, 0, 1, 4);
     return grid;
 }
 
@@ -90,6 +96,7 @@ QLayout* SettingsPage::BuildNudges()
             Do(m_deeds.cmdMoveDosbox_Click, i);
         });
         grid->addWidget(button, nudge.row, nudge.column);
+        m_cmdMoveDosbox[static_cast<std::size_t>(i)] = button;
     }
     return grid;
 }
@@ -152,7 +159,7 @@ QLayout* SettingsPage::BuildKeys()
 {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(2 * Gap(*this));
-    grid->setVerticalSpacing(Gap(*this) / 2);
+    grid->setVerticalSpacing(Gap(*this) / 4);
     grid->setColumnStretch(1, 1);
     for (int i = 0; i < kKeyPairs; ++i) {
         auto* key = new QLabel(this);

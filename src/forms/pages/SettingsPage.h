@@ -3,6 +3,7 @@
 #include "forms/Listening.h"
 #include "forms/pages/Page.h"
 
+#include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -29,6 +30,7 @@ private:
     Shown m_shown;
     const Deeds& m_deeds;
     std::array<QLineEdit*, 2> m_txtDosboxPos{};
+    std::array<QAbstractButton*, 4> m_cmdMoveDosbox{};
     QCheckBox* m_chkDosboxMove = nullptr;
     QComboBox* m_cmbDosboxMove = nullptr;
     Listening m_listening;

@@ -1,0 +1,356 @@
+#include "Walk.h"
+#include "WindowFixture.h"
+#include "dosboxconf/OptionTable.h"
+#include "finding/TreeNodes.h"
+#include "forms/Metrics.h"
+#include "forms/TextListModel.h"
+#include "forms/frmFolderCFG.h"
+#include "forms/frmOutput.h"
+#include "platform/TextFile.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QLayout>
+#include <QLineEdit>
+#include <QTabBar>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::test {
+
+namespace {
+
+QPalette DarkPalette()
+{
+    QPalette dark(QColor(53, 53, 53), QColor(42, 42, 42));
+    dark.setColor(QPalette::Highlight, QColor(42, 130, 218));
+    dark.setColor(QPalette::HighlightedText, Qt::white);
+    return dark;
+}
+
+void SetPalette(bool dark)
+{
+    QApplication::setPalette(dark ? DarkPalette() : QPalette());
+    QTest::qWait(0); // the widgets are told
+}
+
+std::string Lines(const QStringList& lines)
+{
+    return lines.join(u'\n').toStdString();
+}
+
+QStringList FaultsOfTheLook(QWidget& window)
+{
+    const Walk walk(window);
+    return walk.Room() + walk.Overlaps() + walk.Contrast();
+}
+
+QStringList AllFaults(QWidget& window)
+{
+    return Walk(window).Names() + FaultsOfTheLook(window) + Walk(window).TabOrder();
+}
+
+} // namespace
+
+/// The window with the shipped texts of a language, each control usable and something in it.
+class EveryControl : public WindowTest {
+protected:
+    explicit EveryControl(const char* language)
+        : m_language(QString::fromLatin1(language))
+    {
+        lang = shell::LangTable::FromLines(platform::SplitLines(Shipped(u"Language.dat"_s))).Take();
+        options = dosboxconf::ParseOptionTable(Shipped(u"option.dat"_s), u"option.dat"_s).Take();
+        finding::BuildTreeSkeleton(screens.tree, lang, options.BuildNames());
+        SetDeeds();
+        FillModels();
+    }
+    void TearDown() override { QApplication::setPalette(QPalette()); }
+
+    QString Shipped(const QString& name) const
+    {
+        QFile file(QStringLiteral(PELORIN_SOURCE_DIR) + u"/data/%1/%2"_s.arg(m_language, name));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
+        return QString::fromUtf8(file.readAll());
+    }
+
+    void SetDeeds()
+    {
+        const auto nothing = [] {};
+        const auto menu = [] { return shell::MenuModel{{0, u"menu"_s}}; };
+        for (forms::Deeds::Deed* deed :
+             {&deeds.FocusTitle,       &deeds.RenameGameFolder,   &deeds.OpenDetails,
+              &deeds.cmdRun_Click,     &deeds.cmdRefresh_Click,   &deeds.Picture2_Click,
+              &deeds.cmdFind_Click,    &deeds.txtFind_Esc,        &deeds.cmdFind_Esc,
+              &deeds.picAddGame_Click, &deeds.cmdVespra_Click,    &deeds.cmdSaveInfo_Click,
+              &deeds.cmdAddExec_Click, &deeds.cmdAddEmpty_Click,  &deeds.cmdDelete_Click,
+              &deeds.cmdUp_Click,      &deeds.cmdDown_Click,      &deeds.cmdSaveExec_Click,
+              &deeds.cmdSaveCD_Click,  &deeds.cmdSetPos_Click,    &deeds.cmdRememberPos_Click,
+              &deeds.cmdCompact_Click, &deeds.cmdFolderCFG_Click, &deeds.cmdUpdate_Click}) {
+            *deed = nothing;
+        }
+        for (forms::Deeds::IndexDeed* deed :
+             {&deeds.cmdIcon_Click,
+              &deeds.cmdMoveDosbox_Click,
+              &deeds.cmdDownloadTools_Click,
+              &deeds.SBDirectory_PanelClick,
+              &deeds.mnuCD_Click,
+              &deeds.lstAutoexec_DblClick,
+              &deeds.fileEXE_DblClick}) {
+            *deed = [](int) {};
+        }
+        for (forms::Deeds::Menu* deed :
+             {&deeds.mnuGame,
+              &deeds.mnuRun,
+              &deeds.mnuFolder,
+              &deeds.mnuGenreK,
+              &deeds.mnuGenreE}) {
+            *deed = menu;
+        }
+        deeds.chkCD_Click = [](bool) {};
+        deeds.chkMountCD_Click = [](bool) {};
+        deeds.optViewmode_Click = [](finding::View) {};
+        deeds.TreeView1_NodeCheck = [](const QString&, int, bool) {};
+    }
+
+    void FillModels()
+    {
+        screens.start.cmdAddEmpty = lang[60];
+        screens.start.lstAutoexec = {u"GAME.EXE"_s};
+        screens.start.fileEXE = {u"GAME.EXE"_s};
+        screens.cd.picCDVisible = true;
+        screens.cd.lstCD = {u"a.iso"_s};
+        screens.frame.hasSite = true;
+        screens.details.txtTitle = {u"제목"_s, u"Title"_s};
+        screens.details.txtInfo = u"About"_s;
+        screens.details.lblGenreK = lang[30];
+        screens.details.lblGenreE = lang[13];
+        screens.status.game = u"Title 0"_s;
+        screens.status.folder = lang[106] + u" /games/GAME0"_s;
+        screens.status.count = lang[3] + u"5 / 5"_s;
+        screens.status.Tell(u"A note"_s, {});
+    }
+
+    void Activate(int tab)
+    {
+        Open();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        ShowTab(tab);
+        QTest::qWait(0); // the page takes its size
+    }
+
+private:
+    QString m_language;
+};
+
+class WindowWalkTest : public EveryControl, public testing::WithParamInterface<const char*> {
+protected:
+    WindowWalkTest()
+        : EveryControl(GetParam())
+    {}
+
+    /// The window with each page on top, in both palettes, as designed and as small as it goes.
+    void ExpectAGoodLook()
+    {
+        Open();
+        const QSize designed = window->size();
+        for (const bool dark : {false, true}) {
+            SetPalette(dark);
+            for (const QSize size : {designed, window->minimumSize()}) {
+                window->resize(size);
+                for (int tab = 1; tab <= Find<QTabBar>("tabInfo")->count(); ++tab) {
+                    ShowTab(tab);
+                    QTest::qWait(0);
+                    EXPECT_EQ(Lines(FaultsOfTheLook(*window)), std::string())
+                        << tab << (dark ? " dark " : " light ") << size.width();
+                }
+            }
+        }
+    }
+
+    static void ExpectNoFault(QWidget& dialog)
+    {
+        dialog.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        EXPECT_EQ(Lines(AllFaults(dialog)), std::string());
+    }
+};
+
+TEST_P(WindowWalkTest, EveryPageHasRoomAndContrast)
+{
+    ExpectAGoodLook();
+}
+
+TEST_P(WindowWalkTest, WhatCantBeUsedYetCanBeRead)
+{
+    deeds = {};
+    screens.frame.hasSite = false;
+    screens.progress.visible = true;
+    screens.progress.text = lang[5] + u"...... 100"_s + lang[24];
+    ExpectAGoodLook();
+}
+
+TEST_P(WindowWalkTest, EveryControlHasANameAndIsReachedByTheTabKey)
+{
+    Activate(1);
+    for (const bool dark : {false, true}) {
+        SetPalette(dark);
+        for (int tab = 1; tab <= Find<QTabBar>("tabInfo")->count(); ++tab) {
+            ShowTab(tab);
+            QTest::qWait(0);
+            const Walk walk(*window);
+            EXPECT_EQ(Lines(walk.Names() + walk.TabOrder()), std::string()) << tab;
+        }
+    }
+}
+
+TEST_P(WindowWalkTest, TheNoticeInEachColourOverAnyList)
+{
+    screens.notice.visible = true;
+    Open();
+    for (const bool dark : {false, true}) {
+        SetPalette(dark);
+        for (const std::uint32_t colour : {0U, 255U, 16711680U}) {
+            screens.notice.colour = colour;
+            screens.notice.changed.Tell(shell::BusyNotice::All);
+            EXPECT_EQ(Lines(FaultsOfTheLook(*window)), std::string()) << colour;
+        }
+    }
+}
+
+TEST_P(WindowWalkTest, EveryDialogServesEverybody)
+{
+    screens.folderCfg.txtGames = u"/games"_s;
+    screens.folderCfg.txtExport = u"/games/export"_s;
+    for (const bool dark : {false, true}) {
+        SetPalette(dark);
+        forms::frmFolderCFG folders(screens.folderCfg, lang, {});
+        ExpectNoFault(folders);
+        forms::frmOutput output({u"Title"_s, u"Text\nof lines"_s, lang[296]});
+        ExpectNoFault(output);
+    }
+}
+
+TEST_P(WindowWalkTest, TitlesOfAllOptionsHaveRoom)
+{
+    Open();
+    ShowTab(3);
+    QTest::qWait(0);
+    auto* groups = Find<QComboBox>("cmbConfigSub");
+    const auto* titles = Find<forms::RowList>("lstConfigTitle");
+    ASSERT_EQ(groups->count(), options.GroupCaption.size());
+    for (int group = 0; group < groups->count(); ++group) {
+        groups->setCurrentIndex(group);
+        for (int row = 0; row < titles->model()->rowCount(); ++row) {
+            const QModelIndex index = titles->model()->index(row, 0);
+            EXPECT_LE(titles->sizeHintForIndex(index).width(), titles->viewport()->width())
+                << index.data().toString().toStdString();
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    EveryLanguage, WindowWalkTest, testing::Values("ko", "en"), [](const auto& language) {
+        return std::string(language.param);
+    });
+
+/// One control of each kind is spoilt on purpose, for each of the looks.
+class SpoiltControl : public EveryControl {
+protected:
+    SpoiltControl()
+        : EveryControl("ko")
+    {}
+};
+
+TEST_F(SpoiltControl, IsNoticed)
+{
+    using Spoil = std::function<void(QWidget&)>;
+    const auto fade = [](QWidget& widget) {
+        QPalette faded = widget.palette();
+        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+            faded.setColor(role, faded.color(QPalette::Mid));
+        }
+        widget.setPalette(faded);
+    };
+    const auto nameless = [](QWidget& widget) { widget.setAccessibleName(widget.objectName()); };
+    const auto likeTree = [](QWidget& widget) {
+        widget.setAccessibleName(
+            widget.window()->findChild<QWidget*>(u"TreeView1"_s)->accessibleName());
+    };
+    const auto narrow = [](QWidget& widget) {
+        widget.setFixedWidth(widget.sizeHint().width() / 3);
+    };
+    const auto flat = [](QWidget& widget) { widget.setFixedHeight(4); };
+    const auto unreachable = [](QWidget& widget) { widget.setFocusPolicy(Qt::ClickFocus); };
+    const auto first = [](QWidget& widget) {
+        QWidget::setTabOrder(widget.window()->findChild<QWidget*>(u"txtDosboxPos_1"_s), &widget);
+    };
+    const auto over = [](QWidget& widget) {
+        widget.parentWidget()->layout()->setEnabled(false);
+        widget.move(widget.pos() - QPoint(0, widget.height()));
+    };
+    struct Case {
+        int tab;
+        const char* control;
+        QStringList (Walk::*look)() const;
+        const char* what; // is noticed
+        Spoil spoil;
+    };
+    const Case cases[] = {
+        {1, "cmdSaveInfo", &Walk::Names, "no accessible name", nameless},
+        {1, "txtInfo", &Walk::Names, "no accessible name", nameless},
+        {1, "TabStrip1", &Walk::Names, "is called", likeTree},
+        {1,
+         "cmdIcon_1",
+         &Walk::Names,
+         "no accessible name",
+         [](QWidget& w) { w.setAccessibleName({}); }},
+        {2, "chkCD", &Walk::Names, "is called", likeTree},
+        {2, "lstAutoexec", &Walk::Names, "no accessible name", nameless},
+        {3,
+         "cmbConfigSub",
+         &Walk::Names,
+         "no accessible name",
+         [](QWidget& w) {
+             w.parentWidget()->findChild<QLabel*>(u"lblConfigSub"_s)->setBuddy(nullptr);
+         }},
+        {5, "txtDosboxPos_0", &Walk::Names, "is called", likeTree},
+        {5, "cmdSetPos", &Walk::Room, "needs", narrow},
+        {5, "lblkey_3", &Walk::Room, "needs", narrow},
+        {5, "chkDosboxMove", &Walk::Room, "needs", narrow},
+        {5, "cmbDosboxMove", &Walk::Room, "no room", narrow},
+        {5, "txtDosboxPos_0", &Walk::Room, "is ", flat},
+        {1, "TabStrip1", &Walk::Room, "no room", [](QWidget& w) { w.setFixedWidth(30); }},
+        {5, "lblKeys", &Walk::Contrast, "contrast", fade},
+        {5, "cmdCompact", &Walk::Contrast, "contrast", fade},
+        {5, "chkDosboxMove", &Walk::Contrast, "contrast", fade},
+        {5, "cmbDosboxMove", &Walk::Contrast, "contrast", fade},
+        {2, "fileEXE", &Walk::Contrast, "contrast", fade},
+        {1, "txtInfo", &Walk::Contrast, "contrast", fade},
+        {1, "txtTitle_0", &Walk::Contrast, "contrast", fade},
+        {1, "TabStrip1", &Walk::Contrast, "contrast", fade},
+        {1, "tabInfo", &Walk::Contrast, "contrast", fade},
+        {1, "cmdRefresh", &Walk::TabOrder, "reach of the Tab", unreachable},
+        {2, "lstAutoexec", &Walk::TabOrder, "reach of the Tab", unreachable},
+        {5, "cmbDosboxMove", &Walk::TabOrder, "reach of the Tab", unreachable},
+        {5, "txtDosboxPos_0", &Walk::TabOrder, "stands before it", first},
+        {6, "cmdDownloadTools_3", &Walk::Overlaps, "overlaps", over},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(std::string(c.control) + ", " + c.what);
+        Activate(c.tab);
+        const QString control = QString::fromLatin1(c.control);
+        const auto notices = [&] {
+            const QStringList faults = (Walk(*window).*c.look)();
+            return !faults.filter(control).filter(QString::fromLatin1(c.what)).isEmpty();
+        };
+        EXPECT_FALSE(notices());
+        c.spoil(*Find(c.control));
+        QTest::qWait(0);
+        EXPECT_TRUE(notices());
+        window.reset();
+    }
+}
+
+} // namespace pelorin::test
