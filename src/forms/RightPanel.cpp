@@ -104,10 +104,28 @@ void RightPanel::ShowTab()
         m_stack->addWidget(page);
         ApplyTexts(*page, m_shown.lang);
         page->TakeTexts();
+        OrderTabs(*page);
     }
     m_stack->setCurrentWidget(page);
     m_rail->setCurrentIndex(tab - 1);
     page->ComeOnTop(tab);
+}
+
+void RightPanel::OrderTabs(Page& page)
+{
+    // What is made later stands at the end of the window's tab order, behind the status bar.
+    QList<QWidget*> stops;
+    for (QWidget* widget = page.nextInFocusChain(); widget != &page;
+         widget = widget->nextInFocusChain()) {
+        if (page.isAncestorOf(widget) && (widget->focusPolicy() & Qt::TabFocus) != 0) {
+            stops << widget;
+        }
+    }
+    QWidget* last = m_rail;
+    for (QWidget* widget : stops) {
+        setTabOrder(last, widget);
+        last = widget;
+    }
 }
 
 void RightPanel::TakeTexts()

@@ -26,6 +26,8 @@ private:
 
     Page* MakePage(int number);
     void BuildRail();
+    /// The page's controls follow tabInfo.
+    void OrderTabs(Page& page);
 
     Shown m_shown;
     const Deeds& m_deeds;

@@ -20,6 +20,8 @@ public:
 
     /// Kept free for picAddGame.
     QWidget* AddGamePlace() const { return m_addGamePlace; }
+    /// What stands before it.
+    QWidget* BeforeAddGame() const { return m_cmdFind; }
     QWidget* Vespra() const { return m_cmdVespra; }
     /// Where cmdVespra stands once the row has the room that it needs.
     int VespraLeft() const;

@@ -67,6 +67,7 @@ frmDosGames::frmDosGames(const Shown& shown, const Deeds& deeds)
     m_addGame->StandOver(m_toolbar->AddGamePlace());
     m_status = new StatusPanels(shown, deeds, this);
     setStatusBar(m_status);
+    setTabOrder(m_toolbar->BeforeAddGame(), m_addGame);
     BuildKeys();
     Follow(MainFrame::Caption | MainFrame::Language);
     ShowPanelsEnabled();

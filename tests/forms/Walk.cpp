@@ -412,9 +412,8 @@ QStringList Walk::Contrast() const
     return faults;
 }
 
-QStringList Walk::TabOrder() const
+QList<QWidget*> Walk::TabStops(QStringList& faults) const
 {
-    QStringList faults;
     QList<QWidget*> visited;
     constexpr int kMost = 200;
     for (int i = 0; i < kMost; ++i) {
@@ -430,6 +429,13 @@ QStringList Walk::TabOrder() const
         }
         visited << focus;
     }
+    return visited;
+}
+
+QStringList Walk::TabOrder() const
+{
+    QStringList faults;
+    const QList<QWidget*> visited = TabStops(faults);
     for (QWidget* control : m_controls) {
         if (IsInteractive(*control) && control->isEnabled() && !IsReached(*control, visited) &&
             !kDisplays.contains(control->objectName())) {

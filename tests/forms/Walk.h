@@ -24,6 +24,8 @@ public:
     /// What the Tab key does not reach, reaches out of order, or reaches without showing it. Moves
     /// the focus.
     QStringList TabOrder() const;
+    /// What the Tab key reaches, from where the focus is on, once round.
+    QList<QWidget*> TabStops(QStringList& faults) const;
 
 private:
     QWidget& m_window;

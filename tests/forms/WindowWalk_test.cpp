@@ -52,6 +52,19 @@ QStringList AllFaults(QWidget& window)
     return Walk(window).Names() + FaultsOfTheLook(window) + Walk(window).TabOrder();
 }
 
+/// The first part that the control lies in; the toolbar for one that lies in none.
+QString PartOf(const QWidget& control, const QStringList& parts)
+{
+    for (const QWidget* widget = &control; widget != nullptr; widget = widget->parentWidget()) {
+        for (const QString& part : parts) {
+            if (widget->objectName().startsWith(part)) {
+                return part;
+            }
+        }
+    }
+    return parts.front();
+}
+
 } // namespace
 
 /// The window with the shipped texts of a language, each control usable and something in it.
@@ -202,6 +215,32 @@ TEST_P(WindowWalkTest, EveryControlHasANameAndIsReachedByTheTabKey)
             const Walk walk(*window);
             EXPECT_EQ(Lines(walk.Names() + walk.TabOrder()), std::string()) << tab;
         }
+    }
+}
+
+TEST_P(WindowWalkTest, TheTabKeyGoesFromPartToPart)
+{
+    const QStringList parts{
+        u"Toolbar"_s,
+        u"TreeView1"_s,
+        u"LVGamelist"_s,
+        u"tabInfo"_s,
+        u"picInfo"_s,
+        u"SBDirectory"_s};
+    Activate(1);
+    for (int tab = 1; tab <= Find<QTabBar>("tabInfo")->count(); ++tab) {
+        ShowTab(tab);
+        QTest::qWait(0);
+        Find("cmdRun_0")->setFocus();
+        QStringList passed{parts.front()};
+        QStringList faults;
+        for (const QWidget* stop : Walk(*window).TabStops(faults)) {
+            const QString part = PartOf(*stop, parts);
+            if (part != passed.back()) {
+                passed << part;
+            }
+        }
+        EXPECT_EQ(passed, parts + parts.mid(0, 1)) << tab;
     }
 }
 
