@@ -78,7 +78,8 @@ QVariant GameListModel::data(const QModelIndex& index, int role) const
 QVariant GameListModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     const bool known = orientation == Qt::Horizontal && section >= 0 && section < finding::kColumns;
-    if (!known || role != Qt::DisplayRole) {
+    // As a tool tip too, since a narrow column cuts it.
+    if (!known || (role != Qt::DisplayRole && role != Qt::ToolTipRole)) {
         return {};
     }
     return m_list.columnCaptions[static_cast<std::size_t>(section)];

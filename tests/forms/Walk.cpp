@@ -1,25 +1,21 @@
 #include "Walk.h"
 
+#include "WalkTexts.h"
+
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAbstractScrollArea>
 #include <QAccessible>
 #include <QApplication>
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListView>
 #include <QPlainTextEdit>
 #include <QProgressBar>
-#include <QStyle>
-#include <QStyleOptionButton>
-#include <QStyleOptionComboBox>
-#include <QStyleOptionGroupBox>
 #include <QTabBar>
 #include <QTest>
-#include <QTreeView>
 
 #include <algorithm>
 #include <cmath>
@@ -115,58 +111,6 @@ bool IsReached(const QWidget& control, const QList<QWidget*>& visited)
 
 // ---- Room ----
 
-/// Texts of the control that are wider than their places.
-QStringList TooWide(const QWidget& control)
-{
-    QStringList wide;
-    const QFontMetrics metrics = control.fontMetrics();
-    const auto check = [&](const QString& text, int width) {
-        if (metrics.horizontalAdvance(text) > width) {
-            wide << text;
-        }
-    };
-    if (const auto* combo = qobject_cast<const QComboBox*>(&control)) {
-        QStyleOptionComboBox option;
-        option.initFrom(combo);
-        option.editable = combo->isEditable();
-        const int width =
-            combo->style()
-                ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, combo)
-                .width();
-        for (int i = 0; i < combo->count(); ++i) {
-            check(combo->itemText(i), width);
-        }
-    } else if (const auto* box = qobject_cast<const QLineEdit*>(&control)) {
-        constexpr int kFrame = 8; // beside the text, both edges
-        check(box->placeholderText(), box->width() - kFrame);
-    } else if (const auto* group = qobject_cast<const QGroupBox*>(&control)) {
-        check(group->title(), group->width());
-    } else if (const auto* tabs = qobject_cast<const QTabBar*>(&control)) {
-        for (int i = 0; i < tabs->count(); ++i) {
-            const bool upright = tabs->shape() == QTabBar::RoundedEast;
-            // Words stand below one another in an upright bar.
-            for (const QString& text : tabs->tabText(i).split(upright ? u' ' : u'\0')) {
-                check(text, tabs->tabRect(i).width());
-            }
-            if (!tabs->rect().contains(tabs->tabRect(i))) {
-                wide << tabs->tabText(i);
-            }
-        }
-    } else if (const auto* tree = qobject_cast<const QTreeView*>(&control)) {
-        const QHeaderView& header = *tree->header();
-        for (int i = 0; header.isVisible() && i < header.count(); ++i) {
-            if (header.sectionSizeHint(i) > header.sectionSize(i)) {
-                wide << header.model()->headerData(i, Qt::Horizontal).toString();
-            }
-        }
-        for (int row = 0; header.isHidden() && row < tree->model()->rowCount(); ++row) {
-            const QModelIndex index = tree->model()->index(row, 0);
-            check(index.data().toString(), tree->visualRect(index).width());
-        }
-    }
-    return wide;
-}
-
 bool IsTooSmall(const QWidget& control)
 {
     if (const auto* label = qobject_cast<const QLabel*>(&control)) {
@@ -201,69 +145,6 @@ double ContrastOf(QRgb one, QRgb other)
     const double a = Luminance(one) + 0.05;
     const double b = Luminance(other) + 0.05;
     return std::max(a, b) / std::min(a, b);
-}
-
-/// The places of the control's texts, in its own coordinates, without its frame.
-QList<QRect> TextPlaces(const QWidget& control)
-{
-    constexpr int kFrame = 3;
-    const QRect inside = control.rect().adjusted(kFrame, kFrame, -kFrame, -kFrame);
-    QList<QRect> places;
-    if (const auto* button = qobject_cast<const QAbstractButton*>(&control)) {
-        if (button->text().isEmpty() && button->icon().isNull()) {
-            return {};
-        }
-        if (button->inherits("QCheckBox")) {
-            QStyleOptionButton option;
-            option.initFrom(button);
-            return {button->style()->subElementRect(QStyle::SE_CheckBoxContents, &option, button)};
-        }
-        return {inside};
-    }
-    if (const auto* label = qobject_cast<const QLabel*>(&control)) {
-        return label->text().isEmpty() ? QList<QRect>() : QList<QRect>{label->contentsRect()};
-    }
-    if (const auto* group = qobject_cast<const QGroupBox*>(&control)) {
-        QStyleOptionGroupBox option;
-        option.initFrom(group);
-        option.text = group->title();
-        option.subControls = QStyle::SC_GroupBoxLabel;
-        return {group->style()->subControlRect(
-            QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, group)};
-    }
-    if (const auto* box = qobject_cast<const QLineEdit*>(&control)) {
-        return box->displayText().isEmpty() && box->placeholderText().isEmpty()
-                   ? QList<QRect>()
-                   : QList<QRect>{inside};
-    }
-    if (const auto* combo = qobject_cast<const QComboBox*>(&control)) {
-        return combo->currentText().isEmpty()
-                   ? QList<QRect>()
-                   : QList<QRect>{inside.adjusted(0, 0, -control.height(), 0)};
-    }
-    if (const auto* tabs = qobject_cast<const QTabBar*>(&control)) {
-        for (int i = 0; i < tabs->count(); ++i) {
-            // In an upright bar words stand below their picture.
-            const QRect tab = tabs->tabRect(i);
-            const int picture = tabs->shape() == QTabBar::RoundedEast ? tab.height() / 2 : 0;
-            places << tab.adjusted(kFrame, kFrame + picture, -kFrame, -kFrame);
-        }
-    } else if (const auto* text = qobject_cast<const QPlainTextEdit*>(&control)) {
-        if (!text->toPlainText().isEmpty()) {
-            places << Place(*text->viewport(), control);
-        }
-    } else if (const auto* view = qobject_cast<const QAbstractItemView*>(&control)) {
-        constexpr int kRows = 6;
-        const int rows = view->model() != nullptr ? view->model()->rowCount() : 0;
-        for (int row = 0; row < qMin(kRows, rows); ++row) {
-            const QModelIndex index = view->model()->index(row, 0);
-            const QRect seen = view->visualRect(index).intersected(view->viewport()->rect());
-            if (!index.data().toString().isEmpty() && !seen.isEmpty()) {
-                places << seen.translated(Place(*view->viewport(), control).topLeft());
-            }
-        }
-    }
-    return places;
 }
 
 /// What stands out most against the ground, which is the colour that most of the place has.
@@ -349,7 +230,7 @@ QStringList Walk::Room() const
                     .arg(wanted.width())
                     .arg(wanted.height()));
         }
-        for (const QString& text : TooWide(*control)) {
+        for (const QString& text : TooWideTexts(*control)) {
             faults << Line(*control, u"has no room for \"%1\""_s.arg(text));
         }
         for (const QWidget* up = control->parentWidget(); up != nullptr; up = up->parentWidget()) {

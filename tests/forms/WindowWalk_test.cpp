@@ -174,6 +174,8 @@ protected:
                 window->resize(size);
                 for (int tab = 1; tab <= Find<QTabBar>("tabInfo")->count(); ++tab) {
                     ShowTab(tab);
+                    screens.list.view = static_cast<finding::View>(tab % 4);
+                    screens.list.changed.Tell(finding::GameList::ViewMode);
                     QTest::qWait(0);
                     EXPECT_EQ(Lines(FaultsOfTheLook(*window)), std::string())
                         << tab << (dark ? " dark " : " light ") << size.width();
