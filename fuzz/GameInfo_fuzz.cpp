@@ -15,10 +15,11 @@ void CheckInfo(library::GameFiles& files)
     fuzz::Require(library::CleanField(titles.second) == titles.second, "titles are clean fields");
 
     const library::InfoText info = library::ReadInfo(files);
-    const bool keepable = library::LostInInfo(info).isEmpty();
-    fuzz::Require(library::WriteInfo(files, info).Ok() == keepable, "nothing is lost in silence");
+    const bool keepable = library::LostInInfo({info}).isEmpty();
+    fuzz::Require(library::WriteInfo(files, {info}).Ok() == keepable, "nothing is lost in silence");
     if (!keepable) {
-        fuzz::Require(library::WriteInfo(files, info, library::Loss::Accept).Ok(), "or with a yes");
+        fuzz::Require(
+            library::WriteInfo(files, {info}, library::Loss::Accept).Ok(), "or with a yes");
         return;
     }
     const library::InfoText again = library::ReadInfo(files);

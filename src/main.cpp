@@ -14,9 +14,13 @@
 #include "forms/frmDosGames.h"
 #include "forms/frmFolderCFG.h"
 #include "library/CatalogueCommands.h"
+#include "library/ConfigDetailCommands.h"
 #include "library/DeleteCommands.h"
+#include "library/GenreCommands.h"
+#include "library/InfoCommands.h"
 #include "library/ListCommands.h"
 #include "library/ListMenus.h"
+#include "library/MediaCommands.h"
 #include "library/RenameCommands.h"
 #include "library/ShowinfoCommands.h"
 #include "platform/DesktopShellVerbs.h"
@@ -122,6 +126,47 @@ void WireListMenu(forms::Deeds& deeds, shell::Launcher& launcher)
     deeds.FocusTitle = [&] { library::FocusTitle(launcher); };
 }
 
+void WireDetails(forms::Deeds& deeds, shell::Launcher& launcher)
+{
+    using library::GenreFile;
+    deeds.tabInfo_Click = [&](int) { library::tabInfo_Click(launcher); };
+    deeds.Info_Change = [&] { library::Info_Change(launcher); };
+    deeds.Info_Esc = [&](int box) { library::Info_Esc(launcher, box); };
+    deeds.cmdSaveInfo_Click = [&] { library::cmdSaveInfo_Click(launcher); };
+    deeds.mnuGenreK = [&] { return library::GenreMenu(launcher, GenreFile::Korean); };
+    deeds.mnuGenreE = [&] { return library::GenreMenu(launcher, GenreFile::English); };
+    deeds.mnuGenreK_Click = [&](int index) {
+        library::mnuGenre_Click(launcher, GenreFile::Korean, index);
+    };
+    deeds.mnuGenreE_Click = [&](int index) {
+        library::mnuGenre_Click(launcher, GenreFile::English, index);
+    };
+}
+
+void WireConfigDetail(forms::Deeds& deeds, shell::Launcher& launcher)
+{
+    deeds.OpenDetails = [&] { library::OpenDetails(launcher); };
+    deeds.SaveDetails = [&] { library::SaveDetails(launcher); };
+    deeds.DeleteDetails = [&] { library::DeleteDetails(launcher); };
+}
+
+void WireMedia(forms::Deeds& deeds, shell::Launcher& launcher)
+{
+    using library::Media;
+    const auto wire = [&](Media media,
+                          forms::Deeds::Menu& menu,
+                          forms::Deeds::IndexDeed& chosen,
+                          forms::Deeds::Deed& remove) {
+        menu = [&launcher, media] { return library::MediaMenu(launcher, media); };
+        chosen = [&launcher, media](int index) { library::mnuMedia_Click(launcher, media, index); };
+        remove = [&launcher, media] { library::DeleteMediaFile(launcher, media); };
+    };
+    wire(Media::Pictures, deeds.mnuPic, deeds.mnuPic_Click, deeds.fileImages_Delete);
+    wire(Media::Recordings, deeds.mnuAV, deeds.mnuAV_Click, deeds.fileAV_Delete);
+    wire(Media::Manuals, deeds.mnuManual, deeds.mnuManual_Click, deeds.fileManual_Delete);
+    deeds.pic1_Click = [&] { library::pic1_Click(launcher); };
+}
+
 void Wire(forms::Deeds& deeds, shell::Launcher& launcher)
 {
     deeds.LVGamelist_ItemClick = [&] { library::LVGamelist_ItemClick(launcher); };
@@ -140,6 +185,9 @@ void Wire(forms::Deeds& deeds, shell::Launcher& launcher)
     WireStartPage(deeds, launcher);
     WireWindow(deeds, launcher);
     WireListMenu(deeds, launcher);
+    WireDetails(deeds, launcher);
+    WireConfigDetail(deeds, launcher);
+    WireMedia(deeds, launcher);
 }
 
 int RunWindow(int argc, char** argv)

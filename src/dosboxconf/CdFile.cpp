@@ -2,6 +2,7 @@
 
 #include "archives/FileOperations.h"
 #include "dosboxconf/private/MetaFolder.h"
+#include "library/GameFiles.h"
 #include "platform/Numbers.h"
 #include "platform/Paths.h"
 #include "platform/TextFile.h"
@@ -35,14 +36,22 @@ void ShowPlaceholder(CdPanel& panel, const QString& placeholder)
 
 CdFacts ReadCdFacts(const shell::Places& places, const QString& folder)
 {
+    return ReadCdFacts(library::ListGame(places, folder));
+}
+
+CdFacts ReadCdFacts(const library::GameFiles& files)
+{
     CdFacts facts;
-    const platform::Listing cd = platform::ListFolder(places.InMetaDir(folder, u"CD"_s));
-    facts.hasFolder = cd.exists;
-    facts.images = platform::FilesMatching(cd, {u"*.iso"_s, u"*.cue"_s});
-    const QString conf = CdConfPath(places, folder);
-    facts.hasConf = QFileInfo::exists(conf);
+    const QString name = u"CD"_s;
+    if (files.meta.HasFolder(name)) {
+        const platform::Listing cd = platform::ListFolder(files.MetaPath(name));
+        facts.hasFolder = cd.exists;
+        facts.images = platform::FilesMatching(cd, {u"*.iso"_s, u"*.cue"_s});
+    }
+    facts.hasConf = !files.meta.Find(u"CD.conf"_s).isEmpty();
     if (facts.hasConf) {
-        const QStringList lines = platform::ReadFirstLines(conf, 2).ValueOr(QStringList());
+        const QStringList lines =
+            platform::ReadFirstLines(files.MetaPath(u"CD.conf"_s), 2).ValueOr(QStringList());
         facts.chkMountCD = platform::IntegerPrefix(lines.value(0)) != 0;
         facts.CdMountMode = platform::IntegerPrefix(lines.value(1)) != 0 ? 1 : 0;
     }

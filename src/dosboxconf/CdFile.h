@@ -7,6 +7,10 @@
 #include <QString>
 #include <QStringList>
 
+namespace pelorin::library {
+struct GameFiles;
+}
+
 // CD.conf in a game's metadata folder: line 1 chkMountCD (0 or 1), line 2 CdMountMode (0 or 1).
 // That the file is there means that the game wants a CD. Images lie in the folder CD beside it.
 
@@ -23,6 +27,8 @@ struct CdFacts {
 
 /// Looks at the disk. An unreadable CD.conf counts as one with zeros.
 CdFacts ReadCdFacts(const shell::Places& places, const QString& folder);
+/// The same for a game whose folders are listed already.
+CdFacts ReadCdFacts(const library::GameFiles& files);
 
 // `placeholder` is the one row of lstCD that stands for the game's own folder.
 

@@ -4,6 +4,7 @@
 #include "dosboxconf/ConfUpgrade.h"
 #include "dosboxconf/private/MetaFolder.h"
 #include "dosboxconf/private/StoredConf.h"
+#include "library/GameFiles.h"
 #include "platform/Numbers.h"
 #include "platform/Paths.h"
 #include "platform/TextFile.h"
@@ -151,11 +152,7 @@ Selection MarklessStandIn(const Selection& global)
 }
 
 Outcome<ConfReport> UpgradeGameConf(
-    const shell::Places& places,
-    const QString& folder,
-    OptionGrid& grid,
-    StoredConf& stored,
-    const Selection& global)
+    const QString& path, OptionGrid& grid, StoredConf& stored, const Selection& global)
 {
     Selection upgraded{};
     if (stored.layout == ConfLayout::Groups11) {
@@ -163,7 +160,7 @@ Outcome<ConfReport> UpgradeGameConf(
     }
     UpgradeOldGrid(grid, stored.values, upgraded);
     stored.values = upgraded;
-    return WriteConf(GameConfPath(places, folder), grid, upgraded, CareFor(stored.layout));
+    return WriteConf(path, grid, upgraded, CareFor(stored.layout));
 }
 
 void Overlay(OptionGrid& grid, const Selection& game)
@@ -283,13 +280,23 @@ Outcome<ConfReport> WriteGameConf(
 
 LoadedConf LoadGameConf(const shell::Places& places, const QString& folder, OptionGrid& grid)
 {
+    // Without a plain name there is no game, and only the global settings are loaded.
+    const bool isGame = platform::IsPlainName(folder);
+    return LoadGameConf(
+        places, isGame ? library::ListGame(places, folder) : library::GameFiles(), grid);
+}
+
+LoadedConf LoadGameConf(
+    const shell::Places& places, const library::GameFiles& files, OptionGrid& grid)
+{
     LoadedConf loaded;
     loaded.report = ReadDefaultConf(places, grid);
-    if (!HasGameConf(places, folder)) {
+    const QString name = u"edit.conf"_s;
+    if (files.meta.Find(name).isEmpty()) {
         return loaded;
     }
     const Selection global = grid.OptionSelection;
-    const QString path = GameConfPath(places, folder);
+    const QString path = files.MetaPath(name);
     const Outcome<QStringList> lines = platform::ReadLines(path);
     if (!lines) {
         loaded.report.fellBack = true;
@@ -305,7 +312,7 @@ LoadedConf LoadGameConf(const shell::Places& places, const QString& folder, Opti
     }
     if (stored.layout != ConfLayout::Current) {
         loaded.report.upgraded = true;
-        WriteOrNote(loaded.report, UpgradeGameConf(places, folder, grid, stored, global));
+        WriteOrNote(loaded.report, UpgradeGameConf(path, grid, stored, global));
     }
     NoteOffTheirLists(loaded.report, path, grid, stored.values, Keys::WithoutGlobalOnly);
     Overlay(grid, stored.values);

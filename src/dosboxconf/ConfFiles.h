@@ -16,6 +16,10 @@
 //
 // There is one current configuration, the grid's OptionSelection; loading one loses the other.
 
+namespace pelorin::library {
+struct GameFiles;
+}
+
 namespace pelorin::dosboxconf {
 
 /// What happened on the way. `notes` are for the user, each naming its file; whoever
@@ -69,6 +73,9 @@ platform::Outcome<ConfReport> WriteGameConf(
 /// mark is replaced by values of the global file and kept as .bak. Without an edit.conf this is
 /// ReadDefaultConf.
 LoadedConf LoadGameConf(const shell::Places& places, const QString& folder, OptionGrid& grid);
+/// The same for a game whose folders are listed already.
+LoadedConf LoadGameConf(
+    const shell::Places& places, const library::GameFiles& files, OptionGrid& grid);
 
 /// Saves the grid as the game's file and its global-only keys into Default.conf. Without a
 /// Default.conf one with factory values is made, and the grid then holds those. Error Unwritable;

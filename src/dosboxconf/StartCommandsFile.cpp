@@ -1,6 +1,7 @@
 #include "dosboxconf/StartCommandsFile.h"
 
 #include "dosboxconf/private/MetaFolder.h"
+#include "library/GameFiles.h"
 #include "platform/TextFile.h"
 
 #include <algorithm>
@@ -22,6 +23,18 @@ QStringList WithoutEmptyLines(QStringList lines)
 {
     lines.removeAll(QString());
     return lines;
+}
+
+/// None without a file.
+platform::Outcome<QStringList> ReadCommands(const QString& path)
+{
+    platform::Outcome<QStringList> lines = platform::ReadLines(path);
+    if (!lines) {
+        return lines.Failure().kind == platform::ErrorKind::NotFound
+                   ? platform::Outcome<QStringList>(QStringList())
+                   : lines;
+    }
+    return WithoutEmptyLines(lines.Take());
 }
 
 void InsertAndSelect(StartCommands& start, const QString& line)
@@ -51,13 +64,14 @@ void SwapWith(StartCommands& start, int other)
 
 platform::Outcome<QStringList> ReadAutoexecConf(const shell::Places& places, const QString& folder)
 {
-    platform::Outcome<QStringList> lines = platform::ReadLines(AutoexecConfPath(places, folder));
-    if (!lines) {
-        return lines.Failure().kind == platform::ErrorKind::NotFound
-                   ? platform::Outcome<QStringList>(QStringList())
-                   : lines;
-    }
-    return WithoutEmptyLines(lines.Take());
+    return ReadCommands(AutoexecConfPath(places, folder));
+}
+
+platform::Outcome<QStringList> ReadAutoexecConf(const library::GameFiles& files)
+{
+    const QString name = u"autoexec.conf"_s;
+    return files.HasMetaFile(name) ? ReadCommands(files.MetaPath(name))
+                                   : platform::Outcome<QStringList>(QStringList());
 }
 
 platform::Done WriteAutoexecConf(

@@ -72,13 +72,10 @@ void WriteAutoexecConf(Launcher& launcher)
     }
 }
 
-void FillCdList(Launcher& launcher)
+void FillCdList(Launcher& launcher, const library::GameFiles& files)
 {
     ResetCdPanel(launcher.screens.cd);
-    FillCdList(
-        launcher.screens.cd,
-        ReadCdFacts(launcher.places, ShownGame(launcher)),
-        Placeholder(launcher));
+    FillCdList(launcher.screens.cd, ReadCdFacts(files), Placeholder(launcher));
 }
 
 void chkCD_Click(Launcher& launcher, bool checked)

@@ -1,5 +1,8 @@
 #pragma once
 
+namespace pelorin::library {
+struct GameFiles;
+}
 namespace pelorin::shell {
 struct Launcher;
 }
@@ -16,7 +19,7 @@ void lstAutoexec_DblClick(shell::Launcher& launcher, int row);
 void WriteAutoexecConf(shell::Launcher& launcher);
 
 /// Shows how the game gets its CD; nothing of the former game stays.
-void FillCdList(shell::Launcher& launcher);
+void FillCdList(shell::Launcher& launcher, const library::GameFiles& files);
 void chkCD_Click(shell::Launcher& launcher, bool checked);
 void chkMountCD_Click(shell::Launcher& launcher, bool checked);
 /// The popup of cmdCD: 0 the game's folder, 1 images.

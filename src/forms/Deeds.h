@@ -33,6 +33,8 @@ struct Deeds {
     Deed FocusTitle;       // F2
     Deed RenameGameFolder; // F4, and panel 2 of the status bar
     Deed OpenDetails;      // F6
+    Deed SaveDetails;      // frmConfigDetail's Command1
+    Deed DeleteDetails;    // its Command3
 
     // The toolbar.
     Deed cmdRun_Click; // element 0; element 1 opens mnuRun
@@ -59,12 +61,24 @@ struct Deeds {
 
     // The right panel.
     IndexDeed tabInfo_Click; // counted from 1; frame.tabInfo holds it
-    Deed cmdSaveInfo_Click;
+    Deed Info_Change;        // typed into a title or the description
+    IndexDeed Info_Esc;      // in a title (0, 1) or the description (2)
+    Deed cmdSaveInfo_Click;  // Ctrl+S as well
     IndexDeed cmdIcon_Click;
     Menu mnuGenreK;
     IndexDeed mnuGenreK_Click;
     Menu mnuGenreE;
     IndexDeed mnuGenreE_Click;
+    Menu mnuPic; // of fileImages and pic1
+    IndexDeed mnuPic_Click;
+    Deed fileImages_Delete;
+    Menu mnuAV; // of fileAV
+    IndexDeed mnuAV_Click;
+    Deed fileAV_Delete;
+    Menu mnuManual; // of fileManual
+    IndexDeed mnuManual_Click;
+    Deed fileManual_Delete;
+    Deed pic1_Click;
 
     // The start page.
     Deed cmdAddExec_Click;

@@ -1,5 +1,6 @@
 #include "forms/MenuButton.h"
 
+#include <QContextMenuEvent>
 #include <QStyleOptionToolButton>
 #include <QStylePainter>
 
@@ -13,6 +14,12 @@ int MenuButton::ArrowWidth() const
 QSize MenuButton::sizeHint() const
 {
     return QToolButton::sizeHint() + QSize(ArrowWidth(), 0);
+}
+
+void MenuButton::contextMenuEvent(QContextMenuEvent* event)
+{
+    event->accept();
+    showMenu();
 }
 
 void MenuButton::paintEvent(QPaintEvent*)

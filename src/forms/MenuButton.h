@@ -14,6 +14,8 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    /// The right button and the menu key open the menu as well.
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     int ArrowWidth() const;

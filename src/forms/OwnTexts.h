@@ -47,6 +47,18 @@ inline constexpr OwnEntry kOwnRight{379, u"Right"};
 inline constexpr OwnEntry kOwnNotes{380, u"Notes"};
 inline constexpr OwnEntry kOwnPages{381, u"Pages"};
 inline constexpr OwnEntry kOwnMedia{382, u"Pictures, recordings and manuals"};
+inline constexpr OwnEntry kOwnSave{448, u"Save"};
+inline constexpr OwnEntry kOwnDiscard{449, u"Discard"};
+inline constexpr OwnEntry kOwnDraft{450, u"Not saved"};
+inline constexpr OwnEntry kOwnInfoCut{
+    451, u"Too large to be edited here. Only the beginning is shown."};
+inline constexpr OwnEntry kOwnInfoUnreadable{
+    452, u"The file of titles and description can't be read."};
+inline constexpr OwnEntry kOwnNoPicture{457, u"No pictures"};
+inline constexpr OwnEntry kOwnNotAPicture{458, u"This file is no picture that can be shown."};
+inline constexpr OwnEntry kOwnPictureBroken{459, u"This picture is damaged."};
+inline constexpr OwnEntry kOwnPictureLarge{
+    461, u"This picture is too large to be shown: <1> x <2>"};
 inline constexpr OwnEntry kOwnNoSite{
     494, u"No site is set. A line site=ADDRESS in Endpoints.cfg sets one."};
 inline constexpr OwnEntry kOwnPicture{495, u"Picture shown"};

@@ -51,6 +51,11 @@ std::vector<Choice> ChoicesOf(Buttons buttons)
         return {
             {Answer::Yes, kOwnYes, QMessageBox::YesRole},
             {Answer::No, kOwnNo, QMessageBox::NoRole}};
+    case Buttons::SaveDiscardCancel:
+        return {
+            {Answer::Save, kOwnSave, QMessageBox::AcceptRole},
+            {Answer::Discard, kOwnDiscard, QMessageBox::DestructiveRole},
+            {Answer::Cancel, kOwnCancel, QMessageBox::RejectRole}};
     case Buttons::Ok: break;
     }
     return {{Answer::Ok, kOwnOk, QMessageBox::AcceptRole}};

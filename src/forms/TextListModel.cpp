@@ -1,5 +1,6 @@
 #include "forms/TextListModel.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 
 namespace pelorin::forms {
@@ -73,7 +74,25 @@ void RowList::keyPressEvent(QKeyEvent* event)
         m_activated(currentIndex().row());
         return;
     }
+    if (event->key() == Qt::Key_Delete && m_deleted && currentIndex().isValid()) {
+        if (!event->isAutoRepeat()) {
+            m_deleted(currentIndex().row());
+        }
+        return;
+    }
     QListView::keyPressEvent(event);
+}
+
+void RowList::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (!m_menu) {
+        QListView::contextMenuEvent(event);
+        return;
+    }
+    const bool keyboard = event->reason() == QContextMenuEvent::Keyboard;
+    m_menu(
+        keyboard ? viewport()->mapToGlobal(visualRect(currentIndex()).center())
+                 : event->globalPos());
 }
 
 } // namespace pelorin::forms

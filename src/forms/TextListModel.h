@@ -46,8 +46,13 @@ public:
     }
     /// The user went to another row.
     void SetRowChosen(std::function<void(int row)> chosen) { m_chosen = std::move(chosen); }
+    /// The Delete key, once a press.
+    void SetDeleted(std::function<void(int row)> deleted) { m_deleted = std::move(deleted); }
+    /// The right button or the menu key, with the place of the screen for a menu.
+    void SetMenu(std::function<void(QPoint position)> menu) { m_menu = std::move(menu); }
 
 protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -57,6 +62,8 @@ private:
     bool m_showing = false; // the program changes the list, not the user
     std::function<void(int row)> m_activated;
     std::function<void(int row)> m_chosen;
+    std::function<void(int row)> m_deleted;
+    std::function<void(QPoint position)> m_menu;
 };
 
 } // namespace pelorin::forms

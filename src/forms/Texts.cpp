@@ -56,6 +56,7 @@ constexpr ControlText kTexts[] = {
     {u"lblGenreTitleK", Kind::Caption, Entry(30)},
     {u"lblGenreTitleE", Kind::Caption, Entry(13)},
     {u"lblInfo", Kind::Caption, Entry(29)},
+    {u"lblDraft", Kind::Caption, kOwnDraft},
     {u"txtInfo", Kind::Name, Entry(29)},
     {u"cmdIcon_0", Kind::ToolTip, Entry(25)},
     {u"cmdIcon_1", Kind::ToolTip, Entry(62)},

@@ -11,6 +11,7 @@
 #include "forms/StatusPanels.h"
 #include "forms/Texts.h"
 #include "forms/Toolbar.h"
+#include "forms/frmConfigDetail.h"
 #include "shell/MinimumSize.h"
 
 #include <QApplication>
@@ -68,6 +69,7 @@ frmDosGames::frmDosGames(const Shown& shown, const Deeds& deeds)
     m_status = new StatusPanels(shown, deeds, this);
     setStatusBar(m_status);
     setTabOrder(m_toolbar->BeforeAddGame(), m_addGame);
+    m_configDetail = new frmConfigDetail(shown, deeds, this);
     BuildKeys();
     Follow(MainFrame::Caption | MainFrame::Language);
     ShowPanelsEnabled();

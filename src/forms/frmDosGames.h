@@ -19,6 +19,7 @@ class ProgressOverlay;
 class RightPanel;
 class StatusPanels;
 class Toolbar;
+class frmConfigDetail;
 
 /// The main window. It shows the screen models and hands what the user does to the deeds; it holds
 /// no rule. It opens when the frame's model tells Show.
@@ -58,6 +59,7 @@ private:
     AddGameButton* m_addGame = nullptr;
     RightPanel* m_picBack1 = nullptr;
     StatusPanels* m_status = nullptr;
+    frmConfigDetail* m_configDetail = nullptr;
     Listening m_listening;
     Listening m_panelsListening;
 };

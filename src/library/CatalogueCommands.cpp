@@ -252,16 +252,25 @@ void RereadGameEntry(Launcher& launcher, const QString& folder)
     }
     GameEntry& entry = launcher.catalogue[static_cast<std::size_t>(position)];
     RefreshEntry(entry, ListGame(launcher.places, folder), RulesOf(launcher));
+    ShowGameEntry(launcher, folder);
+}
 
+void ShowGameEntry(Launcher& launcher, const QString& folder)
+{
     finding::GameList& list = launcher.screens.list;
+    const int position = PositionOf(launcher.catalogue, folder);
     const int row = list.RowOf(folder);
-    if (row >= 0) {
-        list.items[static_cast<std::size_t>(row)] = finding::ItemOf(
-            entry, launcher.options.BuildNames(), launcher.settings.TitleLanguageKorean);
-        list.changed.Tell(finding::GameList::Rows);
-        if (folder == launcher.current.CurrentFolder) {
-            launcher.current.CurrentTitle = list.items[static_cast<std::size_t>(row)].text[0];
-        }
+    if (position < 0 || row < 0) {
+        return;
+    }
+    finding::GameItem& item = list.items[static_cast<std::size_t>(row)];
+    item = finding::ItemOf(
+        launcher.catalogue[static_cast<std::size_t>(position)],
+        launcher.options.BuildNames(),
+        launcher.settings.TitleLanguageKorean);
+    list.changed.Tell(finding::GameList::Rows);
+    if (folder == launcher.current.CurrentFolder) {
+        launcher.current.CurrentTitle = item.text[0];
     }
 }
 

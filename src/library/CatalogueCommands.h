@@ -24,6 +24,9 @@ void cmdRefresh_Click(shell::Launcher& launcher);
 /// Reads one game's titles, build and marks again and shows them in its row.
 void RereadGameEntry(shell::Launcher& launcher, const QString& folder);
 
+/// Shows what the Catalogue holds of a game in its row, if the list has one.
+void ShowGameEntry(shell::Launcher& launcher, const QString& folder);
+
 /// RereadGameEntry, and the details of the current game are shown anew.
 void RefreshGameEntry(shell::Launcher& launcher, const QString& folder);
 

@@ -13,11 +13,16 @@ void FolderRenamed(Launcher& launcher, const QString& oldName, const QString& ne
             folder = newName;
         }
     }
+    MoveDraft(launcher.drafts, oldName, newName);
+    if (launcher.screens.configDetail.folder == oldName) {
+        launcher.screens.configDetail.folder = newName;
+    }
 }
 
 void FolderGone(Launcher& launcher, const QString& folder)
 {
     launcher.current.BatchSelection.removeAll(folder);
+    launcher.drafts.erase(folder);
 }
 
 } // namespace pelorin::library

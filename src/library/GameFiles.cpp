@@ -206,10 +206,16 @@ QStringList Recordings(const GameFiles& files)
     return FilesEndingWith(files.meta, std::array<QStringView, 3>{u".avi", u".wav", u".vgm"});
 }
 
-QStringList Manuals(const GameFiles& files)
+QString ManualDir(const GameFiles& files)
 {
     const QString name = FindFolder(files.meta, u"Manual");
-    return name.isEmpty() ? QStringList() : platform::ListFolder(files.metaDir + u'/' + name).files;
+    return name.isEmpty() ? QString() : files.metaDir + u'/' + name;
+}
+
+QStringList Manuals(const GameFiles& files)
+{
+    const QString folder = ManualDir(files);
+    return folder.isEmpty() ? QStringList() : platform::ListFolder(folder).files;
 }
 
 } // namespace pelorin::library

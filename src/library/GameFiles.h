@@ -74,7 +74,9 @@ QStringList RunnableFiles(const GameFiles& files);
 QStringList Pictures(const GameFiles& files);
 /// Names in MetaDir that are recordings (*.avi, *.wav, *.vgm), by name.
 QStringList Recordings(const GameFiles& files);
-/// Names in the folder Manual of MetaDir, listed at each call.
+/// The folder Manual of MetaDir in its spelling on disk; empty if there is none.
+QString ManualDir(const GameFiles& files);
+/// Names in it, listed at each call.
 QStringList Manuals(const GameFiles& files);
 
 } // namespace pelorin::library

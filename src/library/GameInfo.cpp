@@ -59,17 +59,83 @@ QString TrimBlanks(const QString& text)
     return text.mid(start, end - start);
 }
 
-QString InfoFileText(const InfoText& info)
+QString TitleLineOf(const Titles& titles)
 {
-    QString text = CleanField(info.titles.first) + kTitleSeparator +
-                   CleanField(info.titles.second) + u"\r\n"_s;
-    if (!info.description.isEmpty()) {
-        // A text box separates its lines by LF, files of this system by CR LF.
-        QString description = info.description;
-        description.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
-        text += description.replace(u'\n', u"\r\n"_s) + u"\r\n"_s;
+    return CleanField(titles.first) + kTitleSeparator + CleanField(titles.second) + u"\r\n"_s;
+}
+
+QString DescriptionLinesOf(const QString& description)
+{
+    if (description.isEmpty()) {
+        return QString();
     }
-    return text;
+    // A text box separates its lines by LF, files of this system by CR LF.
+    QString lines = description;
+    lines.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
+    return lines.replace(u'\n', u"\r\n"_s) + u"\r\n"_s;
+}
+
+/// info.txt as it stands on disk.
+struct InfoBytes {
+    bool exists = false;
+    bool whole = true;
+    QByteArray titleLine; // with its end, if it has one
+    QByteArray rest;
+};
+
+/// No byte of a line end is ever the second one of a character, so bytes can be split.
+InfoBytes SplitInfoBytes(const platform::FileStart& file)
+{
+    InfoBytes info;
+    info.exists = true;
+    info.whole = file.whole;
+    const auto* const begin = file.bytes.begin();
+    const auto* end =
+        std::find_if(begin, file.bytes.end(), [](char c) { return c == '\r' || c == '\n'; });
+    if (end != file.bytes.end()) {
+        const bool pair = *end == '\r' && end + 1 != file.bytes.end() && *(end + 1) == '\n';
+        end += pair ? 2 : 1;
+    }
+    info.titleLine = file.bytes.left(end - begin);
+    info.rest = file.bytes.mid(end - begin);
+    info.whole = info.whole && info.titleLine.size() <= kMostTitleLine;
+    return info;
+}
+
+platform::Outcome<InfoBytes> ReadInfoBytes(const GameFiles& files)
+{
+    if (!files.HasMetaFile(u"info.txt"_s)) {
+        return InfoBytes{};
+    }
+    const auto start = platform::ReadStart(files.MetaPath(u"info.txt"_s), kMostInfo);
+    if (!start) {
+        const bool gone = start.Failure().kind == platform::ErrorKind::NotFound;
+        return gone ? platform::Outcome<InfoBytes>(InfoBytes{}) : start.Failure();
+    }
+    return SplitInfoBytes(start.Value());
+}
+
+bool EndsALine(const QByteArray& line)
+{
+    return line.endsWith('\n') || line.endsWith('\r');
+}
+
+/// The new file. `lost` takes what code page 949 can't keep of what is touched.
+QByteArray ComposeInfo(const InfoBytes& old, const InfoChange& change, QString& lost)
+{
+    const auto encode = [&lost](const QString& text) {
+        const platform::Encoded encoded = platform::EncodeCp949(text);
+        lost += encoded.lost;
+        return encoded.bytes;
+    };
+    const bool titles = change.titles || old.titleLine.isEmpty();
+    QByteArray bytes = titles ? encode(TitleLineOf(change.text.titles)) : old.titleLine;
+    if (!change.description) {
+        return bytes + old.rest;
+    }
+    const QByteArray description = encode(DescriptionLinesOf(change.text.description));
+    const bool needsEnd = !description.isEmpty() && !EndsALine(bytes);
+    return bytes + (needsEnd ? QByteArray("\r\n") : QByteArray()) + description;
 }
 
 /// nullopt if the file is not there or can't be read; the latter is a trouble.
@@ -182,38 +248,65 @@ Titles ReadTitles(const GameFiles& files, Troubles* troubles)
 
 InfoText ReadInfo(const GameFiles& files)
 {
-    if (!files.HasMetaFile(u"info.txt"_s)) {
-        return InfoText{};
-    }
-    const auto lines = platform::ReadLines(files.MetaPath(u"info.txt"_s));
-    if (!lines || lines.Value().isEmpty()) {
-        return InfoText{};
-    }
-    const QStringList pieces = lines.Value()[0].split(kTitleSeparator);
     InfoText info;
+    const platform::Outcome<InfoBytes> read = ReadInfoBytes(files);
+    if (!read) {
+        info.state = InfoState::Unreadable;
+        return info;
+    }
+    const InfoBytes& bytes = read.Value();
+    if (bytes.titleLine.isEmpty()) {
+        return info;
+    }
+    info.state = bytes.whole ? InfoState::Whole : InfoState::Cut;
+    const QString line =
+        platform::DecodeCp949(bytes.titleLine.left(kMostTitleLine)); // its end is no field's
+    const QStringList pieces = line.split(kTitleSeparator);
     if (pieces.size() == 1) {
         info.titles.first = TrimBlanks(CleanField(pieces[0]));
         info.titles.second = info.titles.first;
     } else {
         info.titles = Titles{CleanField(pieces[0]), CleanField(pieces[1])};
     }
-    info.description = lines.Value().mid(1).join(u"\r\n"_s);
+    info.description = platform::SplitLines(platform::DecodeCp949(bytes.rest)).join(u"\r\n"_s);
     return info;
 }
 
-QString LostInInfo(const InfoText& info)
+QString LostInInfo(const InfoChange& change)
 {
-    return platform::EncodeCp949(InfoFileText(info)).lost;
+    const QString titles = change.titles ? TitleLineOf(change.text.titles) : QString();
+    const QString rest =
+        change.description ? DescriptionLinesOf(change.text.description) : QString();
+    return platform::EncodeCp949(titles + rest).lost;
 }
 
-platform::Done WriteInfo(GameFiles& files, const InfoText& info, Loss loss)
+platform::Done WriteInfo(GameFiles& files, const InfoChange& change, Loss loss)
 {
     platform::Done made = MakeMetaDir(files);
     if (!made) {
         return made;
     }
     const QString name = u"info.txt"_s;
-    platform::Done written = platform::WriteText(files.MetaPath(name), InfoFileText(info), loss);
+    const QString path = files.MetaPath(name);
+    const platform::Outcome<InfoBytes> old = ReadInfoBytes(files);
+    if (!old) {
+        return old.Failure();
+    }
+    if (!old.Value().whole) {
+        return platform::Error::Worded(
+            platform::ErrorKind::Refused,
+            platform::Wording{
+                460, u"<1>: too large to be edited here; the file stays as it is."_s, {path}});
+    }
+    if (old.Value().exists && !change.titles && !change.description) {
+        return platform::Success();
+    }
+    QString lost;
+    const QByteArray bytes = ComposeInfo(old.Value(), change, lost);
+    if (loss == Loss::Refuse && !lost.isEmpty()) {
+        return platform::Error{platform::ErrorKind::Unencodable, u"%1: %2"_s.arg(path, lost)};
+    }
+    platform::Done written = platform::WriteBytes(path, bytes);
     if (written && !files.HasMetaFile(name)) {
         files.NoteMetaFile(name);
     }

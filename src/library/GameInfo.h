@@ -21,10 +21,29 @@ struct Titles {
     QString second; // English
 };
 
+/// How much of info.txt the boxes hold.
+enum class InfoState {
+    Whole,
+    Cut,        // the beginning of a file that is too large to be edited
+    Unreadable, // nothing
+};
+
+/// The bytes of an info.txt that can be edited, and the characters of its title line.
+inline constexpr qsizetype kMostInfo = 256 * 1024;
+inline constexpr qsizetype kMostTitleLine = 4096;
+
 /// What the title and description boxes show.
 struct InfoText {
     Titles titles;       // empty if there is no info.txt; one title alone stands in both, trimmed
     QString description; // lines joined by CR LF
+    InfoState state = InfoState::Whole;
+};
+
+/// What is to be saved of the boxes.
+struct InfoChange {
+    InfoText text;
+    bool titles = true; // what is not touched stays in the file byte by byte
+    bool description = true;
 };
 
 struct Facts {
@@ -60,16 +79,18 @@ Titles SplitTitleLine(const QString& line, const QString& folder);
 /// folder's name. Here and below, a file that is there and can't be read is told in `troubles`.
 Titles ReadTitles(const GameFiles& files, Troubles* troubles = nullptr);
 
-/// info.txt whole, for the boxes. Missing or unreadable: empty.
+/// info.txt for the boxes. Missing: empty and whole, since it can be written.
 InfoText ReadInfo(const GameFiles& files);
 
-/// What code page 949 can't keep of these texts, each character once; empty if all is well.
-QString LostInInfo(const InfoText& info);
+/// What code page 949 can't keep of the change, each character once; empty if all is well.
+QString LostInInfo(const InfoChange& change);
 
-/// Replaces info.txt; makes the metadata folder if it is missing. Line ends of the description
-/// become CR LF; control characters 1 to 3 and line ends in titles are dropped. Error Unencodable,
-/// with nothing written, if characters would be lost and `loss` refuses that.
-platform::Done WriteInfo(GameFiles& files, const InfoText& info, Loss loss = Loss::Refuse);
+/// Replaces info.txt; makes the metadata folder if it is missing. Line ends of a touched description
+/// become CR LF; control characters 1 to 3 and line ends in touched titles are dropped. Where there
+/// is no file both are written; where nothing is touched, nothing. Error Unencodable, with nothing
+/// written, if characters would be lost and `loss` refuses that; Refused for a file that is too
+/// large to be edited; Unreadable.
+platform::Done WriteInfo(GameFiles& files, const InfoChange& change, Loss loss = Loss::Refuse);
 
 /// Missing lines, or no file, read as empty.
 Facts ReadFacts(const GameFiles& files, Troubles* troubles = nullptr);

@@ -9,13 +9,12 @@
 #include "library/CatalogueEdits.h"
 #include "library/GameFiles.h"
 #include "library/GameInfo.h"
+#include "library/InfoCommands.h"
+#include "library/MediaCommands.h"
 #include "platform/Paths.h"
 #include "running/RunCommands.h"
 #include "shell/JobCommands.h"
 #include "shell/Launcher.h"
-#include "shell/LossCommands.h"
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -28,23 +27,39 @@ namespace {
 
 constexpr auto kCategory = "pelorin.library";
 
-void ShowTexts(Launcher& launcher, const GameFiles& files)
+void ShowGenres(Launcher& launcher, const QString& korean, const QString& english)
 {
     DetailsPanel& details = launcher.screens.details;
-    const InfoText info = ReadInfo(files);
-    details.txtTitle = {info.titles.first, info.titles.second};
-    details.txtInfo = info.description;
-    const int position = PositionOf(launcher.catalogue, files.folder);
-    if (position >= 0) {
-        const GameEntry& entry = launcher.catalogue[static_cast<std::size_t>(position)];
-        details.lblGenreK = entry.GenreK;
-        details.lblGenreE = entry.GenreE;
+    details.lblGenreK = korean;
+    details.lblGenreE = english;
+    details.changed.Tell(DetailsPanel::Genres);
+}
+
+/// The genres as the folder has them, an old code turned into its words. The entry that takes them
+/// is the first whose folder ends with the game's name, as it always was; where names end alike
+/// that is another game's, which reads its own again when it is refreshed.
+void TakeGenres(Launcher& launcher, GameFiles& files)
+{
+    const int position = PositionBySuffix(launcher.catalogue, files.folder);
+    if (position < 0) {
+        return;
     }
+    Troubles troubles; // a scan tells of them
+    const Genres genres = ReadGenres(files, GenreForm::Panel, troubles);
+    GameEntry& entry = launcher.catalogue[static_cast<std::size_t>(position)];
+    entry.GenreK = genres.korean;
+    entry.GenreE = genres.english;
+    ShowGenres(launcher, genres.korean, genres.english);
+}
+
+void ShowIcon(Launcher& launcher, const GameFiles& files)
+{
+    DetailsPanel& details = launcher.screens.details;
     if (files.game.exists) {
-        details.iconFile =
-            files.HasMetaFile(u"Icon.jpg"_s) ? files.MetaPath(u"Icon.jpg"_s) : QString();
+        const QString name = u"Icon.jpg"_s;
+        details.iconFile = files.HasMetaFile(name) ? files.MetaPath(name) : QString();
+        details.changed.Tell(DetailsPanel::Icon);
     }
-    details.changed.Tell(DetailsPanel::Texts | DetailsPanel::Genres | DetailsPanel::Icon);
 }
 
 void ShowPath(Launcher& launcher, const GameFiles& files)
@@ -58,8 +73,7 @@ void ShowPath(Launcher& launcher, const GameFiles& files)
 void ShowStartPage(Launcher& launcher, const GameFiles& files)
 {
     dosboxconf::StartCommands& start = launcher.screens.start;
-    const platform::Outcome<QStringList> commands =
-        dosboxconf::ReadAutoexecConf(launcher.places, files.folder);
+    const platform::Outcome<QStringList> commands = dosboxconf::ReadAutoexecConf(files);
     if (!commands) {
         shell::TellNote(launcher, kCategory, commands.Failure());
     }
@@ -67,23 +81,28 @@ void ShowStartPage(Launcher& launcher, const GameFiles& files)
     start.fileEXE = RunnableFiles(files);
     start.fileRow = start.fileEXE.isEmpty() ? -1 : 0;
     start.changed.Tell(dosboxconf::StartCommands::Files | dosboxconf::StartCommands::FileRow);
-    dosboxconf::FillCdList(launcher);
+    dosboxconf::FillCdList(launcher, files);
+}
+
+bool ShowsConf(const Launcher& launcher)
+{
+    constexpr int kGlobalPage = 3;
+    constexpr int kGamePage = 4;
+    const int tab = launcher.screens.frame.tabInfo;
+    return tab == kGlobalPage || tab == kGamePage;
 }
 
 /// A configuration of an older layout is rewritten here, and its build read anew, so that a start
 /// finds the build where it looks for it.
-void LoadConf(Launcher& launcher, const QString& folder)
+void LoadConf(Launcher& launcher, const GameFiles& files)
 {
     const dosboxconf::ConfReport report =
-        dosboxconf::LoadGameConf(launcher.places, folder, launcher.options).report;
+        dosboxconf::LoadGameConf(launcher.places, files, launcher.options).report;
     dosboxconf::TellReport(launcher, report);
     if (report.upgraded) {
-        RereadGameEntry(launcher, folder);
+        RereadGameEntry(launcher, files.folder);
     }
-    constexpr int kGlobalPage = 3;
-    constexpr int kGamePage = 4;
-    const int tab = launcher.screens.frame.tabInfo;
-    if (tab == kGlobalPage || tab == kGamePage) {
+    if (ShowsConf(launcher)) {
         launcher.screens.frame.changed.Tell(shell::MainFrame::Tab); // it shows what is loaded
     }
 }
@@ -97,21 +116,37 @@ void ShowCaption(Launcher& launcher)
     launcher.screens.status.changed.Tell(shell::StatusBar::Texts);
 }
 
+/// The genre of the selected row.
+QString SelectedTag(const finding::GameList& list)
+{
+    const auto row = static_cast<std::size_t>(list.selected);
+    return list.selected >= 0 && row < list.items.size() ? list.items[row].tag : QString();
+}
+
 } // namespace
 
 void ShowinfoProcess(Launcher& launcher)
 {
-    if (!platform::IsPlainName(launcher.current.CurrentFolder)) {
+    const QString folder = launcher.current.CurrentFolder;
+    const platform::RedrawLock lock(launcher.screens.gate);
+    if (!platform::IsPlainName(folder)) {
+        ShowNoGame(launcher);
+        const QString tag = SelectedTag(launcher.screens.list);
+        ShowGenres(launcher, tag, tag);
         return;
     }
-    const platform::RedrawLock lock(launcher.screens.gate);
-    launcher.screens.details.folder = launcher.current.CurrentFolder;
-    const GameFiles files = ListGame(launcher.places, launcher.current.CurrentFolder);
-    ShowTexts(launcher, files);
+    launcher.screens.details.folder = folder;
+    // The one listing of the folder, and each file read once. What fails says so where it is read,
+    // and the rest goes on.
+    GameFiles files = ListGame(launcher.places, folder);
+    TakeGenres(launcher, files);
+    ShowIcon(launcher, files);
     ShowPath(launcher, files);
+    ShowInfo(launcher, files);
     ShowStartPage(launcher, files);
-    LoadConf(launcher, files.folder);
+    LoadConf(launcher, files);
     ShowCaption(launcher);
+    FillMedia(launcher, files);
 }
 
 void ShowNoGame(Launcher& launcher)
@@ -121,19 +156,12 @@ void ShowNoGame(Launcher& launcher)
     launcher.current.CurrentTitle.clear();
     DetailsPanel& details = launcher.screens.details;
     details.folder.clear();
-    details.txtTitle = {};
-    details.txtInfo.clear();
-    details.lblGenreK.clear();
-    details.lblGenreE.clear();
     details.iconFile.clear();
-    details.changed.Tell(DetailsPanel::Texts | DetailsPanel::Genres | DetailsPanel::Icon);
-    dosboxconf::StartCommands& start = launcher.screens.start;
-    dosboxconf::FillStartCommands(start, {});
-    start.fileEXE.clear();
-    start.fileRow = -1;
-    start.changed.Tell(dosboxconf::StartCommands::Files | dosboxconf::StartCommands::FileRow);
-    dosboxconf::ResetCdPanel(launcher.screens.cd);
-    launcher.screens.cd.changed.Tell(dosboxconf::CdPanel::All);
+    details.changed.Tell(DetailsPanel::Icon);
+    ShowGenres(launcher, QString(), QString());
+    ShowInfo(launcher, GameFiles());
+    ShowStartPage(launcher, GameFiles());
+    ClearMedia(launcher);
     shell::StatusBar& status = launcher.screens.status;
     status.game.clear();
     status.folder.clear();
@@ -143,17 +171,11 @@ void ShowNoGame(Launcher& launcher)
     launcher.screens.frame.changed.Tell(shell::MainFrame::Caption);
 }
 
-void WriteGameInfo(Launcher& launcher)
+void tabInfo_Click(Launcher& launcher)
 {
-    const DetailsPanel& details = launcher.screens.details;
-    const QString folder = details.folder; // the boxes are its, wherever the selection is by now
-    const InfoText info{{details.txtTitle[0], details.txtTitle[1]}, details.txtInfo};
-    if (!platform::IsPlainName(folder) || !shell::MayLose(launcher, LostInInfo(info))) {
-        return;
-    }
-    GameFiles files = ListGame(launcher.places, folder);
-    if (const platform::Done written = WriteInfo(files, info, Loss::Accept); !written) {
-        shell::TellNote(launcher, kCategory, written.Failure());
+    const QString folder = launcher.screens.details.folder;
+    if (ShowsConf(launcher) && platform::IsPlainName(folder)) {
+        LoadConf(launcher, ListGame(launcher.places, folder));
     }
 }
 

@@ -4,9 +4,9 @@
 
 namespace pelorin::platform {
 
-enum class Buttons { Ok, OkCancel, YesNo };
+enum class Buttons { Ok, OkCancel, YesNo, SaveDiscardCancel };
 enum class BoxIcon { None, Information, Question, Exclamation };
-enum class Answer { Ok, Cancel, Yes, No };
+enum class Answer { Ok, Cancel, Yes, No, Save, Discard };
 
 struct MessageBox {
     QString text;
@@ -22,7 +22,7 @@ class Prompts {
 public:
     virtual ~Prompts() = default;
 
-    /// A closed box is Cancel for OkCancel, No for YesNo, Ok for Ok.
+    /// A closed box is Cancel where there is such a button, No for YesNo, Ok for Ok.
     virtual Answer Ask(const MessageBox& box) = 0;
     /// Empty when cancelled.
     virtual QString InputText(

@@ -47,6 +47,13 @@ Error FileError(ErrorKind kind, const QString& path, const QString& reason)
     return Error{kind, u"%1: %2"_s.arg(path, reason)};
 }
 
+Error CantOpen(const QFile& file)
+{
+    const ErrorKind kind =
+        QFileInfo::exists(file.fileName()) ? ErrorKind::Unreadable : ErrorKind::NotFound;
+    return FileError(kind, file.fileName(), file.errorString());
+}
+
 } // namespace
 
 Encoded EncodeCp949(const QString& text)
@@ -114,15 +121,28 @@ Outcome<QByteArray> ReadBytes(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        const ErrorKind kind =
-            QFileInfo::exists(path) ? ErrorKind::Unreadable : ErrorKind::NotFound;
-        return FileError(kind, path, file.errorString());
+        return CantOpen(file);
     }
     QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError) {
         return FileError(ErrorKind::Unreadable, path, file.errorString());
     }
     return bytes;
+}
+
+Outcome<FileStart> ReadStart(const QString& path, qint64 most)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return CantOpen(file);
+    }
+    FileStart start;
+    start.bytes = file.read(most);
+    start.whole = file.atEnd();
+    if (file.error() != QFileDevice::NoError) {
+        return FileError(ErrorKind::Unreadable, path, file.errorString());
+    }
+    return start;
 }
 
 Outcome<QString> ReadText(const QString& path)
@@ -147,14 +167,12 @@ Outcome<QStringList> ReadFirstLines(const QString& path, int count)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        const ErrorKind kind =
-            QFileInfo::exists(path) ? ErrorKind::Unreadable : ErrorKind::NotFound;
-        return FileError(kind, path, file.errorString());
+        return CantOpen(file);
     }
     constexpr qint64 kBlock = 4096;
     QByteArray bytes;
     qsizetype ends = 0;
-    while (ends < count && !file.atEnd()) {
+    while (ends < count && bytes.size() < kMostOfFirstLines && !file.atEnd()) {
         const QByteArray block = file.read(kBlock);
         if (file.error() != QFileDevice::NoError) {
             return FileError(ErrorKind::Unreadable, path, file.errorString());

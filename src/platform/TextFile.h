@@ -34,8 +34,21 @@ Outcome<QByteArray> ReadBytes(const QString& path);
 Outcome<QString> ReadText(const QString& path);
 Outcome<QStringList> ReadLines(const QString& path);
 
-/// The first `count` lines at most, reading no more of a large file than it must.
+/// What ReadFirstLines reads at most, so that a large file without line ends fills no memory.
+inline constexpr qint64 kMostOfFirstLines = 64 * 1024;
+
+/// The first `count` lines at most, reading no more of a large file than it must; what lies behind
+/// kMostOfFirstLines bytes is cut off.
 Outcome<QStringList> ReadFirstLines(const QString& path, int count);
+
+/// The beginning of a file.
+struct FileStart {
+    QByteArray bytes;
+    bool whole = true; // the file has no more than that
+};
+
+/// As ReadBytes, but no more than `most` bytes are read.
+Outcome<FileStart> ReadStart(const QString& path, qint64 most);
 
 /// Written beside the old file and renamed over it, so that a failure leaves the old file whole.
 /// Error: Unwritable with the path and the reason.

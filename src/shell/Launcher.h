@@ -2,6 +2,7 @@
 
 #include "dosboxconf/OptionGrid.h"
 #include "finding/TitleOrder.h"
+#include "library/Drafts.h"
 #include "library/GameEntry.h"
 #include "library/IconSheet.h"
 #include "platform/Ports.h"
@@ -33,6 +34,7 @@ struct Launcher {
     RecentList recent;
     library::Catalogue catalogue;
     library::IconSheet icons;
+    library::Drafts drafts;
     library::IconPixels defaultIcon; // 32 x 32
     dosboxconf::OptionGrid options;
     Current current;

@@ -5,6 +5,7 @@
 #include "dosboxconf/ConfFiles.h"
 #include "dosboxconf/ConfReportCommands.h"
 #include "library/CatalogueCommands.h"
+#include "library/InfoCommands.h"
 #include "library/ShowinfoCommands.h"
 #include "platform/Bin.h"
 #include "platform/Paths.h"
@@ -63,9 +64,9 @@ void ShowFirstGame(Launcher& launcher)
     }
 }
 
-/// What could not be saved, one line each; empty if all was. A job, since window events run while
+/// What could not be saved, one line each. A job, since window events run while
 /// the list is written: a scan or a second close would change what is being saved.
-QString SaveAll(Launcher& launcher)
+QStringList SaveAll(Launcher& launcher)
 {
     const Job job(launcher);
     QStringList failures;
@@ -74,7 +75,7 @@ QString SaveAll(Launcher& launcher)
             failures << done.Failure().text;
         }
     }
-    return failures.join(u'\n');
+    return failures;
 }
 
 /// Closing all the same would lose what the session changed; only the user may decide that.
@@ -121,7 +122,11 @@ bool Form_Unload(Launcher& launcher)
     if (!launcher.flags.BusyReady || launcher.flags.CloseBlocked) {
         return false;
     }
-    const QString failures = SaveAll(launcher);
+    const std::optional<QStringList> unsaved = library::SettleDrafts(launcher);
+    if (!unsaved || !launcher.flags.BusyReady) {
+        return false;
+    }
+    const QString failures = (*unsaved + SaveAll(launcher)).join(u'\n');
     if (!failures.isEmpty() && !ClosesUnsaved(launcher, failures)) {
         return false;
     }

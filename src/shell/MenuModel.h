@@ -12,6 +12,7 @@ struct MenuEntry {
     QString text; // "&" doubled where a title holds one
     bool enabled = true;
     bool separator = false;
+    bool checked = false; // the one of several that holds now
 };
 
 using MenuModel = std::vector<MenuEntry>;

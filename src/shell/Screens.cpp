@@ -28,6 +28,8 @@ Screens::Screens()
         &tree.changed,
         &search.changed,
         &details.changed,
+        &media.changed,
+        &configDetail.changed,
         &start.changed,
         &cd.changed,
         &placement.changed,

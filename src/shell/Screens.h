@@ -3,9 +3,13 @@
 #include "dosboxconf/StartCommands.h"
 #include "finding/FilterTree.h"
 #include "finding/GameList.h"
+#include "library/ConfigDetail.h"
+#include "library/GameInfo.h"
+#include "library/MediaPanel.h"
 #include "platform/Notifier.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <array>
 #include <cstdint>
@@ -44,6 +48,12 @@ struct MainFrame {
     platform::Notifier panelsEnabled; // picBack0Enabled, picBack1Enabled; no redraw lock holds it
 };
 
+/// The values of a genre menu, from its element 2 on.
+struct GenreMenu {
+    QString folder;
+    QStringList values;
+};
+
 /// The right page's information about a game.
 struct DetailsPanel {
     enum Changed : std::uint32_t {
@@ -51,16 +61,22 @@ struct DetailsPanel {
         Icon = 2,
         Genres = 4,
         FocusTitle = 8, // the title in the language in use is to take the keyboard
+        Draft = 16,     // whether the boxes hold more than the file
     };
 
     /// The game that the right panel shows: these texts, StartCommands and CdPanel are its, and are
     /// saved to it. While a selection moves it is not yet CurrentFolder. Empty before the first.
     QString folder;
     std::array<QString, 2> txtTitle;
-    QString txtInfo;
+    QString txtInfo;             // lines joined by CR LF
+    library::InfoText savedInfo; // what the boxes would show without anything typed
+    bool draft = false;          // what is typed is not saved
     QString lblGenreK;
     QString lblGenreE;
     QString iconFile; // native path; empty: the default icon
+    /// The genres of the tree as they stood when the menu opened, for the game that it opened for.
+    GenreMenu mnuGenreK;
+    GenreMenu mnuGenreE;
 
     platform::Notifier changed;
 };
@@ -150,6 +166,8 @@ struct Screens {
     finding::FilterTree tree;
     finding::SearchBox search;
     DetailsPanel details;
+    library::MediaPanel media;
+    library::ConfigDetail configDetail;
     dosboxconf::StartCommands start;
     dosboxconf::CdPanel cd;
     PlacementPanel placement;

@@ -1,5 +1,6 @@
 #include "library/CatalogueCommands.h"
 #include "library/DeleteCommands.h"
+#include "library/InfoCommands.h"
 #include "library/ShowinfoCommands.h"
 #include "running/RunCommands.h"
 #include "shell/JobCommands.h"

@@ -1,6 +1,7 @@
 #include "dosboxconf/StartCommandsFile.h"
 #include "dosboxconf/StartPageCommands.h"
 #include "library/CatalogueCommands.h"
+#include "library/InfoCommands.h"
 #include "library/ShowinfoCommands.h"
 #include "support/Installation.h"
 

@@ -1,5 +1,6 @@
 #include "dosboxconf/StartPageCommands.h"
 #include "faults/FaultsFixture.h"
+#include "library/InfoCommands.h"
 #include "library/ShowinfoCommands.h"
 #include "platform/TextFile.h"
 #include "shell/LifecycleCommands.h"

@@ -230,7 +230,7 @@ TEST_F(CrashTest, TextsOfAGameReadOldOrNew)
             {u"별 %1"_s.arg(round), u"Star %1"_s.arg(round)}, u"설명\n"_s.repeated(round)};
         places += KillEverywhere([&] {
             library::GameFiles own = files;
-            (void)library::WriteInfo(own, info).Ok();
+            (void)library::WriteInfo(own, {info}).Ok();
             (void)library::WriteFacts(
                 own, {u"Pelorin"_s, QString::number(round), u"한국어"_s, u"한국"_s})
                 .Ok();

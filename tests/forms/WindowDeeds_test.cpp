@@ -8,8 +8,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QTabBar>
+#include <QTimer>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -328,6 +330,88 @@ TEST_F(WindowDeedsTest, TheStartPageWritesRowsAndHandsOnWhatToDo)
     EXPECT_FALSE(Find("picCD")->isVisible());
     Press("cmdSaveCD");
     EXPECT_EQ(did, (QStringList{u"edit 0"_s, u"cd 1"_s, u"save cd"_s}));
+}
+
+TEST_F(WindowDeedsTest, TitlesAndDescriptionAreWrittenByTheUserOnly)
+{
+    shell::DetailsPanel& details = screens.details;
+    details.folder = u"A"_s;
+    details.txtTitle = {u"가"_s, u"nul \0 end"_s};
+    details.txtInfo = u"one\r\ntwo"_s;
+    deeds.Info_Change = Note(u"change"_s);
+    deeds.Info_Esc = [&](int box) {
+        did << u"esc %1"_s.arg(box);
+        details.txtInfo = u"one\r\ntwo"_s;
+        details.changed.Tell(shell::DetailsPanel::Texts);
+    };
+    deeds.cmdSaveInfo_Click = Note(u"save"_s);
+    Open();
+    EXPECT_EQ(did, QStringList());
+    EXPECT_FALSE(Find("lblDraft")->isVisible());
+    auto* title = Find<QLineEdit>("txtTitle_0");
+    auto* info = Find<QPlainTextEdit>("txtInfo");
+    QTest::keyClicks(title, u"1"_s);
+    EXPECT_EQ(details.txtTitle[0], u"1가"_s);
+    QTest::keyClick(info, Qt::Key_End, Qt::ControlModifier);
+    QTest::keyClick(info, Qt::Key_Return);
+    QTest::keyClicks(info, u"3"_s);
+    EXPECT_EQ(details.txtInfo, u"one\r\ntwo\r\n3"_s);
+    details.draft = true;
+    details.changed.Tell(shell::DetailsPanel::Draft);
+    EXPECT_TRUE(Find("lblDraft")->isVisible());
+    did.clear();
+    info->setFocus();
+    QTest::keyClick(info, Qt::Key_S, Qt::ControlModifier);
+    QTest::keyClick(info, Qt::Key_Escape);
+    QTest::keyClick(title, Qt::Key_Escape);
+    EXPECT_EQ(did, (QStringList{u"save"_s, u"esc 2"_s, u"esc 0"_s}));
+    EXPECT_EQ(info->toPlainText(), u"one\ntwo"_s);
+    info->undo();
+    EXPECT_EQ(details.txtInfo, u"one\r\ntwo\r\n3"_s) << "what Esc took can be had back";
+
+    details.savedInfo.state = library::InfoState::Cut;
+    details.changed.Tell(shell::DetailsPanel::Texts);
+    QTest::keyClicks(info, u"4"_s);
+    EXPECT_EQ(details.txtInfo, u"one\r\ntwo\r\n3"_s);
+    EXPECT_TRUE(Find("lblInfoNote")->isVisible());
+}
+
+TEST_F(WindowDeedsTest, AGenreMenuOpensByEitherButtonAndTheMenuKey)
+{
+    int asked = 0;
+    deeds.mnuGenreK = [&] {
+        ++asked;
+        shell::MenuModel model{{0, u"New"_s}, {1, {}, true, true}};
+        for (int i = 2; i < 2002; ++i) {
+            model.push_back({i, u"Genre %1"_s.arg(i), true, false, i == 1900});
+        }
+        return model;
+    };
+    deeds.mnuGenreK_Click = NoteIndex(u"genre"_s);
+    Open();
+    auto* label = Find<QToolButton>("lblGenreK");
+    // The menu stands in a loop of its own until it closes.
+    const auto open = [&](const std::function<void()>& act) {
+        QTimer::singleShot(0, label, [&] {
+            QMenu* menu = label->menu();
+            ASSERT_TRUE(menu->isVisible());
+            EXPECT_LE(menu->width(), menu->screen()->geometry().width() / 2) << "one column";
+            EXPECT_TRUE(menu->rect().contains(
+                menu->actionGeometry(menu->findChild<QAction*>(u"mnuGenreK_1900"_s)).center()))
+                << "the genre that the game has is in sight";
+            QTest::keyClick(menu, Qt::Key_Down);
+            QTest::keyClick(menu, Qt::Key_Return);
+        });
+        act();
+    };
+    open([&] { QTest::mouseClick(label, Qt::LeftButton); });
+    open([&] {
+        const QPoint place(3, 3);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, label->mapToGlobal(place));
+        QCoreApplication::sendEvent(label, &event);
+    });
+    EXPECT_EQ(asked, 2);
+    EXPECT_EQ(did, (QStringList{u"genre 1901"_s, u"genre 1901"_s}));
 }
 
 TEST_F(WindowDeedsTest, ThePlacementIsWrittenByTheUserOnly)

@@ -4,6 +4,7 @@
 #include "finding/TreeNodes.h"
 #include "forms/Metrics.h"
 #include "forms/TextListModel.h"
+#include "forms/frmConfigDetail.h"
 #include "forms/frmFolderCFG.h"
 #include "forms/frmOutput.h"
 #include "platform/TextFile.h"
@@ -100,7 +101,8 @@ protected:
               &deeds.cmdAddExec_Click, &deeds.cmdAddEmpty_Click,  &deeds.cmdDelete_Click,
               &deeds.cmdUp_Click,      &deeds.cmdDown_Click,      &deeds.cmdSaveExec_Click,
               &deeds.cmdSaveCD_Click,  &deeds.cmdSetPos_Click,    &deeds.cmdRememberPos_Click,
-              &deeds.cmdCompact_Click, &deeds.cmdFolderCFG_Click, &deeds.cmdUpdate_Click}) {
+              &deeds.cmdCompact_Click, &deeds.cmdFolderCFG_Click, &deeds.cmdUpdate_Click,
+              &deeds.Info_Change,      &deeds.SaveDetails,        &deeds.DeleteDetails}) {
             *deed = nothing;
         }
         for (forms::Deeds::IndexDeed* deed :
@@ -137,6 +139,8 @@ protected:
         screens.frame.hasSite = true;
         screens.details.txtTitle = {u"제목"_s, u"Title"_s};
         screens.details.txtInfo = u"About"_s;
+        screens.details.draft = true;
+        screens.details.savedInfo.state = library::InfoState::Cut;
         screens.details.lblGenreK = lang[30];
         screens.details.lblGenreE = lang[13];
         screens.status.game = u"Title 0"_s;
@@ -268,6 +272,13 @@ TEST_P(WindowWalkTest, EveryDialogServesEverybody)
         SetPalette(dark);
         forms::frmFolderCFG folders(screens.folderCfg, lang, {});
         ExpectNoFault(folders);
+        forms::frmConfigDetail details(
+            {screens, lang, settings, icons, options, prompts}, deeds, nullptr);
+        screens.configDetail.changed.Tell(
+            library::ConfigDetail::Open | library::ConfigDetail::Texts);
+        // The walk goes on from where the keyboard is: from the last control to the first.
+        details.findChild<QWidget*>(u"Command3"_s)->setFocus();
+        ExpectNoFault(details);
         forms::frmOutput output({u"Title"_s, u"Text\nof lines"_s, lang[296]});
         ExpectNoFault(output);
     }

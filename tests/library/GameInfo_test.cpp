@@ -93,7 +93,7 @@ TEST_F(GameInfoTest, InfoGoesThereAndBack)
     };
     for (const Case& c : cases) {
         GameFiles files = List();
-        ASSERT_TRUE(library::WriteInfo(files, c.info));
+        ASSERT_TRUE(library::WriteInfo(files, {c.info}));
         EXPECT_TRUE(files.HasMetaFile(u"info.txt"_s));
         EXPECT_EQ(Get(u"info.txt"_s), c.file);
         QString lines = c.info.description;
@@ -102,18 +102,97 @@ TEST_F(GameInfoTest, InfoGoesThereAndBack)
     }
 }
 
+TEST_F(GameInfoTest, WhatWasNotTouchedIsKeptByteByByte)
+{
+    struct Case {
+        QByteArray file;
+        bool titles;
+        bool description;
+        QByteArray written;
+    };
+    const QByteArray utf8 = QStringLiteral("제목").toUtf8();
+    const std::vector<Case> cases{
+        {"Alone\nb\rc", false, false, "Alone\nb\rc"},
+        {"Alone\nb\rc", true, false, "A\3B\r\nb\rc"},
+        {"Alone\nb\rc", false, true, "Alone\nnew\r\n"},
+        {"A \3B\3third", false, true, "A \3B\3third\r\nnew\r\n"},
+        {"A\3B\3third", true, false, "A\3B\r\n"},
+        {utf8 + "\r\n" + utf8 + "\xff", true, false, "A\3B\r\n" + utf8 + "\xff"},
+        {utf8 + "\r\n\r\n", false, true, utf8 + "\r\nnew\r\n"},
+        {QByteArray("a\0b\r\nc\0\0\r\n", 10), true, false, QByteArray("A\3B\r\nc\0\0\r\n", 10)},
+        {"", false, true, "A\3B\r\nnew\r\n"},
+        {QByteArray(), false, false, "A\3B\r\n"}, // no file: the titles make one
+    };
+    for (const Case& c : cases) {
+        const QString path = u"Games/Folder/DosBox/info.txt"_s;
+        QFile::remove(m_root.Path(path));
+        m_root.MakeFolder(u"Games/Folder/DosBox"_s);
+        if (!c.file.isNull()) {
+            m_root.WriteRaw(path, c.file);
+        }
+        GameFiles files = List();
+        const InfoText text{{u"A"_s, u"B"_s}, u"new"_s};
+        ASSERT_TRUE(library::WriteInfo(files, {text, c.titles, c.description}));
+        EXPECT_EQ(m_root.ReadRaw(path), c.written) << c.file.toStdString();
+    }
+}
+
+TEST_F(GameInfoTest, ATextWithNulsIsReadWhole)
+{
+    m_root.WriteRaw(u"Games/Folder/DosBox/info.txt"_s, QByteArray("a\0b\3c\nd\0\0e", 10));
+    const InfoText info = library::ReadInfo(List());
+    EXPECT_EQ(info.titles.first, u"a\0b"_s);
+    EXPECT_EQ(info.description, u"d\0\0e"_s);
+    GameFiles files = List();
+    ASSERT_TRUE(library::WriteInfo(files, {info, false, true}));
+    EXPECT_EQ(
+        m_root.ReadRaw(u"Games/Folder/DosBox/info.txt"_s), QByteArray("a\0b\3c\nd\0\0e\r\n", 12));
+}
+
+TEST_F(GameInfoTest, AFileTooLargeToEditIsShownCutAndNeverWrittenOver)
+{
+    const QByteArray line = QByteArray("Title\3Titel\r\n");
+    const std::vector<std::pair<QByteArray, library::InfoState>> cases{
+        {line + QByteArray(library::kMostInfo - line.size(), 'x'), library::InfoState::Whole},
+        {line + QByteArray(library::kMostInfo - line.size() + 1, 'x'), library::InfoState::Cut},
+        {QByteArray(50 * 1024 * 1024, 'x'), library::InfoState::Cut}, // without a line end
+        {QByteArray(library::kMostTitleLine + 1, 'x') + "\r\nmore", library::InfoState::Cut},
+    };
+    for (const auto& [bytes, state] : cases) {
+        const QString path = u"Games/Folder/DosBox/info.txt"_s;
+        m_root.WriteRaw(path, bytes);
+        GameFiles files = List();
+        const InfoText info = library::ReadInfo(files);
+        EXPECT_EQ(info.state, state) << bytes.size();
+        EXPECT_LE(info.description.size() + info.titles.first.size(), library::kMostInfo);
+        EXPECT_LE(library::ReadTitles(files).first.size(), platform::kMostOfFirstLines);
+        if (state == library::InfoState::Cut) {
+            const platform::Done refused = library::WriteInfo(files, {info, true, true});
+            ASSERT_FALSE(refused);
+            EXPECT_EQ(refused.Failure().kind, platform::ErrorKind::Refused);
+            EXPECT_TRUE(m_root.ReadRaw(path) == bytes) << bytes.size();
+        }
+    }
+    // A folder in its place can't be read either.
+    QFile::remove(m_root.Path(u"Games/Folder/DosBox/info.txt"_s));
+    m_root.MakeLink(u"Games/Folder/DosBox/info.txt"_s, u"/proc/self/mem"_s);
+    GameFiles files = List();
+    EXPECT_EQ(library::ReadInfo(files).state, library::InfoState::Unreadable);
+    EXPECT_FALSE(library::WriteInfo(files, {}));
+}
+
 TEST_F(GameInfoTest, TextThatWouldBeLostIsRefusedUnlessAccepted)
 {
     Put(u"INFO.TXT"_s, u"old"_s);
     GameFiles files = List();
     const InfoText info{{u"Café"_s, u"Ж"_s}, u"naïve"_s};
-    EXPECT_EQ(library::LostInInfo(info), u"éï"_s);
-    const platform::Done refused = library::WriteInfo(files, info);
+    EXPECT_EQ(library::LostInInfo({info}), u"éï"_s);
+    const platform::Done refused = library::WriteInfo(files, {info});
     ASSERT_FALSE(refused);
     EXPECT_EQ(refused.Failure().kind, platform::ErrorKind::Unencodable);
     EXPECT_EQ(Get(u"INFO.TXT"_s), u"old"_s);
 
-    ASSERT_TRUE(library::WriteInfo(files, info, library::Loss::Accept));
+    ASSERT_TRUE(library::WriteInfo(files, {info}, library::Loss::Accept));
     EXPECT_EQ(Get(u"INFO.TXT"_s), u"Caf?\u0003Ж\r\nna?ve\r\n"_s);
     EXPECT_FALSE(m_root.Exists(u"Games/Folder/DosBox/info.txt"_s)) << "no twin of another case";
 }

@@ -17,6 +17,8 @@ bool Fits(Answer answer, Buttons buttons)
     case Buttons::Ok: return answer == Answer::Ok;
     case Buttons::OkCancel: return answer == Answer::Ok || answer == Answer::Cancel;
     case Buttons::YesNo: return answer == Answer::Yes || answer == Answer::No;
+    case Buttons::SaveDiscardCancel:
+        return answer == Answer::Save || answer == Answer::Discard || answer == Answer::Cancel;
     }
     return false;
 }
@@ -25,7 +27,8 @@ Answer WhenClosed(Buttons buttons)
 {
     switch (buttons) {
     case Buttons::Ok: return Answer::Ok;
-    case Buttons::OkCancel: return Answer::Cancel;
+    case Buttons::OkCancel:
+    case Buttons::SaveDiscardCancel: return Answer::Cancel;
     case Buttons::YesNo: return Answer::No;
     }
     return Answer::Cancel;

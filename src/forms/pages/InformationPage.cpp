@@ -1,15 +1,17 @@
 #include "forms/pages/InformationPage.h"
 
+#include "forms/MediaPart.h"
 #include "forms/MenuButton.h"
 #include "forms/Menus.h"
 #include "forms/Metrics.h"
+#include "forms/OwnTexts.h"
+#include "forms/PictureFile.h"
 #include "forms/Pictures.h"
 
 #include <QGridLayout>
-#include <QImageReader>
-#include <QListView>
-#include <QStackedWidget>
-#include <QTabBar>
+#include <QKeyEvent>
+#include <QShortcut>
+#include <QTextCursor>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -17,6 +19,22 @@ using namespace Qt::StringLiterals;
 namespace pelorin::forms {
 
 using shell::DetailsPanel;
+
+namespace {
+
+void ShowTitle(QLineEdit& box, const QString& text, bool anew)
+{
+    if (anew) {
+        box.setText(text);
+        box.setCursorPosition(0);
+    } else if (box.text() != text) {
+        // As if typed, so that it can be undone.
+        box.selectAll();
+        box.insert(text);
+    }
+}
+
+} // namespace
 
 InformationPage::InformationPage(const Shown& shown, const Deeds& deeds, QWidget* parent)
     : Page(parent)
@@ -30,18 +48,18 @@ InformationPage::InformationPage(const Shown& shown, const Deeds& deeds, QWidget
     column->addLayout(BuildHead());
     column->addLayout(BuildGenres());
     column->addSpacing(Gap(*this));
-    auto* infoHead = new QHBoxLayout;
-    infoHead->addWidget(AddHeading(u"lblInfo"_s), 1);
-    infoHead->addWidget(AddPush(u"cmdSaveInfo"_s, static_cast<bool>(deeds.cmdSaveInfo_Click)));
-    column->addLayout(infoHead);
-    m_txtInfo = new QPlainTextEdit(this);
-    m_txtInfo->setObjectName(u"txtInfo"_s);
-    m_txtInfo->setReadOnly(true);
-    m_txtInfo->setTabChangesFocus(true);
+    column->addLayout(BuildInfoHead());
+    BuildInfo();
+    column->addWidget(m_lblInfoNote);
     column->addWidget(m_txtInfo, 3);
     column->addSpacing(Gap(*this));
-    column->addWidget(BuildMedia(), 3);
-    Follow(DetailsPanel::Texts | DetailsPanel::Icon | DetailsPanel::Genres);
+    m_media = new MediaPart(shown, deeds, this);
+    column->addWidget(m_media, 3);
+    Follow(DetailsPanel::Texts | DetailsPanel::Icon | DetailsPanel::Genres | DetailsPanel::Draft);
+    auto* save = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_S), this);
+    save->setContext(Qt::WidgetWithChildrenShortcut);
+    save->setAutoRepeat(false);
+    connect(save, &QShortcut::activated, this, [this] { Do(m_deeds.cmdSaveInfo_Click); });
 }
 
 QLayout* InformationPage::BuildHead()
@@ -71,7 +89,12 @@ QLayout* InformationPage::BuildHead()
         caption->setFont(Scaled(caption->font(), 0.9));
         auto* title = new QLineEdit(this);
         title->setObjectName(u"txtTitle_%1"_s.arg(i));
-        title->setReadOnly(true);
+        title->setMaxLength(library::kMostTitleLine);
+        title->installEventFilter(this);
+        connect(title, &QLineEdit::textEdited, this, [this, i](const QString& text) {
+            m_shown.screens.details.txtTitle[static_cast<std::size_t>(i)] = text;
+            Do(m_deeds.Info_Change);
+        });
         caption->setBuddy(title);
         titles->addWidget(caption);
         titles->addWidget(title);
@@ -82,6 +105,40 @@ QLayout* InformationPage::BuildHead()
     row->addLayout(icons);
     row->addLayout(titles, 1);
     return row;
+}
+
+QLayout* InformationPage::BuildInfoHead()
+{
+    auto* row = new QHBoxLayout;
+    row->setSpacing(2 * Gap(*this));
+    m_lblDraft = new QLabel(this);
+    m_lblDraft->setObjectName(u"lblDraft"_s);
+    QAbstractButton* const save =
+        AddPush(u"cmdSaveInfo"_s, static_cast<bool>(m_deeds.cmdSaveInfo_Click));
+    connect(save, &QAbstractButton::clicked, this, [this] { Do(m_deeds.cmdSaveInfo_Click); });
+    row->addWidget(AddHeading(u"lblInfo"_s));
+    row->addStretch();
+    row->addWidget(m_lblDraft);
+    row->addWidget(save);
+    return row;
+}
+
+void InformationPage::BuildInfo()
+{
+    m_lblInfoNote = new QLabel(this);
+    m_lblInfoNote->setObjectName(u"lblInfoNote"_s);
+    m_lblInfoNote->setWordWrap(true);
+    m_txtInfo = new QPlainTextEdit(this);
+    m_txtInfo->setObjectName(u"txtInfo"_s);
+    m_txtInfo->setTabChangesFocus(true);
+    m_txtInfo->installEventFilter(this);
+    connect(m_txtInfo, &QPlainTextEdit::textChanged, this, [this] {
+        if (m_showing) {
+            return;
+        }
+        m_shown.screens.details.txtInfo = m_txtInfo->toPlainText().replace(u'\n', u"\r\n"_s);
+        Do(m_deeds.Info_Change);
+    });
 }
 
 QLayout* InformationPage::BuildGenres()
@@ -115,51 +172,14 @@ QLayout* InformationPage::BuildGenres()
     return grid;
 }
 
-QWidget* InformationPage::BuildMedia()
-{
-    auto* media = new QWidget(this);
-    auto* column = new QVBoxLayout(media);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    auto* tabs = new QTabBar(media);
-    tabs->setObjectName(u"TabStrip1"_s);
-    tabs->setExpanding(false);
-    tabs->setDrawBase(true);
-    auto* lists = new QStackedWidget(media);
-    for (const auto* name : {u"fileImages", u"fileAV", u"fileManual"}) {
-        tabs->addTab(QString());
-        auto* list = new QListView(lists);
-        list->setObjectName(QString::fromUtf16(name));
-        lists->addWidget(list);
-    }
-    connect(tabs, &QTabBar::currentChanged, lists, &QStackedWidget::setCurrentIndex);
-    auto* pic1 = new QLabel(media);
-    pic1->setObjectName(u"pic1"_s);
-    pic1->setFrameShape(QFrame::StyledPanel);
-    pic1->setAlignment(Qt::AlignCenter);
-    pic1->setPixmap(
-        PictureIcon(u"picture"_s)
-            .pixmap(
-                QSize(LargeSide(*this), LargeSide(*this)), devicePixelRatioF(), QIcon::Disabled));
-    auto* row = new QHBoxLayout;
-    row->setSpacing(Gap(*this));
-    row->addWidget(lists, 2);
-    row->addWidget(pic1, 3);
-    column->addWidget(tabs);
-    column->addLayout(row, 1);
-    lists->setEnabled(false); // no command fills them yet
-    return media;
-}
-
 void InformationPage::Follow(std::uint32_t changed)
 {
     const DetailsPanel& details = m_shown.screens.details;
     if ((changed & DetailsPanel::Texts) != 0) {
-        for (std::size_t i = 0; i < m_txtTitle.size(); ++i) {
-            m_txtTitle[i]->setText(details.txtTitle[i]);
-            m_txtTitle[i]->setCursorPosition(0);
-        }
-        m_txtInfo->setPlainText(details.txtInfo);
+        ShowTexts();
+    }
+    if ((changed & DetailsPanel::Draft) != 0) {
+        ShowDraft();
     }
     if ((changed & DetailsPanel::Genres) != 0) {
         m_lblGenreK->setText(shell::MenuTitle(details.lblGenreK));
@@ -175,24 +195,78 @@ void InformationPage::Follow(std::uint32_t changed)
     }
 }
 
+void InformationPage::ShowTexts()
+{
+    const DetailsPanel& details = m_shown.screens.details;
+    const bool another = m_folder != details.folder;
+    m_folder = details.folder;
+    m_showing = true;
+    for (std::size_t i = 0; i < m_txtTitle.size(); ++i) {
+        ShowTitle(*m_txtTitle[i], details.txtTitle[i], another);
+    }
+    QString text = details.txtInfo;
+    text.replace(u"\r\n"_s, u"\n"_s);
+    if (another) {
+        m_txtInfo->setPlainText(text);
+    } else if (m_txtInfo->toPlainText() != text) {
+        // As if typed, so that it can be undone.
+        QTextCursor cursor(m_txtInfo->document());
+        cursor.select(QTextCursor::Document);
+        cursor.insertText(text);
+    }
+    m_showing = false;
+    ShowInfoState();
+}
+
+void InformationPage::ShowInfoState()
+{
+    const library::InfoState state = m_shown.screens.details.savedInfo.state;
+    const bool editable =
+        state == library::InfoState::Whole && static_cast<bool>(m_deeds.Info_Change);
+    for (QLineEdit* title : m_txtTitle) {
+        title->setReadOnly(!editable);
+    }
+    m_txtInfo->setReadOnly(!editable);
+    m_lblInfoNote->setText(
+        Own(m_shown.lang, state == library::InfoState::Cut ? kOwnInfoCut : kOwnInfoUnreadable));
+    m_lblInfoNote->setVisible(state != library::InfoState::Whole);
+}
+
+void InformationPage::TakeTexts()
+{
+    ShowInfoState();
+    m_media->TakeTexts();
+}
+
+void InformationPage::ShowDraft()
+{
+    m_lblDraft->setVisible(m_shown.screens.details.draft);
+}
+
+bool InformationPage::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool escape = event->type() == QEvent::KeyPress &&
+                        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
+    if (!escape) {
+        return Page::eventFilter(watched, event);
+    }
+    const int box = watched == m_txtTitle[0] ? 0 : watched == m_txtTitle[1] ? 1 : 2;
+    Do(m_deeds.Info_Esc, box);
+    return true;
+}
+
 void InformationPage::ShowIcon()
 {
     const QString& file = m_shown.screens.details.iconFile;
-    QImage image;
-    if (!file.isEmpty()) {
-        QImageReader reader(file);
-        // Told by its content: the file's name promises a JPEG, whatever it is.
-        reader.setDecideFormatFromContent(true);
-        reader.setAutoTransform(true);
-        image = reader.read();
-    }
+    const double ratio = devicePixelRatioF();
+    const QSize side = m_cmdIcon->iconSize() * ratio;
+    const QImage image = file.isEmpty() ? QImage() : ReadPicture(file, side * 4).image;
     if (image.isNull()) {
         m_cmdIcon->setIcon(PictureIcon(u"game"_s));
         return;
     }
-    const double ratio = devicePixelRatioF();
-    QPixmap pixmap = QPixmap::fromImage(
-        image.scaled(m_cmdIcon->iconSize() * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    QPixmap pixmap =
+        QPixmap::fromImage(image.scaled(side, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     pixmap.setDevicePixelRatio(ratio);
     m_cmdIcon->setIcon(QIcon(pixmap));
 }
