@@ -1,13 +1,11 @@
 #include "archives/FileOperations.h"
 #include "support/DiskTroubles.h"
-#include "support/TestFolder.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
@@ -18,10 +16,16 @@ using pelorin::platform::ErrorKind;
 
 namespace {
 
+struct Refusal {
+    QString source;
+    QString destination;
+    ErrorKind kind;
+};
+
 TEST(MoveFolder, WithinAFileSystem)
 {
     const TestFolder folder;
-    folder.MakeTree({u"from/game/file"_s, u"games/taken/"_s, u"games/other/"_s});
+    folder.MakeAll(u"from/game/file games/taken/ games/other/"_s);
     EXPECT_TRUE(MoveFolderQuiet(folder.Path(u"from/GAME"_s), folder.Path(u"Games/star"_s)).Ok());
     EXPECT_EQ(
         KindOf(MoveFolderQuiet(folder.Path(u"games/star"_s), folder.Path(u"games/TAKEN"_s))),
@@ -30,27 +34,15 @@ TEST(MoveFolder, WithinAFileSystem)
     EXPECT_TRUE(MoveFolderQuiet(folder.Path(u"games/star"_s), folder.Path(u"games/STAR"_s)).Ok());
     EXPECT_TRUE(MoveFolderQuiet(folder.Path(u"games/other"_s), folder.Path(u"from\\"_s)).Ok());
     EXPECT_EQ(
-        folder.Tree(),
-        (QStringList{
-            u"from/"_s,
-            u"from/other/"_s,
-            u"games/"_s,
-            u"games/STAR/"_s,
-            u"games/STAR/file"_s,
-            u"games/taken/"_s}));
+        folder.TreeText(), u"from/ from/other/ games/ games/STAR/ games/STAR/file games/taken/"_s);
 }
 
 TEST(MoveFolder, Refusals)
 {
     const TestFolder folder;
-    folder.MakeTree({u"game/sub/file"_s, u"file"_s, u"empty/"_s});
+    folder.MakeAll(u"game/sub/file file empty/"_s);
     folder.MakeLink(u"alias"_s, u"game/sub"_s);
-    struct Case {
-        QString source;
-        QString destination;
-        ErrorKind kind;
-    };
-    const Case cases[] = {
+    const Refusal cases[] = {
         {u"game"_s, u"game"_s, ErrorKind::Refused},
         {u"game"_s, u"game/sub/game"_s, ErrorKind::Refused},
         {u"game"_s, u"alias/game"_s, ErrorKind::Refused},
@@ -61,14 +53,14 @@ TEST(MoveFolder, Refusals)
         {u"file"_s, u"new"_s, ErrorKind::NotFound},
         {u"missing"_s, u"new"_s, ErrorKind::NotFound},
     };
-    const QStringList before = folder.Tree();
-    for (const Case& one : cases) {
+    const QString before = folder.TreeText();
+    for (const Refusal& one : cases) {
+        SCOPED_TRACE(one.source + u" to "_s + one.destination);
         EXPECT_EQ(
             KindOf(MoveFolderQuiet(folder.Path(one.source), folder.Path(one.destination))),
-            one.kind)
-            << one.source.toStdString() << " to " << one.destination.toStdString();
+            one.kind);
     }
-    EXPECT_EQ(folder.Tree(), before);
+    EXPECT_EQ(folder.TreeText(), before);
 }
 
 class MoveOverDisks : public testing::Test {
@@ -78,11 +70,20 @@ protected:
         if (!m_other.IsOther(m_folder)) {
             GTEST_SKIP() << "/dev/shm is no file system of its own here";
         }
-        m_folder.MakeTree({u"treasure/save"_s, u"game/empty/"_s});
+        m_folder.MakeAll(u"treasure/save game/empty/"_s);
         m_folder.WriteRaw(u"game/big"_s, QByteArray(3 << 20, 'x'));
         m_folder.WriteRaw(u"game/DosBox/한글.txt"_s, "text");
         m_folder.MakeLink(u"game/link"_s, m_folder.Path(u"treasure"_s));
         m_folder.MakeLink(u"game/broken"_s, u"../nowhere"_s);
+    }
+    Done MoveGame(const KeepGoing& goOn = nullptr) const
+    {
+        return MoveFolderQuiet(m_folder.Path(u"game"_s), m_other.Path(u"star"_s), goOn);
+    }
+    QStringList Arrived() const
+    {
+        return QDir(m_other.Path(QString()))
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
     }
 
     const TestFolder m_folder;
@@ -99,60 +100,48 @@ TEST_F(MoveOverDisks, EverythingArrivesAsItWas)
     SetMode(m_folder.Path(u"game/DosBox/한글.txt"_s), 0400);
     SetMode(m_folder.Path(u"game/DosBox"_s), 0555);
 
-    ASSERT_TRUE(MoveFolderQuiet(m_folder.Path(u"game"_s), m_other.Path(u"star"_s)).Ok());
-    EXPECT_EQ(m_folder.Tree(), (QStringList{u"treasure/"_s, u"treasure/save"_s}));
-    EXPECT_EQ(
-        QDir(m_other.Path(QString()))
-            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-        QStringList{u"star"_s});
+    ASSERT_TRUE(MoveGame().Ok());
+    EXPECT_EQ(m_folder.TreeText(), u"treasure/ treasure/save"_s);
+    EXPECT_EQ(Arrived(), QStringList{u"star"_s});
     EXPECT_EQ(QFileInfo(m_other.Path(u"star/big"_s)).size(), 3 << 20);
     EXPECT_EQ(QFileInfo(m_other.Path(u"star/big"_s)).lastModified(), then);
     EXPECT_TRUE(QFileInfo(m_other.Path(u"star/empty"_s)).isDir());
     struct stat status = {};
-    ASSERT_EQ(
-        stat(QFile::encodeName(m_other.Path(u"star/DosBox/한글.txt"_s)).constData(), &status), 0);
+    const QByteArray text = QFile::encodeName(m_other.Path(u"star/DosBox/한글.txt"_s));
+    ASSERT_EQ(stat(text.constData(), &status), 0);
     EXPECT_EQ(status.st_mode & 0777U, 0400U);
     EXPECT_EQ(QFile::symLinkTarget(m_other.Path(u"star/link"_s)), m_folder.Path(u"treasure"_s));
     EXPECT_TRUE(QFileInfo(m_other.Path(u"star/broken"_s)).isSymLink());
     EXPECT_TRUE(DeleteFolder(m_other.Path(u"star"_s)).Ok());
 }
 
-TEST_F(MoveOverDisks, FailureLeavesTheSourceAndNoHalfCopy)
+TEST_F(MoveOverDisks, AFailureLeavesTheSourceAndNoHalfCopy)
 {
-    const QStringList before = m_folder.Tree();
+    const QString before = m_folder.TreeText();
     {
         const SmallFiles limit(1 << 20);
-        const Done full = MoveFolderQuiet(m_folder.Path(u"game"_s), m_other.Path(u"star"_s));
-        EXPECT_EQ(KindOf(full), ErrorKind::Unwritable);
+        EXPECT_EQ(KindOf(MoveGame()), ErrorKind::Unwritable);
     }
     int asked = 0;
-    const Done givenUp = MoveFolderQuiet(
-        m_folder.Path(u"game"_s), m_other.Path(u"star"_s), [&asked] { return ++asked < 3; });
-    EXPECT_EQ(KindOf(givenUp), ErrorKind::Abandoned);
+    EXPECT_EQ(KindOf(MoveGame([&asked] { return ++asked < 3; })), ErrorKind::Abandoned);
     ASSERT_EQ(mkfifo(QFile::encodeName(m_folder.Path(u"game/pipe"_s)).constData(), 0600), 0);
-    const Done pipe = MoveFolderQuiet(m_folder.Path(u"game"_s), m_other.Path(u"star"_s));
+    const Done pipe = MoveGame();
     EXPECT_EQ(KindOf(pipe), ErrorKind::Refused);
-    EXPECT_TRUE(pipe.Failure().text.startsWith(m_folder.Path(u"game/pipe"_s)));
+    EXPECT_TRUE(ErrorOf(pipe).startsWith(m_folder.Path(u"game/pipe"_s)));
     QFile::remove(m_folder.Path(u"game/pipe"_s));
-
-    EXPECT_EQ(m_folder.Tree(), before);
+    EXPECT_EQ(m_folder.TreeText(), before);
     EXPECT_EQ(QFileInfo(m_folder.Path(u"game/big"_s)).size(), 3 << 20);
-    EXPECT_TRUE(QDir(m_other.Path(QString())).isEmpty());
-}
 
-TEST_F(MoveOverDisks, ChangeDuringTheCopyKeepsTheSource)
-{
-    int asked = 0;
-    const Done done = MoveFolderQuiet(m_folder.Path(u"game"_s), m_other.Path(u"star"_s), [&] {
+    const Done changed = MoveGame([&] {
         m_folder.WriteRaw(u"game/late%1"_s.arg(++asked), "written while events ran");
         return true;
     });
-    EXPECT_EQ(KindOf(done), ErrorKind::Unwritable);
+    EXPECT_EQ(KindOf(changed), ErrorKind::Unwritable);
     EXPECT_TRUE(m_folder.Exists(u"game/big"_s));
-    EXPECT_TRUE(QDir(m_other.Path(QString())).isEmpty());
+    EXPECT_EQ(Arrived(), QStringList());
 }
 
-TEST_F(MoveOverDisks, UnreadableFolderIsNotTakenForAnEmptyOne)
+TEST_F(MoveOverDisks, AnUnreadableFolderIsNotTakenForAnEmptyOne)
 {
     SetMode(m_folder.Path(u"game/DosBox"_s), 0);
     {
@@ -182,18 +171,18 @@ TEST(MoveFile, IntoAFolderOrToAName)
     folder.WriteRaw(u"disc.iso"_s, "disc");
     folder.WriteRaw(u"CD/Taken.iso"_s, "old");
     folder.WriteRaw(u"taken.ISO"_s, "new");
-    EXPECT_TRUE(MoveFile(folder.Path(u"Disc.ISO"_s), folder.Path(u"cd\\"_s)).Ok());
+    const auto move = [&](const QString& from, const QString& to) {
+        return MoveFile(folder.Path(from), folder.Path(to));
+    };
+    EXPECT_TRUE(move(u"Disc.ISO"_s, u"cd\\"_s).Ok());
     EXPECT_EQ(folder.ReadRaw(u"CD/disc.iso"_s), "disc");
-    EXPECT_TRUE(MoveFile(folder.Path(u"CD/disc.iso"_s), folder.Path(u"CD/Disc.iso"_s)).Ok());
-    EXPECT_TRUE(MoveFile(folder.Path(u"CD/Disc.iso"_s), folder.Path(u"plain"_s)).Ok());
+    EXPECT_TRUE(move(u"CD/disc.iso"_s, u"CD/Disc.iso"_s).Ok());
+    EXPECT_TRUE(move(u"CD/Disc.iso"_s, u"plain"_s).Ok());
     // A folder without a separator behind it is still a folder.
-    EXPECT_EQ(
-        KindOf(MoveFile(folder.Path(u"taken.ISO"_s), folder.Path(u"cd"_s))), ErrorKind::Refused);
-    EXPECT_EQ(
-        KindOf(MoveFile(folder.Path(u"taken.ISO"_s), folder.Path(u"no/"_s))), ErrorKind::NotFound);
-    EXPECT_EQ(KindOf(MoveFile(folder.Path(u"CD"_s), folder.Path(u"x"_s))), ErrorKind::NotFound);
-    EXPECT_EQ(
-        folder.Tree(), (QStringList{u"CD/"_s, u"CD/Taken.iso"_s, u"plain"_s, u"taken.ISO"_s}));
+    EXPECT_EQ(KindOf(move(u"taken.ISO"_s, u"cd"_s)), ErrorKind::Refused);
+    EXPECT_EQ(KindOf(move(u"taken.ISO"_s, u"no/"_s)), ErrorKind::NotFound);
+    EXPECT_EQ(KindOf(move(u"CD"_s, u"x"_s)), ErrorKind::NotFound);
+    EXPECT_EQ(folder.TreeText(), u"CD/ CD/Taken.iso plain taken.ISO"_s);
     EXPECT_EQ(folder.ReadRaw(u"CD/Taken.iso"_s), "old");
 }
 
@@ -202,7 +191,7 @@ TEST(CopyFile, ReplacesWholeOrNotAtAll)
     const TestFolder folder;
     folder.WriteRaw(u"edit.conf"_s, QByteArray(2 << 20, 'n'));
     folder.WriteRaw(u"preset/Edit.conf"_s, "old");
-    folder.WriteRaw(u"a::b%1 $x;.7z"_s, "odd");
+    folder.WriteRaw(u"a::b%1$x;.7z"_s, "odd");
     {
         const SmallFiles limit(1 << 20);
         const Done full = CopyFile(folder.Path(u"edit.conf"_s), folder.Path(u"preset/"_s));
@@ -211,29 +200,24 @@ TEST(CopyFile, ReplacesWholeOrNotAtAll)
     EXPECT_EQ(folder.ReadRaw(u"preset/Edit.conf"_s), "old");
     EXPECT_TRUE(CopyFile(folder.Path(u"edit.conf"_s), folder.Path(u"preset/"_s)).Ok());
     EXPECT_EQ(folder.ReadRaw(u"preset/Edit.conf"_s).size(), 2 << 20);
-    EXPECT_TRUE(CopyFile(folder.Path(u"a::b%1 $x;.7z"_s), folder.Path(u"Preset/odd"_s)).Ok());
-    EXPECT_EQ(
-        folder.Tree(),
-        (QStringList{
-            u"a::b%1 $x;.7z"_s,
-            u"edit.conf"_s,
-            u"preset/"_s,
-            u"preset/Edit.conf"_s,
-            u"preset/odd"_s}));
-}
+    EXPECT_TRUE(CopyFile(folder.Path(u"a::b%1$x;.7z"_s), folder.Path(u"Preset/odd"_s)).Ok());
+    EXPECT_EQ(folder.TreeText(), u"a::b%1$x;.7z edit.conf preset/ preset/Edit.conf preset/odd"_s);
 
-TEST(CopyFile, Refusals)
-{
-    const TestFolder folder;
     folder.WriteRaw(u"Store.7z"_s, "archive");
     folder.MakeLink(u"alias"_s, u"Store.7z"_s);
-    folder.MakeTree({u"folder/store.7z/"_s});
-    const QString store = folder.Path(u"Store.7z"_s);
-    EXPECT_EQ(KindOf(CopyFile(store, folder.Path(u"STORE.7z"_s))), ErrorKind::Refused);
-    EXPECT_EQ(KindOf(CopyFile(store, folder.Path(u"alias"_s))), ErrorKind::Refused);
-    EXPECT_EQ(KindOf(CopyFile(store, folder.Path(u"folder/"_s))), ErrorKind::Refused);
-    EXPECT_EQ(KindOf(CopyFile(store, folder.Path(u"no/Store.7z"_s))), ErrorKind::NotFound);
-    EXPECT_EQ(KindOf(CopyFile(folder.Path(u"no"_s), folder.Path(u"x"_s))), ErrorKind::NotFound);
+    folder.MakeAll(u"folder/store.7z/"_s);
+    const Refusal cases[] = {
+        {u"Store.7z"_s, u"STORE.7z"_s, ErrorKind::Refused},
+        {u"Store.7z"_s, u"alias"_s, ErrorKind::Refused},
+        {u"Store.7z"_s, u"folder/"_s, ErrorKind::Refused},
+        {u"Store.7z"_s, u"no/Store.7z"_s, ErrorKind::NotFound},
+        {u"no"_s, u"x"_s, ErrorKind::NotFound},
+    };
+    for (const Refusal& one : cases) {
+        SCOPED_TRACE(one.source + u" to "_s + one.destination);
+        EXPECT_EQ(
+            KindOf(CopyFile(folder.Path(one.source), folder.Path(one.destination))), one.kind);
+    }
     EXPECT_EQ(folder.ReadRaw(u"Store.7z"_s), "archive");
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/Outcome.h"
 #include "support/TestFolder.h"
 
 #include <QFile>
@@ -151,12 +150,6 @@ private:
 inline void SetMode(const QString& path, mode_t mode)
 {
     EXPECT_EQ(chmod(QFile::encodeName(path).constData(), mode), 0) << path.toStdString();
-}
-
-inline platform::ErrorKind KindOf(const platform::Done& done)
-{
-    EXPECT_FALSE(done.Ok());
-    return done.Ok() ? platform::ErrorKind::Malformed : done.Failure().kind;
 }
 
 } // namespace pelorin::test

@@ -70,7 +70,7 @@ void TestFolder::MakeFolder(const QString& relative) const
     EXPECT_TRUE(QDir().mkpath(Path(relative))) << relative.toStdString();
 }
 
-void TestFolder::MakeTree(std::initializer_list<QString> entries) const
+void TestFolder::MakeTree(const QStringList& entries) const
 {
     for (const QString& entry : entries) {
         if (entry.endsWith(u'/')) {

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "support/Values.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
-
-#include <initializer_list>
 
 namespace pelorin::test {
 
@@ -32,7 +32,9 @@ public:
     void WriteScript(const QString& relative, const QString& body) const;
     void MakeFolder(const QString& relative) const;
     /// Empty files; a name that ends with a slash is a folder.
-    void MakeTree(std::initializer_list<QString> entries) const;
+    void MakeTree(const QStringList& entries) const;
+    /// The same of one text, parted by blanks.
+    void MakeAll(const QString& entries) const { MakeTree(Words(entries)); }
     /// A symbolic link that holds `target` as it stands.
     void MakeLink(const QString& relative, const QString& target) const;
 
@@ -44,6 +46,11 @@ public:
     bool Exists(const QString& relative) const;
     /// All that lies below, sorted, relative; folders end with a slash, links are not followed.
     QStringList Tree(const QString& relative = QString()) const;
+    /// The same in one text, parted by blanks.
+    QString TreeText(const QString& relative = QString()) const
+    {
+        return Tree(relative).join(u' ');
+    }
 
 private:
     QTemporaryDir m_folder;
