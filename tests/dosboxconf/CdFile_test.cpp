@@ -2,10 +2,9 @@
 
 #include "support/TestFolder.h"
 
-#include <gtest/gtest.h>
-
 using namespace Qt::StringLiterals;
 using namespace pelorin;
+using namespace pelorin::test;
 using dosboxconf::CdFacts;
 using dosboxconf::CdPanel;
 using dosboxconf::ReadCdFacts;
@@ -13,23 +12,28 @@ using dosboxconf::ReadCdFacts;
 namespace {
 
 struct CdFileTest : testing::Test {
-    test::TestFolder folder;
+    void Expect(bool chkCD, bool chkMountCD, int mode, const QStringList& list) const
+    {
+        EXPECT_EQ(panel.chkCD, chkCD);
+        EXPECT_EQ(panel.picCDVisible, chkCD);
+        EXPECT_EQ(panel.chkMountCD, chkMountCD);
+        EXPECT_EQ(panel.CdMountMode, mode);
+        EXPECT_EQ(panel.lstCD, list);
+        EXPECT_EQ(panel.row, -1);
+    }
+
+    TestFolder folder;
     shell::Places places{folder.Path(), folder.Path(), folder.Path()};
     CdPanel panel;
     const QString row = u"[Star]"_s;
-    const QString conf = u"Star/DosBox/CD.conf"_s;
-    const QStringList images{u"b.ISO"_s, u"c.iso"_s, u"A.cue"_s};
+    const QStringList one{row};
+    const QStringList images = Words(u"b.ISO c.iso A.cue"_s);
 };
 
 TEST_F(CdFileTest, ImagesAreIsoThenCueEachByName)
 {
-    folder.MakeTree(
-        {u"Star/dosbox/cd/c.iso"_s,
-         u"Star/dosbox/cd/b.ISO"_s,
-         u"Star/dosbox/cd/A.cue"_s,
-         u"Star/dosbox/cd/A.bin"_s,
-         u"Star/dosbox/cd/.hidden.iso"_s,
-         u"Star/dosbox/cd/folder.iso/"_s});
+    folder.MakeAll(u"Star/dosbox/cd/c.iso Star/dosbox/cd/b.ISO Star/dosbox/cd/A.cue"_s);
+    folder.MakeAll(u"Star/dosbox/cd/A.bin Star/dosbox/cd/.h.iso Star/dosbox/cd/folder.iso/"_s);
     folder.WriteLines(u"Star/dosbox/cd.CONF"_s, {u"1"_s, u"-1"_s});
     const CdFacts facts = ReadCdFacts(places, u"Star"_s);
     EXPECT_TRUE(facts.hasFolder);
@@ -42,76 +46,54 @@ TEST_F(CdFileTest, FillingByWhatTheFolderHolds)
 {
     struct Case {
         CdFacts facts;
-        bool chkCD = false;
-        bool visible = false;
-        bool chkMountCD = false;
+        bool chkCD;
+        bool chkMountCD;
+        int mode;
         QStringList list;
     };
     // The former game had a CD with a drive for each image.
     const Case cases[] = {
-        {{false, {}, true, false, 1}, true, true, true, {}}, // no folder: as it was
-        {{true, images, false, false, 0}, false, false, true, {}},
-        {{true, images, true, false, 0}, true, true, false, {row}},
-        {{true, images, true, true, 1}, true, true, true, images},
-        {{true, {}, true, false, 1}, true, true, false, {}},
+        {{false, {}, true, false, 1}, true, true, 1, {}}, // no folder: as it was
+        {{true, images, false, false, 0}, false, true, 1, {}},
+        {{true, images, true, false, 0}, true, false, 0, one},
+        {{true, images, true, true, 1}, true, true, 1, images},
+        {{true, {}, true, false, 1}, true, false, 1, {}},
     };
     for (const Case& c : cases) {
-        panel.chkCD = panel.picCDVisible = panel.chkMountCD = true;
-        panel.lstCD = QStringList{u"old.iso"_s};
+        ChkMountCdClicked(panel, true, images, row);
+        panel.chkCD = panel.picCDVisible = true;
         panel.row = 0;
         FillCdList(panel, c.facts, row);
-        EXPECT_EQ(panel.chkCD, c.chkCD);
-        EXPECT_EQ(panel.picCDVisible, c.visible);
-        EXPECT_EQ(panel.chkMountCD, c.chkMountCD);
-        EXPECT_EQ(panel.lstCD, c.list);
-        EXPECT_EQ(panel.row, -1);
+        Expect(c.chkCD, c.chkMountCD, c.mode, c.list);
     }
-}
-
-TEST_F(CdFileTest, AResetKeepsTheFormerGamesCdFromTheNextOne)
-{
-    panel.chkCD = panel.picCDVisible = panel.chkMountCD = true;
-    panel.CdMountMode = 1;
-    panel.lstCD = images;
     ResetCdPanel(panel);
     FillCdList(panel, ReadCdFacts(places, u"Bare"_s), row);
-    EXPECT_FALSE(panel.chkCD || panel.picCDVisible || panel.chkMountCD);
-    EXPECT_EQ(panel.CdMountMode, 0);
-    EXPECT_TRUE(panel.lstCD.isEmpty());
+    Expect(false, false, 0, {});
 }
 
-TEST_F(CdFileTest, CheckingTakesImagesWhereThereAreAny)
+TEST_F(CdFileTest, ClicksTakeImagesWhereThereAreAny)
 {
     panel.chkMountCD = true;
     ChkCdClicked(panel, true, images, row);
-    EXPECT_TRUE(panel.chkCD && panel.picCDVisible);
-    EXPECT_FALSE(panel.chkMountCD);
-    EXPECT_EQ(panel.CdMountMode, 1);
-    EXPECT_EQ(panel.lstCD, images);
+    Expect(true, false, 1, images);
     ChkCdClicked(panel, true, {}, row);
-    EXPECT_EQ(panel.CdMountMode, 0);
-    EXPECT_EQ(panel.lstCD, QStringList{row});
-    ChkCdClicked(panel, false, images, row);
-    EXPECT_FALSE(panel.chkCD || panel.picCDVisible);
-    EXPECT_EQ(panel.lstCD, QStringList{row}) << "only hidden";
-}
-
-TEST_F(CdFileTest, ADriveForEachImageImpliesImages)
-{
-    ChooseCdMode(panel, 0, images, row);
-    EXPECT_EQ(panel.lstCD, QStringList{row});
+    Expect(true, false, 0, one);
     ChkMountCdClicked(panel, true, images, row);
-    EXPECT_EQ(panel.CdMountMode, 1);
-    EXPECT_EQ(panel.lstCD, images);
+    Expect(true, true, 1, images);
     ChkMountCdClicked(panel, false, {}, row);
-    EXPECT_EQ(panel.CdMountMode, 1);
-    EXPECT_EQ(panel.lstCD, images);
-    EXPECT_FALSE(panel.chkMountCD);
+    Expect(true, false, 1, images);
+    ChooseCdMode(panel, 0, images, row);
+    Expect(true, false, 0, one);
+    ChooseCdMode(panel, 1, images, row);
+    Expect(true, false, 1, images);
+    ChkCdClicked(panel, false, {}, row);
+    Expect(false, false, 1, images); // only hidden
 }
 
 TEST_F(CdFileTest, SavingWritesDeletesOrLeavesAlone)
 {
-    folder.MakeTree({u"Star/DosBox/CD/"_s});
+    const QString conf = u"Star/DosBox/CD.conf"_s;
+    folder.MakeAll(u"Star/DosBox/CD/ Bare/GO.EXE"_s);
     panel.chkCD = true;
     ASSERT_TRUE(SaveCdConf(places, u"Star"_s, panel));
     EXPECT_FALSE(folder.Exists(conf)) << "no row";
@@ -120,7 +102,7 @@ TEST_F(CdFileTest, SavingWritesDeletesOrLeavesAlone)
     EXPECT_EQ(folder.ReadRaw(conf), "1\r\n1\r\n");
     panel.lstCD.clear();
     ASSERT_TRUE(SaveCdConf(places, u"Star"_s, panel));
-    EXPECT_EQ(folder.ReadRaw(conf), "1\r\n1\r\n");
+    EXPECT_TRUE(folder.Exists(conf));
     panel.chkCD = false;
     ASSERT_TRUE(SaveCdConf(places, u"Star"_s, panel));
     EXPECT_FALSE(folder.Exists(conf));
@@ -128,7 +110,6 @@ TEST_F(CdFileTest, SavingWritesDeletesOrLeavesAlone)
     ChkCdClicked(panel, true, {}, row);
     EXPECT_FALSE(SaveCdConf(places, u"Gone"_s, panel));
     EXPECT_FALSE(folder.Exists(u"Gone"_s));
-    folder.MakeTree({u"Bare/GO.EXE"_s});
     ASSERT_TRUE(SaveCdConf(places, u"Bare"_s, panel));
     EXPECT_EQ(folder.ReadRaw(u"Bare/DosBox/CD.conf"_s), "0\r\n0\r\n");
 }
