@@ -2,12 +2,12 @@
 
 #include "dosboxconf/ConfCompose.h"
 #include "running/RunPlan.h"
-
-#include <gtest/gtest.h>
+#include "support/Values.h"
 
 using namespace Qt::StringLiterals;
 using namespace pelorin;
 using namespace pelorin::running;
+using namespace pelorin::test;
 using dosboxconf::RunFacts;
 using platform::HostText;
 using platform::PathForm;
@@ -17,60 +17,55 @@ namespace {
 /// A path of so many bytes in UTF-8, most of them in Hangul.
 QString PathOfBytes(qsizetype bytes)
 {
-    QString path = u"/"_s + QString(bytes % 3 == 0 ? 2 : bytes % 3 == 1 ? 3 : 1, u'x');
-    while (path.toUtf8().size() < bytes) {
-        path += u'가';
+    return u'/' + QString((bytes - 1) % 3, u'x') + QString((bytes - 1) / 3, u'가');
+}
+
+TEST(DosboxLaunchTest, PathsCountInBytesOfTheFileSystem)
+{
+    struct Case {
+        qsizetype root;
+        qsizetype game;
+        qsizetype cdFolder;
+        bool mountRoot;
+        bool starts;
+    };
+    const Case cases[] = {
+        {300, 238, 3, false, true},
+        {3, 239, 3, false, false},
+        {3, 300, 3, true, true}, // the game's own folder is not mounted
+        {300, 3, 3, true, false},
+        {3, 3, 505, false, true}, // an image's path may be longer: 511
+        {3, 3, 506, false, false},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.root << ' ' << c.game << ' ' << c.cdFolder);
+        RunFacts facts;
+        facts.gamesRoot.native = PathOfBytes(c.root);
+        facts.gameDir.native = PathOfBytes(c.game);
+        facts.cdFolder.native = PathOfBytes(c.cdFolder);
+        facts.request.cd = {true, false, {u"b.iso"_s, u"a.iso"_s}, 1};
+        facts.request.mountRoot = c.mountRoot;
+        EXPECT_EQ(CheckLaunch(facts, HostText(), PathForm::Posix).Ok(), c.starts);
+        EXPECT_TRUE(CheckLaunch(facts, HostText(), PathForm::Windows));
+        facts.request.cd.CdMountMode = 0;
+        EXPECT_EQ(
+            CheckLaunch(facts, HostText(), PathForm::Posix).Ok(), c.starts || c.cdFolder > 505);
     }
-    EXPECT_EQ(path.toUtf8().size(), bytes);
-    return path;
-}
-
-HostText Autoexec(const QString& sections, qsizetype bytes)
-{
-    HostText text;
-    text.Text(sections + u"[autoexec]\r\n"_s + QString(bytes - 2, u'x') + u"\r\n\r\n"_s);
-    return text;
-}
-
-TEST(DosboxLaunchTest, AMountedPathCountsInBytesOfTheFileSystem)
-{
-    RunFacts facts;
-    facts.gamesRoot.native = u"/g"_s;
-    facts.gameDir.native = PathOfBytes(238);
-    EXPECT_TRUE(CheckLaunch(facts, HostText(), PathForm::Posix));
-    facts.gameDir.native = PathOfBytes(239);
-    const auto refused = CheckLaunch(facts, HostText(), PathForm::Posix);
-    ASSERT_FALSE(refused);
-    EXPECT_EQ(refused.Failure().kind, platform::ErrorKind::Refused);
-    EXPECT_TRUE(refused.Failure().text.contains(facts.gameDir.native));
-    EXPECT_TRUE(CheckLaunch(facts, HostText(), PathForm::Windows));
-    facts.request.mountRoot = true; // the game's own folder is not mounted
-    EXPECT_TRUE(CheckLaunch(facts, HostText(), PathForm::Posix));
-    facts.gamesRoot.native = PathOfBytes(300);
-    EXPECT_FALSE(CheckLaunch(facts, HostText(), PathForm::Posix));
-}
-
-TEST(DosboxLaunchTest, AnImagesPathMayBeLongerButNotWithoutEnd)
-{
-    RunFacts facts;
-    facts.cdFolder.native = PathOfBytes(505);
-    facts.request.cd = {true, false, {u"a.iso"_s}, 1};
-    EXPECT_TRUE(CheckLaunch(facts, HostText(), PathForm::Posix)); // 511
-    facts.request.cd.lstCD = QStringList{u"a.iso"_s, u"ab.iso"_s};
-    EXPECT_FALSE(CheckLaunch(facts, HostText(), PathForm::Posix));
-    facts.request.cd.CdMountMode = 0;
-    EXPECT_TRUE(CheckLaunch(facts, HostText(), PathForm::Posix));
 }
 
 TEST(DosboxLaunchTest, TheAutoexecSectionIsCountedWithoutCarriageReturns)
 {
-    const QString gus = u"[gus]\r\ngus=true\r\n\r\n"_s;
-    const QString none = u"[gus]\r\ngus=false\r\n\r\n"_s;
-    EXPECT_TRUE(CheckLaunch({}, Autoexec(none, kAutoexecBytes), PathForm::Posix));
-    EXPECT_FALSE(CheckLaunch({}, Autoexec(none, kAutoexecBytes + 1), PathForm::Posix));
-    EXPECT_TRUE(CheckLaunch({}, Autoexec(gus, kAutoexecBytesWithGravis), PathForm::Posix));
-    EXPECT_FALSE(CheckLaunch({}, Autoexec(gus, kAutoexecBytesWithGravis + 1), PathForm::Posix));
-    EXPECT_TRUE(CheckLaunch({}, Autoexec(none, 9000), PathForm::Windows));
+    const auto starts = [](const char16_t* gus, qsizetype bytes, PathForm form) {
+        const QString gravis = u"[gus]\r\ngus="_s + QString::fromUtf16(gus) + u"\r\n\r\n"_s;
+        HostText text;
+        text.Text(gravis + u"[autoexec]\r\n"_s + QString(bytes - 2, u'x') + u"\r\n\r\n"_s);
+        return CheckLaunch({}, text, form).Ok();
+    };
+    EXPECT_TRUE(starts(u"false", kAutoexecBytes, PathForm::Posix));
+    EXPECT_FALSE(starts(u"false", kAutoexecBytes + 1, PathForm::Posix));
+    EXPECT_TRUE(starts(u"true", kAutoexecBytesWithGravis, PathForm::Posix));
+    EXPECT_FALSE(starts(u"true", kAutoexecBytesWithGravis + 1, PathForm::Posix));
+    EXPECT_TRUE(starts(u"false", 9000, PathForm::Windows));
 }
 
 TEST(DosboxLaunchTest, RefusesWhatCantBeNamedInTheText)
@@ -91,42 +86,35 @@ TEST(DosboxLaunchTest, RefusesWhatCantBeNamedInTheText)
     EXPECT_TRUE(CheckRequest(request, QString())) << "it has a build of its own";
 }
 
-TEST(DosboxLaunchTest, ACommandThatANativeDosboxCantFindIsRefused)
+TEST(DosboxLaunchTest, NamesThatANativeDosboxCantFindAreRefusedOrNoted)
 {
+    struct Case {
+        RunMode mode;
+        PathForm form;
+        QString refused;
+        QString noted;
+    };
+    const Case cases[] = {
+        {RunMode::Game, PathForm::Posix, u"게임.bat"_s, u"지도.dat"_s},
+        {RunMode::Game, PathForm::Windows, QString(), QString()},
+        {RunMode::DosPrompt, PathForm::Posix, QString(), QString()},
+        {RunMode::FileWithArgs, PathForm::Posix, u"시작.bat"_s, u"둘.dat"_s},
+    };
     RunRequest request;
-    request.startCommands = QStringList{u"cd data"_s, u"call 게임.bat"_s};
-    request.typedLine = u"시작.bat"_s;
-    const auto refused = CheckCommands(request, PathForm::Posix);
-    ASSERT_FALSE(refused);
-    EXPECT_TRUE(refused.Failure().text.startsWith(u"게임.bat: "_s));
-    EXPECT_TRUE(CheckCommands(request, PathForm::Windows));
-    request.mode = RunMode::DosPrompt;
-    EXPECT_TRUE(CheckCommands(request, PathForm::Posix));
-    request.mode = RunMode::FileWithArgs;
-    EXPECT_TRUE(CheckCommands(request, PathForm::Posix).Failure().text.startsWith(u"시작.bat: "_s));
-}
-
-TEST(DosboxLaunchTest, NotesTellWhatDoesNotHoldBackTheStart)
-{
-    RunRequest request;
-    request.startCommands = QStringList{u"echo 안녕"_s, u"play.exe 지도.dat"_s};
-    request.typedLine = u"play.exe 둘.dat"_s;
-    const HostText plain = HostText().Text(u"가"_s);
-    ASSERT_EQ(LaunchNotes(request, plain, PathForm::Posix).size(), 1);
-    EXPECT_TRUE(
-        LaunchNotes(request, plain, PathForm::Posix).first().English().contains(u"지도.dat"_s));
-    EXPECT_TRUE(LaunchNotes(request, plain, PathForm::Windows).isEmpty());
-    request.mode = RunMode::DosPrompt;
-    EXPECT_TRUE(LaunchNotes(request, plain, PathForm::Posix).isEmpty());
-    request.mode = RunMode::FileWithArgs;
-    EXPECT_TRUE(
-        LaunchNotes(request, plain, PathForm::Posix).first().English().contains(u"둘.dat"_s));
-
+    request.startCommands = QStringList{u"cd data"_s, u"call 게임.bat 지도.dat"_s};
+    request.typedLine = u"시작.bat 둘.dat"_s;
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.refused);
+        request.mode = c.mode;
+        EXPECT_EQ(ErrorOf(CheckCommands(request, c.form)).section(u':', 0, 0), c.refused);
+        const auto notes = LaunchNotes(request, HostText().Text(u"가"_s), c.form);
+        ASSERT_EQ(notes.size(), c.noted.isEmpty() ? 0 : 1);
+        EXPECT_TRUE(notes.isEmpty() || notes.first().English().startsWith(c.noted + u':'));
+    }
+    request = RunRequest();
     request.mode = RunMode::NetHost;
-    request.startCommands.clear();
     request.serverPort = dosboxconf::kIpxFallbackPort;
-    const QList<platform::Wording> notes =
-        LaunchNotes(request, HostText().Text(u"żółw"_s), PathForm::Posix);
+    const auto notes = LaunchNotes(request, HostText().Text(u"żółw"_s), PathForm::Posix);
     ASSERT_EQ(notes.size(), 2);
     EXPECT_TRUE(notes[0].English().contains(u"żó"_s));
     EXPECT_TRUE(notes[1].English().contains(u"19900"_s));

@@ -1,11 +1,9 @@
 #include "running/GuestCommand.h"
 
-#include <gtest/gtest.h>
+#include "support/Values.h"
 
 using namespace Qt::StringLiterals;
 using namespace pelorin::running;
-
-namespace {
 
 TEST(GuestCommandTest, TellsWhatALineHasToFindFromWhatItPassesOn)
 {
@@ -49,9 +47,7 @@ TEST(GuestCommandTest, TellsWhatALineHasToFindFromWhatItPassesOn)
     };
     for (const Case& c : cases) {
         const UnopenableNames names = UnopenableNamesIn(c.line);
-        EXPECT_EQ(names.needed, c.needed) << c.line.toStdString();
-        EXPECT_EQ(names.passedOn, c.passedOn) << c.line.toStdString();
+        EXPECT_EQ(names.needed, c.needed) << c.line;
+        EXPECT_EQ(names.passedOn, c.passedOn) << c.line;
     }
 }
-
-} // namespace
