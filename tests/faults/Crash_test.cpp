@@ -3,13 +3,13 @@
 #include "dosboxconf/OptionTable.h"
 #include "dosboxconf/StartCommandsFile.h"
 #include "faults/FaultsFixture.h"
+#include "faults/KilledProcess.h"
 #include "library/CatalogueCache.h"
 #include "library/GameInfo.h"
 #include "library/LibraryFixture.h"
 #include "platform/TextFile.h"
 #include "shell/RecentFile.h"
 #include "shell/SettingsFile.h"
-#include "support/KilledProcess.h"
 
 #include <QFile>
 

@@ -1,13 +1,7 @@
 #include "real/RealInstallation.h"
-#include "support/TestFolder.h"
-#include "support/XSession.h"
-#include "support/Xdotool.h"
 
 #include <QDir>
-#include <QFile>
-#include <QTest>
 
-#include <gtest/gtest.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -15,10 +9,9 @@ using namespace pelorin::test;
 
 namespace {
 
-constexpr int kStepMs = 10'000;
-const QString kMainWindow = u"펠로린 Ver\\."_s;
+using Faults = RealTest;
 
-TEST(Faults, WhatCantBeReadAtTheStartGivesABoxStandardErrorAndStatusOne)
+TEST_F(Faults, WhatCantBeReadAtTheStartGivesABoxStandardErrorAndStatusOne)
 {
     struct Row {
         QString file;
@@ -31,11 +24,8 @@ TEST(Faults, WhatCantBeReadAtTheStartGivesABoxStandardErrorAndStatusOne)
         {u"option.dat"_s, [](const QString& path) { QFile::resize(path, 40); }, ": line 3: "},
         {u"recent.sav"_s, [](const QString& path) { QDir().mkpath(path); }, ": "},
     };
-    const XSession session;
-    ASSERT_TRUE(session.IsUp());
-    const Xdotool person(session);
     for (const Row& row : rows) {
-        SCOPED_TRACE((row.file + QString::fromLatin1(row.told)).toStdString());
+        SCOPED_TRACE((row.file + QString::fromLatin1(row.told)));
         const TestFolder app;
         Stage(app, session);
         row.spoil(app.Path(row.file));
@@ -54,13 +44,11 @@ TEST(Faults, WhatCantBeReadAtTheStartGivesABoxStandardErrorAndStatusOne)
     }
 }
 
-TEST(Faults, ReadOnlyAppDirStartsAndAsksAtExit)
+TEST_F(Faults, ReadOnlyAppDirStartsAndAsksAtExit)
 {
     if (geteuid() != 0) {
         GTEST_SKIP() << "mounting needs root";
     }
-    const XSession session;
-    ASSERT_TRUE(session.IsUp());
     const TestFolder app;
     const TestFolder place;
     Stage(app, session);
@@ -71,7 +59,6 @@ TEST(Faults, ReadOnlyAppDirStartsAndAsksAtExit)
         u"unshare"_s,
         {u"--mount"_s, u"sh"_s, u"-c"_s, script, u"sh"_s, app.Path(), place.Path()},
         PlainEnvironment(session));
-    const Xdotool person(session);
     const auto window = person.WaitForWindow(kMainWindow, kStepMs);
     ASSERT_TRUE(window.has_value()) << pelorin.Output().toStdString();
     EXPECT_TRUE(QTest::qWaitFor(

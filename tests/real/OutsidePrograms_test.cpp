@@ -1,14 +1,8 @@
 #include "platform/DesktopShellVerbs.h"
 #include "platform/DetachedProcesses.h"
 #include "platform/ProgramHost.h"
+#include "real/RealInstallation.h"
 #include "real/RecordingOpener.h"
-#include "support/TestFolder.h"
-#include "support/XSession.h"
-#include "support/Xdotool.h"
-
-#include <QTest>
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace pelorin;
@@ -16,100 +10,77 @@ using namespace pelorin::test;
 
 namespace {
 
-constexpr int kPatienceMs = 20'000;
+class OutsideProgramsTest : public RealTest {
+protected:
+    void StartEmulator(const QString& name, const QStringList& arguments)
+    {
+        const platform::ProgramHost host(m_folder.Path(), platform::SearchPath());
+        const auto emulator = host.Find(u"DOSBox\\0.74\\"_s + name);
+        ASSERT_TRUE(emulator);
+        ASSERT_TRUE(m_processes.StartDetached(
+            emulator.Value().Request(arguments, m_folder.Path(u"DOSBox/0.74"_s)),
+            [this](const platform::ProcessEnd& told) { m_end = told; }));
+        m_window = person.WaitForWindow(u"DOSBox 0.74"_s, 2 * kStepMs);
+        ASSERT_TRUE(m_window.has_value());
+    }
 
-TEST(OutsideProgramsTest, EmulatorStartsInItsFolderAndItsEndIsTold)
+    const ScopedEnvironment m_scope{session.Environment()};
+    const TestFolder m_folder{u"내 게임 [1]"_s};
+    platform::DetachedProcesses m_processes;
+    std::optional<platform::ProcessEnd> m_end;
+    std::optional<Xdotool::WindowId> m_window;
+};
+
+TEST_F(OutsideProgramsTest, EmulatorStartsInItsFolderAndItsEndIsTold)
 {
-    const XSession session;
-    ASSERT_TRUE(session.IsUp());
-    const ScopedEnvironment scope(session.Environment());
-    const TestFolder folder(u"내 게임 [1]"_s);
-    folder.MakeFolder(u"DOSBox/0.74"_s);
-    folder.MakeLink(u"DOSBox/0.74/dosbox"_s, u"/usr/bin/dosbox"_s);
+    m_folder.MakeFolder(u"DOSBox/0.74"_s);
+    m_folder.MakeLink(u"DOSBox/0.74/dosbox"_s, u"/usr/bin/dosbox"_s);
     // Read from the working folder, with nothing on the command line that names it.
-    folder.WriteText(
+    m_folder.WriteText(
         u"DOSBox/0.74/dosbox.conf"_s, u"[sdl]\r\noutput=surface\r\n[autoexec]\r\necho Star\r\n"_s);
+    ASSERT_NO_FATAL_FAILURE(StartEmulator(u"dosbox.exe"_s, {u"-noconsole"_s}));
+    EXPECT_GE(person.Geometry(*m_window).width(), 640);
+    EXPECT_TRUE(ShowsColours(*m_window, 2)) << "nothing is drawn in its window";
 
-    platform::DetachedProcesses processes;
-    const platform::ProgramHost host(folder.Path(), platform::SearchPath());
-    const auto emulator = host.Find(u"DOSBox\\0.74\\dosbox.exe"_s);
-    ASSERT_TRUE(emulator);
-    bool hasEnded = false;
-    platform::ProcessEnd end;
-    ASSERT_TRUE(processes.StartDetached(
-        emulator.Value().Request({u"-noconsole"_s}, folder.Path(u"DOSBox/0.74"_s)),
-        [&](const platform::ProcessEnd& told) {
-            hasEnded = true;
-            end = told;
-        }));
-
-    const Xdotool person(session);
-    const auto window = person.WaitForWindow(u"DOSBox 0.74"_s, kPatienceMs);
-    ASSERT_TRUE(window.has_value());
-    const QRect place = person.Geometry(*window);
-    EXPECT_GE(place.width(), 640);
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return ColourCount(session.Screenshot(), place) > 2; }, kPatienceMs))
-        << "nothing is drawn in its window";
-
-    ASSERT_TRUE(person.Activate(*window, kPatienceMs));
+    ASSERT_TRUE(person.Activate(*m_window, 2 * kStepMs));
     person.Type(u"exit"_s);
     person.Key(u"Return"_s);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return hasEnded; }, kPatienceMs));
-    EXPECT_EQ(end.exitStatus, 0);
-    EXPECT_TRUE(end.output.contains("CONFIG:Loading primary settings from config file dosbox.conf"))
-        << end.output.toStdString();
-    EXPECT_TRUE(person.WaitUntilGone(u"DOSBox 0.74"_s, kPatienceMs));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return m_end.has_value(); }, 2 * kStepMs));
+    EXPECT_EQ(m_end->exitStatus, 0);
+    EXPECT_TRUE(
+        m_end->output.contains("CONFIG:Loading primary settings from config file dosbox.conf"))
+        << m_end->output.toStdString();
+    EXPECT_TRUE(person.WaitUntilGone(u"DOSBox 0.74"_s, 2 * kStepMs));
 }
 
-TEST(OutsideProgramsTest, DebuggerRunsWithoutATerminal)
+TEST_F(OutsideProgramsTest, DebuggerRunsWithoutATerminal)
 {
-    const XSession session;
-    ASSERT_TRUE(session.IsUp());
-    const ScopedEnvironment scope(session.Environment());
-    const TestFolder folder;
-    folder.MakeFolder(u"DOSBox/0.74"_s);
-    folder.MakeLink(u"DOSBox/0.74/dosbox_debug"_s, u"/usr/bin/dosbox-debug"_s);
-    platform::DetachedProcesses processes;
-    const auto emulator =
-        platform::ProgramHost(folder.Path(), {}).Find(u"DOSBox\\0.74\\dosbox_debug.exe"_s);
-    ASSERT_TRUE(emulator);
-    bool hasEnded = false;
-    ASSERT_TRUE(processes.StartDetached(
-        emulator.Value().Request({}, folder.Path(u"DOSBox/0.74"_s)),
-        [&](const platform::ProcessEnd&) { hasEnded = true; }));
-    const auto window = Xdotool(session).WaitForWindow(u"DOSBox 0.74"_s, kPatienceMs);
-    EXPECT_TRUE(window.has_value());
-    EXPECT_FALSE(hasEnded);
+    m_folder.MakeFolder(u"DOSBox/0.74"_s);
+    m_folder.MakeLink(u"DOSBox/0.74/dosbox_debug"_s, u"/usr/bin/dosbox-debug"_s);
+    StartEmulator(u"dosbox_debug.exe"_s, {});
+    EXPECT_FALSE(m_end.has_value());
 }
 
-TEST(OutsideProgramsTest, DesktopOpensPathsThatAreHardOnShellsAndAddresses)
+TEST_F(OutsideProgramsTest, DesktopOpensPathsThatAreHardOnShellsAndAddresses)
 {
-    const XSession session;
-    ASSERT_TRUE(session.IsUp());
-    const ScopedEnvironment scope(session.Environment());
     const TestFolder& home = session.Home().Folder();
     const RecordingOpener opener(session.Home(), session.Environment());
-
-    platform::DetachedProcesses processes;
-    platform::DesktopShellVerbs shell(processes, platform::SearchPath());
+    platform::DesktopShellVerbs shell(m_processes, platform::SearchPath());
     const auto opened = [&](const platform::Done& done) {
         EXPECT_TRUE(done);
         return opener.Take();
     };
+    QStringList paths{home.Path(u"게임 %20"_s)};
     for (const QString& name :
-         {u"Read me.txt"_s,
-          u"읽어 보기.txt"_s,
-          u"50%41 #1?.txt"_s,
-          u"$HOME `id` & 'a' \"b\".txt"_s}) {
+         {u"읽어 보기.txt"_s, u"50%41 #1?.txt"_s, u"$HOME `id` & 'a' \"b\".txt"_s}) {
         home.WriteRaw(u"게임 %20/"_s + name, "Some plain text.\n");
-        const QString path = home.Path(u"게임 %20/"_s + name);
+        paths << home.Path(u"게임 %20/"_s + name);
+    }
+    for (const QString& path : paths) {
         EXPECT_EQ(opened(shell.Open(path)), path);
     }
-    EXPECT_EQ(opened(shell.Open(home.Path(u"게임 %20"_s))), home.Path(u"게임 %20"_s));
-    EXPECT_EQ(
-        opened(shell.OpenUrl(u"https://example.org/a%20b?c=$HOME&d=1#e"_s)),
-        u"https://example.org/a%20b?c=$HOME&d=1#e"_s);
+    const QString address = u"https://example.org/a%20b?c=$HOME&d=1#e"_s;
+    EXPECT_EQ(opened(shell.OpenUrl(address)), address);
 }
 
 } // namespace

@@ -1,11 +1,7 @@
 #pragma once
 
-#include "support/TestFolder.h"
 #include "support/XSession.h"
-
-#include <QProcessEnvironment>
-
-#include <gtest/gtest.h>
+#include "support/Xdotool.h"
 
 namespace pelorin::test {
 
@@ -13,14 +9,12 @@ namespace pelorin::test {
 inline void Stage(const TestFolder& folder, const XSession& session)
 {
     constexpr int kStageMs = 60'000;
-    const ToolResult staged = RunTool(
-        QStringLiteral("cmake"),
-        {QStringLiteral("--install"),
-         QStringLiteral(PELORIN_BUILD_DIR),
-         QStringLiteral("--prefix"),
-         folder.Path()},
-        session.Environment(),
-        kStageMs);
+    const QStringList stage{
+        QStringLiteral("--install"),
+        QStringLiteral(PELORIN_BUILD_DIR),
+        QStringLiteral("--prefix"),
+        folder.Path()};
+    const auto staged = RunTool(QStringLiteral("cmake"), stage, session.Environment(), kStageMs);
     ASSERT_EQ(staged.exitCode, 0) << staged.errors.toStdString();
 }
 
@@ -35,5 +29,22 @@ inline QProcessEnvironment PlainEnvironment(const XSession& session)
     }
     return plain;
 }
+
+/// A screen and a person before it.
+class RealTest : public testing::Test {
+protected:
+    static constexpr int kStepMs = 10'000;
+
+    void SetUp() override { ASSERT_TRUE(session.IsUp()); }
+    bool ShowsColours(const Xdotool::WindowId& window, int moreThan) const
+    {
+        return QTest::qWaitFor(
+            [&] { return session.ColourCount(person.Geometry(window)) > moreThan; }, kStepMs);
+    }
+
+    const XSession session;
+    const Xdotool person{session};
+    const QString kMainWindow = QStringLiteral("펠로린 Ver\\.");
+};
 
 } // namespace pelorin::test

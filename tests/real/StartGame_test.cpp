@@ -1,54 +1,37 @@
 #include "real/RealInstallation.h"
-#include "support/TestFolder.h"
-#include "support/XSession.h"
-#include "support/Xdotool.h"
-
-#include <QTest>
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace pelorin::test;
 
 namespace {
 
-constexpr int kStepMs = 10'000;
-const QString kGame = u"Games/별 헤는 밤 (Star) [1]"_s;
+using StartGame = RealTest;
 
-} // namespace
-
-TEST(StartGame, ByKeysAloneUpToTheFileThatTheGameWrites)
+TEST_F(StartGame, ByKeysAloneUpToTheFileThatTheGameWrites)
 {
-    const XSession session;
-    ASSERT_TRUE(session.IsUp());
+    const QString game = u"Games/별 헤는 밤 (Star) [1]"_s;
     const TestFolder app(u"내 펠로린 100% [1]"_s);
     Stage(app, session);
-    ASSERT_FALSE(app.Exists(kGame + u"/READY.TXT"_s));
+    ASSERT_FALSE(app.Exists(game + u"/READY.TXT"_s));
 
     RunProgram pelorin(app.Path(u"Pelorin"_s), {}, PlainEnvironment(session));
-    const Xdotool person(session);
-    const auto window = person.WaitForWindow(u"펠로린 Ver\\."_s, kStepMs);
+    const auto window = person.WaitForWindow(kMainWindow, kStepMs);
     ASSERT_TRUE(window.has_value()) << pelorin.Output().toStdString();
     ASSERT_TRUE(person.Activate(*window, kStepMs));
     ASSERT_TRUE(
         QTest::qWaitFor([&] { return person.Title(*window).startsWith(u"별 헤는 밤"_s); }, kStepMs))
-        << person.Title(*window).toStdString();
+        << person.Title(*window);
 
     person.Key(u"Return"_s);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return app.Exists(kGame + u"/READY.TXT"_s); }, kStepMs))
+    ASSERT_TRUE(QTest::qWaitFor([&] { return app.Exists(game + u"/READY.TXT"_s); }, kStepMs))
         << pelorin.Output().toStdString();
     const auto emulator = person.WaitForWindow(u"DOSBox 0\\.74"_s, kStepMs);
     ASSERT_TRUE(emulator.has_value());
     constexpr int kColoursBesidesBlack = 8;
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] {
-            return ColourCount(session.Screenshot(), person.Geometry(*emulator)) >
-                   kColoursBesidesBlack;
-        },
-        kStepMs));
-    EXPECT_TRUE(app.Exists(kGame + u"/DOSBOX/autoexec.conf"_s));
-    EXPECT_FALSE(app.Exists(kGame + u"/DosBox"_s));
-    EXPECT_FALSE(app.Exists(kGame + u"/dosbox"_s));
+    EXPECT_TRUE(ShowsColours(*emulator, kColoursBesidesBlack));
+    EXPECT_TRUE(app.Exists(game + u"/DOSBOX/autoexec.conf"_s));
+    EXPECT_FALSE(app.Exists(game + u"/DosBox"_s));
+    EXPECT_FALSE(app.Exists(game + u"/dosbox"_s));
 
     // The window stays usable while the game runs, and what it did is saved when it closes.
     person.Close(*window);
@@ -60,12 +43,14 @@ TEST(StartGame, ByKeysAloneUpToTheFileThatTheGameWrites)
     EXPECT_TRUE(person.FindWindow(u"DOSBox 0\\.74"_s).has_value());
 }
 
-TEST(StartGame, AnUnknownCommandLineOpensNothing)
+TEST(CommandLine, AnUnknownOneOpensNothing)
 {
     const IsolatedHome home;
     RunProgram pelorin(
         QStringLiteral(PELORIN_BUILD_DIR "/src/Pelorin"), {u"--help"_s}, home.Environment());
-    ASSERT_TRUE(pelorin.WaitForEnd(kStepMs));
+    ASSERT_TRUE(pelorin.WaitForEnd(10'000));
     EXPECT_EQ(pelorin.ExitCode(), 0);
     EXPECT_TRUE(pelorin.Output().isEmpty());
 }
+
+} // namespace

@@ -1,10 +1,15 @@
 #pragma once
 
 #include "platform/Bin.h"
+#include "platform/Paths.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QSet>
 #include <QStringList>
 #include <QTemporaryDir>
+
+#include <gtest/gtest.h>
 
 namespace pelorin::test {
 
@@ -17,10 +22,28 @@ public:
 
     /// What was moved, in order.
     const QStringList& Moved() const { return m_moved; }
-    /// Where the thing lies that was moved from this path, the newest one; empty if none was.
-    QString Kept(const QString& path) const;
+    /// Where the thing lies that was moved from this path, the newest one.
+    QString Kept(const QString& path) const
+    {
+        return m_folder.filePath(QString::number(m_moved.lastIndexOf(path))) + u'/' +
+               platform::LastPathSegment(path);
+    }
 
-    platform::Done MoveToBin(const QString& path) override;
+    platform::Done MoveToBin(const QString& path) override
+    {
+        EXPECT_TRUE(QFileInfo(path).isAbsolute()) << path.toStdString();
+        const QFileInfo info(path);
+        if (!info.exists() && !info.isSymLink()) {
+            return platform::Error{platform::ErrorKind::NotFound, path};
+        }
+        if (refuseAll || refused.contains(path) || path == u"/") {
+            return platform::Error{platform::ErrorKind::Refused, path};
+        }
+        m_moved << path;
+        const QString place = m_folder.filePath(QString::number(m_moved.size() - 1));
+        EXPECT_TRUE(QDir().mkpath(place) && QDir().rename(path, Kept(path))) << path.toStdString();
+        return platform::Success();
+    }
 
 private:
     QTemporaryDir m_folder;

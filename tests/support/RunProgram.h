@@ -1,10 +1,14 @@
 #pragma once
 
+#include "support/Values.h"
+
 #include <QByteArray>
 #include <QProcess>
 #include <QProcessEnvironment>
-#include <QString>
-#include <QStringList>
+
+#include <sys/prctl.h>
+
+#include <csignal>
 
 namespace pelorin::test {
 
@@ -16,42 +20,65 @@ public:
         const QString& program,
         const QStringList& arguments,
         const QProcessEnvironment& environment,
-        const QString& workingFolder = QStringLiteral("/"));
-    ~RunProgram();
+        QProcess::ProcessChannelMode streams = QProcess::MergedChannels)
+    {
+        m_process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
+        m_process.setProcessChannelMode(streams);
+        m_process.setProcessEnvironment(environment);
+        m_process.setWorkingDirectory(QStringLiteral("/"));
+        m_process.setStandardInputFile(QProcess::nullDevice());
+        m_process.start(program, arguments);
+        EXPECT_TRUE(m_process.waitForStarted(15'000)) << program << m_process.errorString();
+    }
+    ~RunProgram()
+    {
+        m_process.terminate();
+        if (IsRunning() && !m_process.waitForFinished(5'000)) {
+            m_process.kill();
+            m_process.waitForFinished(5'000);
+        }
+    }
     RunProgram(const RunProgram&) = delete;
     RunProgram& operator=(const RunProgram&) = delete;
 
     bool IsRunning() const { return m_process.state() != QProcess::NotRunning; }
-    qint64 Pid() const { return m_process.processId(); }
     /// False when it still runs after that time.
-    bool WaitForEnd(int timeoutMs);
-    /// SIGTERM, then SIGKILL.
-    void Stop();
+    bool WaitForEnd(int timeoutMs) { return !IsRunning() || m_process.waitForFinished(timeoutMs); }
     /// After the end; -1 when a signal ended it.
-    int ExitCode() const;
+    int ExitCode() const
+    {
+        return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
+    }
     /// What it has printed so far.
-    QByteArray Output();
-    /// Waits until the output holds one more whole line than were read before; null on
-    /// time-out or when the program has ended.
-    QByteArray ReadLine(int timeoutMs);
+    QByteArray Output()
+    {
+        m_process.waitForReadyRead(0);
+        m_output += m_process.readAll();
+        return m_output;
+    }
+    QByteArray Errors() { return m_process.readAllStandardError(); }
 
 private:
     QProcess m_process;
     QByteArray m_output;
-    qsizetype m_read = 0;
 };
 
 struct ToolResult {
-    int exitCode = -1; // -1: not started, killed or timed out
+    int exitCode = -1; // -1: killed or timed out
     QByteArray output; // standard output alone
     QByteArray errors;
 };
 
 /// Runs a tool that answers and ends.
-ToolResult RunTool(
+inline ToolResult RunTool(
     const QString& program,
     const QStringList& arguments,
     const QProcessEnvironment& environment,
-    int timeoutMs = 15'000);
+    int timeoutMs = 15'000)
+{
+    RunProgram tool(program, arguments, environment, QProcess::SeparateChannels);
+    const bool ended = tool.WaitForEnd(timeoutMs);
+    return {ended ? tool.ExitCode() : -1, tool.Output(), tool.Errors()};
+}
 
 } // namespace pelorin::test

@@ -4,8 +4,11 @@
 
 #include <QStringList>
 
+#include <gtest/gtest.h>
+
 #include <deque>
 #include <functional>
+#include <utility>
 #include <vector>
 
 namespace pelorin::test {
@@ -26,23 +29,69 @@ public:
         bool noByDefault = false;
     };
 
-    ~ScriptedPrompts() override;
+    ~ScriptedPrompts() override
+    {
+        EXPECT_TRUE(m_replies.empty())
+            << m_replies.size() << " scripted answers were not asked for";
+    }
 
     /// `whileOpen` runs while the question stands: a second click, a timer, the end of a program.
-    void WillAnswer(platform::Answer answer, std::function<void()> whileOpen = nullptr);
+    void WillAnswer(platform::Answer answer, std::function<void()> whileOpen = nullptr)
+    {
+        m_replies.push_back({Kind::Box, answer, QString(), std::move(whileOpen)});
+    }
     /// Empty is a cancelled box.
-    void WillType(const QString& text, std::function<void()> whileOpen = nullptr);
-    void WillChoose(const QString& folder, std::function<void()> whileOpen = nullptr);
+    void WillType(const QString& text, std::function<void()> whileOpen = nullptr)
+    {
+        m_replies.push_back({Kind::Input, platform::Answer::Ok, text, std::move(whileOpen)});
+    }
+    void WillChoose(const QString& folder, std::function<void()> whileOpen = nullptr)
+    {
+        m_replies.push_back({Kind::Folder, platform::Answer::Ok, folder, std::move(whileOpen)});
+    }
 
     /// All that was shown, in order.
     const std::vector<Question>& Asked() const { return m_asked; }
-    QStringList Texts() const;
+    QStringList Texts() const
+    {
+        QStringList texts;
+        for (const Question& question : m_asked) {
+            texts << question.text;
+        }
+        return texts;
+    }
     void Forget() { m_asked.clear(); }
 
-    platform::Answer Ask(const platform::MessageBox& box) override;
-    QString InputText(const QString& prompt, const QString& title, const QString& preset) override;
-    QString ChooseFolder(const QString& title, const QString& start) override;
-    void ShowReport(const QString& title, const QString& text) override;
+    platform::Answer Ask(const platform::MessageBox& box) override
+    {
+        using platform::Answer;
+        using platform::Buttons;
+        m_asked.push_back(
+            {Kind::Box, box.text, box.title, QString(), box.buttons, box.icon, box.noByDefault});
+        // A box with one button may have an answer of its own, for what happens under it.
+        const bool scripted = !m_replies.empty() && m_replies.front().kind == Kind::Box &&
+                              m_replies.front().answer == Answer::Ok;
+        if (box.buttons == Buttons::Ok && !scripted) {
+            return Answer::Ok;
+        }
+        const Answer answer = Next(Kind::Box, box.text).answer;
+        EXPECT_TRUE(Fits(answer, box.buttons)) << "no such button: " << qPrintable(box.text);
+        return answer;
+    }
+    QString InputText(const QString& prompt, const QString& title, const QString& preset) override
+    {
+        m_asked.push_back({Kind::Input, prompt, title, preset});
+        return Next(Kind::Input, prompt).text;
+    }
+    QString ChooseFolder(const QString& title, const QString& start) override
+    {
+        m_asked.push_back({Kind::Folder, QString(), title, start});
+        return Next(Kind::Folder, title).text;
+    }
+    void ShowReport(const QString& title, const QString& text) override
+    {
+        m_asked.push_back({Kind::Report, text, title, QString()});
+    }
 
 private:
     struct Reply {
@@ -51,7 +100,36 @@ private:
         QString text;
         std::function<void()> whileOpen;
     };
-    Reply Next(Kind kind, const QString& question);
+
+    static bool Fits(platform::Answer answer, platform::Buttons buttons)
+    {
+        using platform::Answer;
+        using platform::Buttons;
+        switch (answer) {
+        case Answer::Ok: return buttons == Buttons::Ok || buttons == Buttons::OkCancel;
+        case Answer::Yes:
+        case Answer::No: return buttons == Buttons::YesNo;
+        case Answer::Save:
+        case Answer::Discard: return buttons == Buttons::SaveDiscardCancel;
+        case Answer::Cancel: break;
+        }
+        return buttons == Buttons::OkCancel || buttons == Buttons::SaveDiscardCancel;
+    }
+
+    Reply Next(Kind kind, const QString& question)
+    {
+        Reply reply;
+        if (m_replies.empty() || m_replies.front().kind != kind) {
+            ADD_FAILURE() << "no answer scripted for: " << question.toStdString();
+            return reply;
+        }
+        reply = std::move(m_replies.front());
+        m_replies.pop_front();
+        if (reply.whileOpen) {
+            reply.whileOpen();
+        }
+        return reply;
+    }
 
     std::deque<Reply> m_replies;
     std::vector<Question> m_asked;

@@ -29,6 +29,12 @@ inline QStringList Words(const QString& text)
     return text.split(u' ', Qt::SkipEmptyParts);
 }
 
+/// For EXPECT_PRED2, which shows both.
+inline bool Holds(const QString& text, const QString& part)
+{
+    return text.contains(part);
+}
+
 template <class T>
 platform::ErrorKind KindOf(const platform::Outcome<T>& outcome)
 {

@@ -1,49 +1,102 @@
 #pragma once
 
-#include <QByteArray>
-#include <QPoint>
-#include <QProcessEnvironment>
+#include "support/XSession.h"
+
+#include <QMap>
 #include <QRect>
-#include <QString>
 
 #include <optional>
 
 namespace pelorin::test {
-
-class XSession;
 
 /// Hands and eyes of the person before the screen. A tool that fails or hangs fails the test.
 class Xdotool {
 public:
     using WindowId = QByteArray; // its number, decimal
 
-    explicit Xdotool(const XSession& session);
+    explicit Xdotool(const XSession& session)
+        : m_environment(session.Environment())
+    {}
 
     /// One stroke, "ctrl+f", "Return", to the window that has the focus.
-    void Key(const QString& stroke) const;
-    void Type(const QString& text) const;
-    /// A point of the screen; button 1 is the left one.
-    void Click(const QPoint& point, int button = 1) const;
-    void DoubleClick(const QPoint& point) const;
+    void Key(const QString& stroke) const { Run(QStringLiteral("key --clearmodifiers"), {stroke}); }
+    void Type(const QString& text) const
+    {
+        // Characters that the keyboard lacks are laid on a spare key first, which clients must
+        // notice.
+        Run(QStringLiteral("type --delay 30 --"), {text});
+    }
 
-    /// A shown window whose title, or class, matches the regular expression.
-    std::optional<WindowId> FindWindow(const QString& title) const;
-    std::optional<WindowId> WaitForWindow(const QString& title, int timeoutMs) const;
-    std::optional<WindowId> WaitForWindowOfClass(const QString& windowClass, int timeoutMs) const;
-    bool WaitUntilGone(const QString& title, int timeoutMs) const;
+    /// A shown window whose title matches the regular expression.
+    std::optional<WindowId> FindWindow(const QString& title) const
+    {
+        // It ends with 1 when there is none, or when a window goes while it looks.
+        const QStringList search = Words(QStringLiteral("search --onlyvisible --name"));
+        const auto done = RunTool(kTool, QStringList(search) << title, m_environment);
+        const QByteArray first = done.output.split('\n').constFirst().trimmed();
+        return first.isEmpty() ? std::nullopt : std::optional(first);
+    }
+    std::optional<WindowId> WaitForWindow(const QString& title, int timeoutMs) const
+    {
+        std::optional<WindowId> window;
+        std::ignore =
+            QTest::qWaitFor([&] { return (window = FindWindow(title)).has_value(); }, timeoutMs);
+        return window;
+    }
+    bool WaitUntilGone(const QString& title, int timeoutMs) const
+    {
+        return QTest::qWaitFor([&] { return !FindWindow(title); }, timeoutMs);
+    }
 
-    QString Title(const WindowId& window) const;
+    QString Title(const WindowId& window) const
+    {
+        const QByteArray title =
+            Run(QStringLiteral("getwindowname"), {QString::fromLatin1(window)});
+        return QString::fromUtf8(title);
+    }
     /// Of the screen, without the frame.
-    QRect Geometry(const WindowId& window) const;
+    QRect Geometry(const WindowId& window) const
+    {
+        // Lines "X=10", "Y=20", "WIDTH=640", "HEIGHT=480" among others.
+        QMap<QByteArray, int> values;
+        const QByteArray text =
+            Run(QStringLiteral("getwindowgeometry --shell"), {QString::fromLatin1(window)});
+        for (const QByteArray& line : text.split('\n')) {
+            const qsizetype equals = line.indexOf('=');
+            values[line.left(equals)] = line.mid(equals + 1).toInt();
+        }
+        return {values["X"], values["Y"], values["WIDTH"], values["HEIGHT"]};
+    }
     /// Raises it and gives it the focus; false when it has not got it in time.
-    bool Activate(const WindowId& window, int timeoutMs) const;
+    bool Activate(const WindowId& window, int timeoutMs) const
+    {
+        Run(QStringLiteral("windowactivate"), {QString::fromLatin1(window)});
+        // It fails while nothing at all has the focus.
+        const QStringList ask{QStringLiteral("getactivewindow")};
+        return QTest::qWaitFor(
+            [&] { return RunTool(kTool, ask, m_environment).output.trimmed() == window; },
+            timeoutMs);
+    }
     /// Asks the window manager, as its frame's close button does.
-    void Close(const WindowId& window) const;
+    void Close(const WindowId& window) const
+    {
+        // xdotool's "windowclose" would destroy the window under the program's feet, and openbox
+        // misses an Alt+F4 that comes as the first key of a session.
+        const QString number = QStringLiteral("0x") + QString::number(window.toULongLong(), 16);
+        const QStringList close = Words(QStringLiteral("-i -c ") + number);
+        const auto done = RunTool(QStringLiteral("wmctrl"), close, m_environment);
+        EXPECT_EQ(done.exitCode, 0) << "wmctrl: " << done.errors.toStdString();
+    }
 
 private:
-    QByteArray Run(const QStringList& arguments) const;
-    std::optional<WindowId> Search(const QString& by, const QString& pattern) const;
+    QByteArray Run(const QString& command, const QStringList& more) const
+    {
+        const auto done = RunTool(kTool, Words(command) + more, m_environment);
+        EXPECT_EQ(done.exitCode, 0) << command << more.join(u' ') << done.errors.toStdString();
+        return done.output.trimmed();
+    }
 
+    const QString kTool = QStringLiteral("xdotool");
     QProcessEnvironment m_environment;
 };
 
