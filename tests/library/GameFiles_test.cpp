@@ -2,15 +2,11 @@
 
 #include "LibraryFixture.h"
 
-#include <QFileInfo>
-
-#include <gmock/gmock.h>
-
 using namespace Qt::StringLiterals;
 using namespace pelorin;
 using library::GameFiles;
 using library::ListGame;
-using testing::ElementsAre;
+using test::Words;
 
 namespace {
 
@@ -24,7 +20,7 @@ protected:
 
 TEST_F(GameFilesTest, FindsTheMetadataFolderInAnyCase)
 {
-    m_root.MakeTree({u"Games/A/DOSBOX/Info.TXT"_s, u"Games/B/DosBox/x"_s, u"Games/B/dosbox/y"_s});
+    m_root.MakeAll(u"Games/A/DOSBOX/Info.TXT Games/B/DosBox/x Games/B/dosbox/y"_s);
     const GameFiles a = List(u"A"_s);
     EXPECT_EQ(a.metaDir, m_root.Path(u"Games/A/DOSBOX"_s));
     EXPECT_TRUE(a.HasMetaFile(u"info.txt"_s));
@@ -33,56 +29,40 @@ TEST_F(GameFilesTest, FindsTheMetadataFolderInAnyCase)
     EXPECT_EQ(List(u"B"_s).metaDir, m_root.Path(u"Games/B/DosBox"_s)) << "the exact one first";
 }
 
-TEST_F(GameFilesTest, AFileOfThatNameIsNoMetadataFolder)
+TEST_F(GameFilesTest, NoMetadataFolderIsMadeOverAFileOrInAGameThatIsGone)
 {
-    m_root.MakeTree({u"Games/A/dosbox"_s});
-    GameFiles files = List(u"A"_s);
-    EXPECT_FALSE(files.meta.exists);
-    const platform::Done made = library::MakeMetaDir(files);
-    ASSERT_FALSE(made);
-    EXPECT_EQ(made.Failure().kind, platform::ErrorKind::Refused);
-    EXPECT_EQ(m_root.Tree(), (QStringList{u"Games/"_s, u"Games/A/"_s, u"Games/A/dosbox"_s}));
-}
-
-TEST_F(GameFilesTest, AMissingFolderIsEmptyAndIsNotMadeAgain)
-{
-    GameFiles files = List(u"gone"_s);
-    EXPECT_FALSE(files.game.exists);
-    EXPECT_FALSE(library::IsGameStored(files));
-    EXPECT_FALSE(library::MakeMetaDir(files));
-    EXPECT_FALSE(m_root.Exists(u"Games/gone"_s));
+    m_root.MakeAll(u"Games/A/dosbox"_s);
+    for (const QString& name : Words(u"A gone"_s)) {
+        GameFiles files = List(name);
+        EXPECT_EQ(files.game.exists, name == u"A"_s);
+        EXPECT_FALSE(files.meta.exists);
+        EXPECT_FALSE(library::IsGameStored(files));
+        EXPECT_FALSE(library::MakeMetaDir(files));
+    }
+    EXPECT_EQ(m_root.TreeText(), u"Games/ Games/A/ Games/A/dosbox"_s);
 }
 
 TEST_F(GameFilesTest, ListsByKindAndName)
 {
-    m_root.MakeTree(
-        {u"Games/A/Zork.EXE"_s,
-         u"Games/A/b.com"_s,
-         u"Games/A/A.bat"_s,
-         u"Games/A/readme.txt"_s,
-         u"Games/A/.hidden.exe"_s,
-         u"Games/A/sub.exe/"_s,
-         u"Games/A/STORE.7Z"_s,
-         u"Games/A/dosbox/ICON.JPG"_s,
-         u"Games/A/dosbox/z.Png"_s,
-         u"Games/A/dosbox/b.jpeg"_s,
-         u"Games/A/dosbox/c.ico"_s,
-         u"Games/A/dosbox/song.VGM"_s,
-         u"Games/A/dosbox/cut.avi"_s,
-         u"Games/A/dosbox/MANUAL/page 2.txt"_s,
-         u"Games/A/dosbox/MANUAL/Page 1.txt"_s});
+    for (const QString& name :
+         Words(u"Zork.EXE b.com A.bat readme.txt .h.exe sub.exe/ STORE.7Z"_s)) {
+        m_root.MakeAll(u"Games/A/"_s + name);
+    }
+    for (const QString& name :
+         Words(u"ICON.JPG z.Png b.jpeg c.ico song.VGM cut.avi MANUAL/2.txt MANUAL/1.txt"_s)) {
+        m_root.MakeAll(u"Games/A/dosbox/"_s + name);
+    }
     const GameFiles files = List(u"A"_s);
-    EXPECT_THAT(library::RunnableFiles(files), ElementsAre(u"A.bat"_s, u"b.com"_s, u"Zork.EXE"_s));
-    EXPECT_THAT(library::Pictures(files), ElementsAre(u"b.jpeg"_s, u"z.Png"_s, u"ICON.JPG"_s))
-        << "the icon last";
-    EXPECT_THAT(library::Recordings(files), ElementsAre(u"cut.avi"_s, u"song.VGM"_s));
-    EXPECT_THAT(library::Manuals(files), ElementsAre(u"Page 1.txt"_s, u"page 2.txt"_s));
+    EXPECT_EQ(library::RunnableFiles(files), Words(u"A.bat b.com Zork.EXE"_s));
+    EXPECT_EQ(library::Pictures(files), Words(u"b.jpeg z.Png ICON.JPG"_s)) << "the icon last";
+    EXPECT_EQ(library::Recordings(files), Words(u"cut.avi song.VGM"_s));
+    EXPECT_EQ(library::Manuals(files), Words(u"1.txt 2.txt"_s));
     EXPECT_TRUE(library::IsGameStored(files));
 }
 
 TEST_F(GameFilesTest, NotedEntriesAreFoundAndForgottenOnesAreNot)
 {
-    m_root.MakeTree({u"Games/A/DosBox/EXTRA.dat"_s, u"Games/A/DosBox/extra.DAT"_s});
+    m_root.MakeAll(u"Games/A/DosBox/EXTRA.dat Games/A/DosBox/extra.DAT"_s);
     GameFiles files = List(u"A"_s);
     files.NoteMetaFile(u"GenreK.dat"_s);
     EXPECT_TRUE(files.HasMetaFile(u"genrek.DAT"_s));
@@ -94,25 +74,17 @@ TEST_F(GameFilesTest, NotedEntriesAreFoundAndForgottenOnesAreNot)
 
 TEST_F(GameFilesTest, WhatLeadsBackToTheGamesIsNoGame)
 {
-    m_root.MakeTree({u"Games/A/"_s, u"Elsewhere/Far/"_s});
+    m_root.MakeAll(u"Games/A/ Elsewhere/Far/"_s);
     m_root.MakeLink(u"Games/self"_s, u"."_s);
     m_root.MakeLink(u"Games/above"_s, u".."_s);
     m_root.MakeLink(u"Games/slash"_s, u"/"_s);
     m_root.MakeLink(u"Games/brother"_s, u"A"_s);
     m_root.MakeLink(u"Games/far"_s, m_root.Path(u"Elsewhere/Far"_s));
-    const std::vector<std::pair<QString, bool>> cases{
-        {u"A"_s, true},
-        {u"brother"_s, true},
-        {u"far"_s, true},
-        {u"self"_s, false},
-        {u"above"_s, false},
-        {u"slash"_s, false},
-        {u"a\\b"_s, false},
-        {u".."_s, false},
-        {u"\uFFFDx"_s, false},
-    };
-    for (const auto& [name, game] : cases) {
-        EXPECT_EQ(library::MayBeGame(m_library.places, name), game) << name.toStdString();
+    for (const QString& name : Words(u"A brother far"_s)) {
+        EXPECT_TRUE(library::MayBeGame(m_library.places, name)) << name;
+    }
+    for (const QString& name : Words(u"self above slash a\\b .. \uFFFDx"_s)) {
+        EXPECT_FALSE(library::MayBeGame(m_library.places, name)) << name;
     }
 }
 

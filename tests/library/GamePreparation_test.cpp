@@ -4,12 +4,15 @@
 #include "Pictures.h"
 #include "library/IconImages.h"
 
+#include <QFile>
+
 #include <gmock/gmock.h>
 
 using namespace Qt::StringLiterals;
 using namespace pelorin;
 using library::GameFiles;
 using library::IconPixels;
+using test::Words;
 
 namespace {
 
@@ -37,59 +40,49 @@ protected:
             << "files tells what was made";
         return icon;
     }
-    QStringList Tree() { return m_root.Tree(u"Games/Folder"_s); }
-    QString StartCommand() { return m_root.ReadText(u"Games/Folder/DosBox/autoexec.conf"_s); }
 
     test::LibraryFolder m_library;
     test::TestFolder& m_root = m_library.root;
     library::Troubles m_troubles;
 };
 
-TEST_F(PreparationTest, ABareFolderBecomesComplete)
+TEST_F(PreparationTest, ABareFolderBecomesCompleteAndNothingIsMadeTwice)
 {
     m_root.MakeFolder(u"Games/Folder"_s);
     EXPECT_EQ(Prepare().bgr, DefaultIcon().bgr);
     EXPECT_EQ(
-        Tree(),
-        (QStringList{
-            u"DosBox/"_s, u"DosBox/CD/"_s, u"DosBox/Manual/"_s, u"DosBox/autoexec.conf"_s}));
-    EXPECT_EQ(StartCommand(), u"\r\n"_s);
+        m_root.TreeText(u"Games/Folder"_s),
+        u"DosBox/ DosBox/CD/ DosBox/Manual/ DosBox/autoexec.conf"_s);
+    EXPECT_EQ(m_root.ReadText(u"Games/Folder/DosBox/autoexec.conf"_s), u"\r\n"_s);
     EXPECT_EQ(m_troubles.count, 0);
-}
 
-TEST_F(PreparationTest, NothingIsMadeASecondTimeInAnotherCase)
-{
-    m_root.MakeTree(
-        {u"Games/Folder/DOSBOX/cd/"_s,
-         u"Games/Folder/DOSBOX/MANUAL/"_s,
-         u"Games/Folder/DOSBOX/AutoExec.CONF"_s});
-    const QStringList before = Tree();
-    Prepare();
-    EXPECT_EQ(Tree(), before);
+    const QString old = u"DOSBOX/ DOSBOX/AutoExec.CONF DOSBOX/MANUAL/ DOSBOX/cd/"_s;
+    for (const QString& name : Words(old)) {
+        m_root.MakeAll(u"Games/Old/"_s + name);
+    }
+    GameFiles files = List(u"Old"_s);
+    Prepare(files);
+    EXPECT_EQ(m_root.TreeText(u"Games/Old"_s), old) << "in another case";
 }
 
 TEST_F(PreparationTest, StartFileByRank)
 {
-    struct Case {
-        QStringList there;
-        QString found;
+    const std::pair<QString, QString> cases[] = {
+        {u"PLAY.BAT"_s, u"play.bat"_s},
+        {u"start.bat game.exe"_s, u"start.bat"_s},
+        {u"GO.EXE folder.EXE play.com"_s, u"go.exe"_s},
+        {u"FOLDER.COM"_s, u"Folder.com"_s},
+        {u"folder.bat play.exe"_s, u"Folder.bat"_s},
+        {u"setup.exe playing.exe game.bat.txt"_s, QString()},
+        {u"game.exe/"_s, QString()}, // a folder
     };
-    const std::vector<Case> cases{
-        {{u"PLAY.BAT"_s}, u"play.bat"_s},
-        {{u"start.bat"_s, u"game.exe"_s}, u"start.bat"_s},
-        {{u"GO.EXE"_s, u"folder.EXE"_s, u"play.com"_s}, u"go.exe"_s},
-        {{u"FOLDER.COM"_s}, u"Folder.com"_s},
-        {{u"folder.bat"_s, u"play.exe"_s}, u"Folder.bat"_s},
-        {{u"setup.exe"_s, u"playing.exe"_s, u"game.bat.txt"_s}, QString()},
-        {{u"game.exe/"_s}, QString()}, // a folder
-    };
-    for (const Case& c : cases) {
+    for (const auto& [there, found] : cases) {
         test::LibraryFolder folder;
-        for (const QString& name : c.there) {
-            folder.root.MakeTree({u"Games/Folder/"_s + name});
+        for (const QString& name : Words(there)) {
+            folder.root.MakeAll(u"Games/Folder/"_s + name);
         }
         const GameFiles files = library::ListGame(folder.places, u"Folder"_s);
-        EXPECT_EQ(library::DetectStartFile(files), c.found) << c.there.join(u' ').toStdString();
+        EXPECT_EQ(library::DetectStartFile(files), found) << there;
     }
 }
 
@@ -103,28 +96,20 @@ TEST_F(PreparationTest, AStartFileThatTheFileCantNameGivesAnEmptyLine)
     EXPECT_EQ(m_troubles.kept[0].kind, platform::ErrorKind::Unencodable);
 }
 
-TEST_F(PreparationTest, TheIconFileIsTakenInAnyCase)
+TEST_F(PreparationTest, TheIconFileIsTakenInAnyCaseOrElseMadeOutOfTheFirstIco)
 {
-    m_root.WriteRaw(
-        u"Games/Folder/DosBox/ICON.jpg"_s,
-        test::PictureFile(test::PictureFormat::Jpeg, 32, 32, {90, 90, 90}));
-    m_root.WriteRaw(u"Games/Folder/DosBox/a.ico"_s, test::IcoFile({test::IcoDib(32, {1, 1, 1})}));
-    m_root.MakeTree({u"Games/Folder/DosBox/SmallIcon.JPG"_s});
-    const IconPixels icon = Prepare();
-    EXPECT_NEAR(static_cast<std::uint8_t>(icon.bgr[300]), 90, 3);
-    EXPECT_FALSE(m_root.Exists(u"Games/Folder/DosBox/Icon.jpg"_s));
-    EXPECT_FALSE(m_root.Exists(u"Games/Folder/DosBox/SmallIcon.JPG"_s));
-}
+    const QString meta = u"Games/Folder/DosBox/"_s;
+    m_root.WriteRaw(meta + u"b.ico"_s, test::IcoFile({test::IcoDib(32, {0, 0, 0})}));
+    m_root.WriteRaw(meta + u"A.ICO"_s, test::IcoFile({test::IcoDib(32, {200, 100, 50})}));
+    m_root.MakeAll(meta + u"SmallIcon.JPG"_s);
+    EXPECT_EQ(Prepare().bgr, library::PlainIcon(32, 50, 100, 200).bgr);
+    EXPECT_TRUE(QFile::remove(m_root.Path(meta + u"Icon.jpg"_s)));
+    EXPECT_TRUE(m_root.Exists(meta + u"A.ICO"_s));
+    EXPECT_FALSE(m_root.Exists(meta + u"SmallIcon.JPG"_s));
 
-TEST_F(PreparationTest, AnIconIsMadeOutOfTheFirstIco)
-{
-    m_root.WriteRaw(u"Games/Folder/DosBox/b.ico"_s, test::IcoFile({test::IcoDib(32, {0, 0, 0})}));
-    m_root.WriteRaw(
-        u"Games/Folder/DosBox/A.ICO"_s, test::IcoFile({test::IcoDib(32, {200, 100, 50})}));
-    const IconPixels icon = Prepare();
-    EXPECT_EQ(icon.bgr, library::PlainIcon(32, 50, 100, 200).bgr);
-    EXPECT_TRUE(m_root.Exists(u"Games/Folder/DosBox/Icon.jpg"_s));
-    EXPECT_TRUE(m_root.Exists(u"Games/Folder/DosBox/A.ICO"_s));
+    m_root.WriteRaw(meta + u"ICON.jpg"_s, test::PictureFile(FIF_JPEG, 32, 32, {90, 90, 90}));
+    EXPECT_NEAR(static_cast<std::uint8_t>(Prepare().bgr[300]), 90, 3);
+    EXPECT_FALSE(m_root.Exists(meta + u"Icon.jpg"_s));
 }
 
 TEST_F(PreparationTest, BrokenPicturesGiveTheDefaultIconAndNoFile)

@@ -9,11 +9,15 @@ using namespace Qt::StringLiterals;
 using namespace pelorin;
 using library::IconPixels;
 using test::Colour;
-using test::PictureFormat;
 
 namespace {
 
 constexpr Colour kRed{255, 0, 0};
+
+QByteArray Png(int side, Colour colour)
+{
+    return test::PictureFile(FIF_PNG, side, side, colour);
+}
 
 /// The colour in the middle, each part within what JPEG loses.
 void ExpectColour(const IconPixels& icon, Colour colour)
@@ -41,12 +45,11 @@ protected:
 
 TEST_F(IconImagesTest, LoadsAnyFormatAndSize)
 {
-    for (const PictureFormat format :
-         {PictureFormat::Jpeg, PictureFormat::Png, PictureFormat::Bmp}) {
+    for (const FREE_IMAGE_FORMAT format : {FIF_JPEG, FIF_PNG, FIF_BMP}) {
         for (const auto& [width, height] : {std::pair(32, 32), {16, 16}, {300, 40}, {1, 1}}) {
             const auto icon =
                 library::LoadIcon(File(test::PictureFile(format, width, height, {10, 200, 90})));
-            ASSERT_TRUE(icon) << static_cast<int>(format) << ' ' << width;
+            ASSERT_TRUE(icon) << format << ' ' << width;
             ExpectColour(icon.Value(), {10, 200, 90});
         }
     }
@@ -54,8 +57,7 @@ TEST_F(IconImagesTest, LoadsAnyFormatAndSize)
 
 TEST_F(IconImagesTest, TransparencyIsDrawnOnWhite)
 {
-    const auto half =
-        library::LoadIcon(File(test::PictureFile(PictureFormat::Png, 32, 32, {0, 0, 0, 128})));
+    const auto half = library::LoadIcon(File(Png(32, {0, 0, 0, 128})));
     ASSERT_TRUE(half);
     ExpectColour(half.Value(), {127, 127, 127});
     const auto ico = library::LoadIco(File(test::IcoFile({test::IcoDib(32, {9, 9, 9, 0})})));
@@ -66,19 +68,15 @@ TEST_F(IconImagesTest, TransparencyIsDrawnOnWhite)
 TEST_F(IconImagesTest, OfAnIcoTheOneThatSuits)
 {
     const Colour other{0, 0, 255};
-    struct Case {
-        std::vector<test::IcoPicture> pictures;
-        const char* what;
-    };
-    const std::vector<Case> cases{
+    const std::pair<std::vector<test::IcoPicture>, const char*> cases[] = {
         {{test::IcoDib(16, other), test::IcoDib(32, kRed), test::IcoDib(48, other)}, "its size"},
-        {{test::IcoDib(16, other), test::IcoPng(64, kRed), test::IcoPng(128, other)}, "larger"},
+        {{test::IcoDib(16, other), {Png(64, kRed), 64}, {Png(128, other), 128}}, "larger"},
         {{test::IcoDib(8, other), test::IcoDib(24, kRed)}, "largest of the small"},
         {{{QByteArray("junk"), 32}, test::IcoDib(16, kRed)}, "a damaged one is passed over"},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        const auto icon = library::LoadIco(File(test::IcoFile(c.pictures)));
+    for (const auto& [pictures, what] : cases) {
+        SCOPED_TRACE(what);
+        const auto icon = library::LoadIco(File(test::IcoFile(pictures)));
         ASSERT_TRUE(icon);
         ExpectColour(icon.Value(), kRed);
     }
@@ -86,7 +84,7 @@ TEST_F(IconImagesTest, OfAnIcoTheOneThatSuits)
 
 TEST_F(IconImagesTest, WhatIsNoPictureIsAnError)
 {
-    const QByteArray jpeg = test::PictureFile(PictureFormat::Jpeg, 32, 32, kRed);
+    const QByteArray jpeg = test::PictureFile(FIF_JPEG, 32, 32, kRed);
     const QByteArray ico = test::IcoFile({test::IcoDib(32, kRed)});
     for (const QByteArray& bytes :
          {QByteArray(), QByteArray("text"), jpeg.left(30), QByteArray(500, '\xff')}) {
@@ -103,13 +101,13 @@ TEST_F(IconImagesTest, WhatIsNoPictureIsAnError)
 
 TEST_F(IconImagesTest, APictureThatClaimsToBeHugeIsNotUnpacked)
 {
-    QByteArray png = test::PictureFile(PictureFormat::Png, 32, 32, kRed);
+    QByteArray png = Png(32, kRed);
     qToBigEndian<quint32>(60000, png.data() + 16);
     qToBigEndian<quint32>(60000, png.data() + 20);
     EXPECT_FALSE(library::LoadIcon(File(png)));
     EXPECT_FALSE(library::LoadIco(File(test::IcoFile({{png, 32}}))));
 
-    QByteArray bmp = test::PictureFile(PictureFormat::Bmp, 32, 32, kRed);
+    QByteArray bmp = test::PictureFile(FIF_BMP, 32, 32, kRed);
     qToLittleEndian<qint32>(200000, bmp.data() + 18);
     qToLittleEndian<qint32>(200000, bmp.data() + 22);
     EXPECT_FALSE(library::LoadIcon(File(bmp)));

@@ -2,8 +2,6 @@
 
 #include <QtEndian>
 
-#include <FreeImage.h>
-
 namespace pelorin::test {
 
 namespace {
@@ -18,41 +16,29 @@ void Put(QByteArray& bytes, Number value)
 
 } // namespace
 
-QByteArray PictureFile(PictureFormat format, int width, int height, Colour colour)
+QByteArray FileOf(FIBITMAP* bitmap, FREE_IMAGE_FORMAT format, int flags)
 {
-    FIBITMAP* bitmap = FreeImage_Allocate(width, height, 32);
-    for (int y = 0; y < height; ++y) {
-        BYTE* line = FreeImage_GetScanLine(bitmap, y);
-        for (int x = 0; x < width; ++x, line += 4) {
-            line[FI_RGBA_RED] = colour.red;
-            line[FI_RGBA_GREEN] = colour.green;
-            line[FI_RGBA_BLUE] = colour.blue;
-            line[FI_RGBA_ALPHA] = colour.alpha;
-        }
-    }
-    FREE_IMAGE_FORMAT kind = FIF_PNG;
-    FIBITMAP* shown = nullptr;
-    switch (format) {
-    case PictureFormat::Png: shown = FreeImage_Clone(bitmap); break;
-    case PictureFormat::Jpeg:
-        kind = FIF_JPEG;
-        shown = FreeImage_ConvertTo24Bits(bitmap);
-        break;
-    case PictureFormat::Bmp:
-        kind = FIF_BMP;
-        shown = FreeImage_ConvertTo24Bits(bitmap);
-        break;
-    }
     FIMEMORY* memory = FreeImage_OpenMemory(nullptr, 0);
-    FreeImage_SaveToMemory(kind, shown, memory, kind == FIF_JPEG ? JPEG_QUALITYSUPERB : 0);
+    FreeImage_SaveToMemory(format, bitmap, memory, flags);
     BYTE* data = nullptr;
     DWORD size = 0;
     FreeImage_AcquireMemory(memory, &data, &size);
     QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
     FreeImage_CloseMemory(memory);
-    FreeImage_Unload(shown);
     FreeImage_Unload(bitmap);
     return bytes;
+}
+
+QByteArray PictureFile(FREE_IMAGE_FORMAT format, int width, int height, Colour colour)
+{
+    const bool png = format == FIF_PNG; // the only one of them that is transparent
+    FIBITMAP* bitmap = FreeImage_Allocate(width, height, png ? 32 : 24);
+    RGBQUAD pixel{colour.blue, colour.green, colour.red, colour.alpha};
+    for (int i = 0; i < width * height; ++i) {
+        FreeImage_SetPixelColor(
+            bitmap, static_cast<unsigned>(i % width), static_cast<unsigned>(i / width), &pixel);
+    }
+    return FileOf(bitmap, format, format == FIF_JPEG ? JPEG_QUALITYSUPERB : 0);
 }
 
 IcoPicture IcoDib(int side, Colour colour)
@@ -70,11 +56,6 @@ IcoPicture IcoDib(int side, Colour colour)
     }
     data.append(qsizetype{4} * ((side + 31) / 32) * side, '\0'); // mask
     return {data, side};
-}
-
-IcoPicture IcoPng(int side, Colour colour)
-{
-    return {PictureFile(PictureFormat::Png, side, side, colour), side};
 }
 
 QByteArray IcoFile(const std::vector<IcoPicture>& pictures)

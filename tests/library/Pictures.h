@@ -2,8 +2,9 @@
 
 #include <QByteArray>
 
+#include <FreeImage.h>
+
 #include <cstdint>
-#include <utility>
 #include <vector>
 
 namespace pelorin::test {
@@ -15,10 +16,11 @@ struct Colour {
     std::uint8_t alpha = 255;
 };
 
-enum class PictureFormat { Jpeg, Png, Bmp };
+/// What FreeImage writes for a bitmap, which goes with the call.
+QByteArray FileOf(FIBITMAP* bitmap, FREE_IMAGE_FORMAT format, int flags = 0);
 
-/// A picture file of one colour, made by FreeImage.
-QByteArray PictureFile(PictureFormat format, int width, int height, Colour colour);
+/// A picture file of one colour: FIF_PNG, FIF_JPEG or FIF_BMP.
+QByteArray PictureFile(FREE_IMAGE_FORMAT format, int width, int height, Colour colour);
 
 struct IcoPicture {
     QByteArray data;
@@ -27,7 +29,6 @@ struct IcoPicture {
 
 /// A DIB with an empty mask, as .ico files hold them.
 IcoPicture IcoDib(int side, Colour colour);
-IcoPicture IcoPng(int side, Colour colour);
 QByteArray IcoFile(const std::vector<IcoPicture>& pictures);
 
 } // namespace pelorin::test

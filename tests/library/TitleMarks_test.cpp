@@ -14,30 +14,24 @@ namespace {
 TEST(TitleMarks, InOrderAndMerged)
 {
     const shell::LangTable lang = test::TestLang();
-    struct Case {
-        MarkFacts facts;
-        QString title;
-    };
-    const std::vector<Case> cases{
+    const std::pair<MarkFacts, QString> cases[] = {
         {{}, u"Name"_s},
         {{true, false, 8, false}, u"Name [CD]"_s}, // no build mark without own options
         {{false, true, 0, false}, u"Name [편집]"_s},
         {{true, true, 0, false}, u"Name [CD, 편집]"_s},
         {{true, true, 8, true}, u"Name [CD, 편집, Windows] [압축]"_s},
-        {{false, true, 9, false}, u"Name [편집, Win31KOR]"_s},
-        {{false, true, 10, false}, u"Name [편집, Win31ENG]"_s},
-        {{false, true, 11, false}, u"Name [편집]"_s},
-        {{false, true, 12, false}, u"Name [편집, Win98]"_s},
-        {{false, true, 13, false}, u"Name [편집, ANEX86]"_s},
-        {{false, true, 14, false}, u"Name [편집, SNES9X]"_s},
-        {{false, true, 15, false}, u"Name [편집, FUSION]"_s},
-        {{false, true, 16, false}, u"Name [편집, NP21]"_s},
-        {{false, true, 17, false}, u"Name [편집, 0.74_3DFX]"_s},
-        {{false, true, 18, false}, u"Name [편집]"_s},
         {{false, false, 0, true}, u"Name [압축]"_s},
     };
-    for (const Case& c : cases) {
-        EXPECT_EQ(MarkedTitle(u"Name"_s, c.facts, lang), c.title);
+    for (const auto& [facts, title] : cases) {
+        EXPECT_EQ(MarkedTitle(u"Name"_s, facts, lang), title);
+    }
+    const QStringList builds = test::Words(u"Win31KOR Win31ENG - Win98 ANEX86 SNES9X FUSION NP21 "
+                                           "0.74_3DFX -"_s);
+    for (int build = 9; build < 19; ++build) {
+        const QString mark = builds[build - 9];
+        EXPECT_EQ(
+            MarkedTitle(u"Name"_s, {false, true, static_cast<std::int16_t>(build), false}, lang),
+            mark == u"-"_s ? u"Name [편집]"_s : u"Name [편집, %1]"_s.arg(mark));
     }
     EXPECT_EQ(MarkedTitle(u"A [x] [y]"_s, {true, false, 0, false}, lang), u"A [x, y, CD]"_s)
         << "brackets of the title's own merge too";
