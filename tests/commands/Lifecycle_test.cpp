@@ -12,6 +12,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace pelorin;
+using test::Holds;
 using test::Installation;
 
 TEST(Lifecycle, FirstStartMakesWhatIsMissingAndShowsTheFirstGame)
@@ -30,8 +31,8 @@ TEST(Lifecycle, FirstStartMakesWhatIsMissingAndShowsTheFirstGame)
     EXPECT_TRUE(launcher->flags.BusyReady);
     EXPECT_TRUE(launcher->screens.frame.picBack0Enabled);
     EXPECT_FALSE(launcher->screens.progress.visible);
-    for (const QString& made : {u"Launcher.cfg"_s, u"Default.conf"_s, u"Export"_s, u"preset"_s}) {
-        EXPECT_TRUE(app.folder.Exists(made)) << made.toStdString();
+    for (const QString& made : test::Words(u"Launcher.cfg Default.conf Export preset"_s)) {
+        EXPECT_TRUE(app.folder.Exists(made)) << made;
     }
     EXPECT_TRUE(app.folder.Exists(u"Games/별 헤는 밤 (Star) [1]/DOSBOX/autoexec.conf"_s));
     EXPECT_FALSE(app.folder.Exists(u"Games/별 헤는 밤 (Star) [1]/DosBox"_s));
@@ -41,34 +42,30 @@ TEST(Lifecycle, FirstStartMakesWhatIsMissingAndShowsTheFirstGame)
 TEST(Lifecycle, TheLanguageFileDecidesWordsMarksAndOrder)
 {
     struct Row {
-        const char16_t* language;
-        const char16_t* title;
-        const char16_t* first;
-        const char16_t* marked;
-        const char16_t* count;
+        QString language;
+        QString title;
+        QString first;
+        QString marked;
+        QString count;
     };
+    const QString korean = u"[펠로린 Ver.16.10.01.03] by 베스프라"_s;
+    const QString english = u"[Pelorin Ver.16.10.01.03] by mirel55"_s;
     const Row rows[] = {
-        {u"ko",
-         u"[펠로린 Ver.16.10.01.03] by 베스프라",
-         u"가나다",
-         u"가나다 [편집]",
-         u"전체 게임 수 : 2 / 2"},
-        {u"en", u"[Pelorin Ver.16.10.01.03] by mirel55", u"Zebra", u"가나다 [Ed]", u"Games: 2 / 2"},
+        {u"ko"_s, korean, u"가나다"_s, u"가나다 [편집]"_s, u"전체 게임 수 : 2 / 2"_s},
+        {u"en"_s, english, u"Zebra"_s, u"가나다 [Ed]"_s, u"Games: 2 / 2"_s},
     };
     for (const Row& row : rows) {
-        Installation app(QString::fromUtf16(row.language));
+        Installation app(row.language);
         app.AddGame(u"가나다"_s);
         app.AddGame(u"Zebra"_s);
         app.folder.WriteRaw(u"Games/가나다/DosBox/edit.conf"_s, QByteArray());
         const auto launcher = app.Start();
-        EXPECT_EQ(launcher->WindowTitle, QString::fromUtf16(row.title));
-        EXPECT_EQ(launcher->current.CurrentFolder, QString::fromUtf16(row.first));
-        EXPECT_EQ(launcher->screens.status.count, QString::fromUtf16(row.count));
-        const int marked = launcher->screens.list.RowOf(u"가나다"_s);
-        ASSERT_GE(marked, 0);
-        EXPECT_EQ(
-            launcher->screens.list.items.at(static_cast<std::size_t>(marked)).text[0],
-            QString::fromUtf16(row.marked));
+        EXPECT_EQ(launcher->WindowTitle, row.title);
+        EXPECT_EQ(launcher->current.CurrentFolder, row.first);
+        EXPECT_EQ(launcher->screens.status.count, row.count);
+        const finding::GameList& list = launcher->screens.list;
+        const auto marked = static_cast<std::size_t>(list.RowOf(u"가나다"_s));
+        EXPECT_EQ(list.items.at(marked).text[0], row.marked);
     }
 }
 
@@ -96,13 +93,6 @@ TEST(Lifecycle, WhatOneRunSavesTheNextOneReadsWithoutOpeningAGame)
     ASSERT_TRUE(shell::Form_Unload(*second));
     EXPECT_EQ(app.folder.ReadRaw(u"Gamelist.lst"_s), changed);
     EXPECT_EQ(app.folder.ReadRaw(u"IconList.bmp"_s), sheet);
-
-    // A damaged cache heals by a scan.
-    app.folder.WriteRaw(u"Gamelist.lst"_s, "damaged\r\n");
-    const auto third = app.Start();
-    ASSERT_EQ(third->catalogue.size(), 2U);
-    ASSERT_TRUE(shell::Form_Unload(*third));
-    EXPECT_EQ(app.folder.ReadRaw(u"Gamelist.lst"_s), list);
 }
 
 TEST(Lifecycle, NoCacheIsReadUnderAnotherRootThanItsOwn)
@@ -203,7 +193,7 @@ TEST(Lifecycle, ClosingIsRefusedDuringAJobAndAsksWhenSavingFails)
     app.fakes.prompts.WillAnswer(platform::Answer::No);
     EXPECT_FALSE(shell::Form_Unload(*launcher));
     ASSERT_EQ(app.fakes.prompts.Asked().size(), 1U);
-    EXPECT_TRUE(app.fakes.prompts.Asked().front().text.contains(u"Launcher.cfg"_s));
+    EXPECT_PRED2(Holds, app.fakes.prompts.Asked().front().text, u"Launcher.cfg"_s);
     EXPECT_FALSE(launcher->flags.Ending);
     app.fakes.prompts.WillAnswer(platform::Answer::Yes);
     EXPECT_TRUE(shell::Form_Unload(*launcher));

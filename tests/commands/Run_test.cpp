@@ -1,5 +1,4 @@
 #include "library/ShowinfoCommands.h"
-#include "running/DosboxLaunch.h"
 #include "running/RunCommands.h"
 #include "shell/JobCommands.h"
 #include "support/Installation.h"
@@ -12,7 +11,9 @@
 using namespace Qt::StringLiterals;
 using namespace pelorin;
 using test::Click;
+using test::Holds;
 using test::Installation;
+using test::Words;
 
 namespace {
 
@@ -45,19 +46,17 @@ TEST(Run, StartsTheSelectedGameWithItsConf)
     ASSERT_EQ(app.fakes.processes.Starts().size(), 1U);
     const platform::ProcessRequest& request = app.fakes.processes.Starts().front().request;
     EXPECT_EQ(request.program, app.folder.Path(u"DOSBox/0.74_SVN/dosbox"_s));
-    EXPECT_EQ(
-        request.arguments,
-        (QStringList{u"-nolog"_s, u"-disable_numlock_check"_s, u"-noconsole"_s}));
+    EXPECT_EQ(request.arguments, Words(u"-nolog -disable_numlock_check -noconsole"_s));
     EXPECT_EQ(request.workingFolder, app.folder.Path(u"DOSBox/0.74_SVN"_s));
 
-    const QByteArray conf = app.folder.ReadRaw(u"DOSBox/0.74_SVN/dosbox.conf"_s);
+    const QString conf = QString::fromUtf8(app.folder.ReadRaw(u"DOSBox/0.74_SVN/dosbox.conf"_s));
     const QString gameDir = app.folder.Path(u"Games/"_s + game);
-    for (const QByteArray& line :
-         {"\r\nMount c \"" + gameDir.toUtf8() + "\"\r\n",
-          "\r\ncaptures=" + gameDir.toUtf8() + "/DOSBOX\r\n",
-          QByteArray("\r\nMount x ../../Dos/Util\r\n"),
-          QByteArray("\r\nc:\r\ngame.com\r\n")}) {
-        EXPECT_TRUE(conf.contains(line)) << line.constData();
+    for (const QString& line :
+         {u"\r\nMount c \"%1\"\r\n"_s,
+          u"\r\ncaptures=%1/DOSBOX\r\n"_s,
+          u"\r\nMount x ../../Dos/Util\r\n"_s,
+          u"\r\nc:\r\ngame.com\r\n"_s}) {
+        EXPECT_PRED2(Holds, conf, QString(line).replace(u"%1"_s, gameDir));
     }
     EXPECT_TRUE(launcher->screens.status.notes.empty());
     EXPECT_EQ(launcher->recent.RecentFolders[0], game);
@@ -133,101 +132,56 @@ TEST(Run, SettingsOfAnOlderLayoutNameTheirBuildAtTheFirstStart)
 TEST(Run, TellsWhyNothingStarts)
 {
     struct Row {
-        const char* name = nullptr;
-        void (*spoil)(Installation&, shell::Launcher&) = nullptr;
-        QStringList values; // the told text holds the first one ...
-        int entry = 0;      // ... or, unless 0, is this text of the language file with all of them
-        bool asked = false; // the system was asked for the start
-        bool written = false; // dosbox.conf is, and the game has entered the recent list
+        QString removed; // a file or folder
+        QString made;
+        QString build;      // the game's own
+        int entry;          // what is told, with these values, the first one below AppDir ...
+        QStringList values; // ... where it is a path
+        bool written;       // dosbox.conf is, and the game has entered the recent list
     };
+    const QString svn = u"DOSBox/0.74_SVN"_s;
+    const QString game = u"Games/하나"_s;
     const Row rows[] = {
-        {"no emulator",
-         [](Installation& app, shell::Launcher&) {
-             QFile::remove(app.folder.Path(u"DOSBox/0.74_SVN/dosbox"_s));
-         },
-         {u"DOSBox/0.74_SVN/dosbox.exe"_s, u"dosbox"_s},
-         396,
-         false,
-         true},
-        {"no folder of the build",
-         [](Installation& app, shell::Launcher&) {
-             QDir(app.folder.Path(u"DOSBox/0.74_SVN"_s)).removeRecursively();
-         },
-         {u"DOSBox/0.74_SVN"_s},
-         395,
-         false,
-         false},
-        {"the system refuses",
-         [](Installation& app, shell::Launcher&) {
-             app.fakes.processes.RefuseNext(platform::ErrorKind::Refused, u"no memory"_s);
-         },
-         {u"no memory"_s},
-         0,
-         true,
-         true},
-        {"folder gone",
-         [](Installation& app, shell::Launcher&) {
-             QDir(app.folder.Path(u"Games/하나"_s)).removeRecursively();
-         },
-         {u"하나"_s},
-         342,
-         false,
-         false},
-        {"packed",
-         [](Installation& app, shell::Launcher&) {
-             app.folder.MakeTree({u"Games/하나/store.7z"_s});
-         },
-         {u"하나"_s},
-         343,
-         false,
-         false},
-        {"build off the list",
-         [](Installation& app, shell::Launcher&) {
-             app.folder.WriteLines(u"Games/하나/DosBox/edit.conf"_s, {u"ver.15.02.01"_s, u"77"_s});
-         },
-         {u"하나"_s},
-         344,
-         false,
-         false},
-        {"another emulator",
-         [](Installation& app, shell::Launcher&) {
-             app.folder.WriteLines(u"Games/하나/DosBox/edit.conf"_s, {u"ver.15.02.01"_s, u"14"_s});
-         },
-         {u"하나"_s, u"SNES9X"_s},
-         345,
-         false,
-         false},
-        {"too many commands",
-         [](Installation&, shell::Launcher& launcher) {
-             launcher.screens.start.lstAutoexec = QStringList(400, u"rem a long line"_s);
-         },
-         {QString::number(running::kAutoexecBytes)},
-         0,
-         false,
-         false},
+        {svn + u"/dosbox"_s, {}, {}, 396, {svn + u"/dosbox.exe"_s, u"dosbox"_s}, true},
+        {svn, {}, {}, 395, {svn}, false},
+        {game, {}, {}, 342, {u"하나"_s}, false},
+        {{}, game + u"/store.7z"_s, {}, 343, {u"하나"_s}, false},
+        {{}, {}, u"77"_s, 344, {u"하나"_s}, false}, // off the list
+        {{}, {}, u"14"_s, 345, {u"하나"_s, u"SNES9X"_s}, false},
     };
     for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+        SCOPED_TRACE(row.entry);
         Installation app;
         app.AddGame(u"하나"_s);
         const auto launcher = app.Start();
-        row.spoil(app, *launcher);
-        running::RunGame(*launcher);
-        const QString told = LastNote(*launcher);
-        if (row.entry != 0) {
-            QStringList values = row.values;
-            if (values.first().startsWith(u"DOSBox/")) {
-                values.first() = app.folder.Path(values.first());
-            }
-            EXPECT_EQ(told, launcher->lang.Text(row.entry, values));
-        } else {
-            EXPECT_TRUE(told.contains(row.values.first())) << told.toStdString();
+        if (!row.removed.isEmpty()) {
+            const QString path = app.folder.Path(row.removed);
+            EXPECT_TRUE(QFile::remove(path) || QDir(path).removeRecursively());
         }
-        EXPECT_EQ(app.fakes.processes.Starts().size(), row.asked ? 1U : 0U);
-        EXPECT_EQ(app.folder.Exists(u"DOSBox/0.74_SVN/dosbox.conf"_s), row.written);
+        if (!row.made.isEmpty()) {
+            app.folder.MakeTree({row.made});
+        }
+        if (!row.build.isEmpty()) {
+            app.folder.WriteLines(game + u"/DosBox/edit.conf"_s, {u"ver.15.02.01"_s, row.build});
+        }
+        running::RunGame(*launcher);
+        QStringList values = row.values;
+        if (values.first().startsWith(svn)) {
+            values.first() = app.folder.Path(values.first());
+        }
+        EXPECT_EQ(LastNote(*launcher), launcher->lang.Text(row.entry, values));
+        EXPECT_TRUE(app.fakes.processes.Starts().empty());
+        EXPECT_EQ(app.folder.Exists(svn + u"/dosbox.conf"_s), row.written);
         EXPECT_EQ(launcher->recent.RecentFolders[0], row.written ? u"하나"_s : QString());
         EXPECT_TRUE(app.fakes.prompts.Asked().empty());
     }
+    Installation app;
+    app.AddGame(u"하나"_s);
+    const auto launcher = app.Start();
+    app.fakes.processes.RefuseNext(platform::ErrorKind::Refused, u"no memory"_s);
+    running::RunGame(*launcher);
+    EXPECT_PRED2(Holds, LastNote(*launcher), u"no memory"_s);
+    EXPECT_EQ(launcher->recent.RecentFolders[0], u"하나"_s);
 }
 
 TEST(Run, AnEmulatorThatEndsAtOnceTellsItsWholeStory)
@@ -244,11 +198,8 @@ TEST(Run, AnEmulatorThatEndsAtOnceTellsItsWholeStory)
     ASSERT_EQ(launcher->screens.status.notes.size(), 1U);
     const QString& story = launcher->screens.status.notes.front().story;
     for (const QString& part :
-         {u"-disable_numlock_check"_s,
-          app.folder.Path(u"DOSBox/0.74_SVN"_s),
-          u"Can't open display"_s,
-          u"[autoexec]"_s}) {
-        EXPECT_TRUE(story.contains(part)) << part.toStdString();
+         Words(u"-disable_numlock_check DOSBox/0.74_SVN display [autoexec]"_s)) {
+        EXPECT_PRED2(Holds, story, part);
     }
 }
 

@@ -38,7 +38,7 @@ TEST_F(ConfFaults, DefaultConfCut)
     StandardError errors;
     const auto launcher = m_app.Start();
     const QString told = launcher->lang.Text(402, {m_app.folder.Path(u"Default.conf"_s)});
-    EXPECT_TRUE(Notes(*launcher).contains(told)) << Notes(*launcher).toStdString();
+    EXPECT_PRED2(Holds, Notes(*launcher), told);
     EXPECT_TRUE(errors.Text().contains(told.toUtf8()));
     running::RunGame(*launcher);
     EXPECT_EQ(m_app.fakes.processes.Starts().size(), 1U) << "with factory values";
@@ -58,8 +58,7 @@ TEST_F(ConfFaults, EditConfShort)
     const auto launcher = m_app.Start();
     running::RunGame(*launcher);
     EXPECT_EQ(m_app.fakes.processes.Starts().size(), 1U);
-    EXPECT_TRUE(Notes(*launcher).contains(launcher->lang.Text(403, {m_app.folder.Path(kEditConf)})))
-        << Notes(*launcher).toStdString();
+    EXPECT_PRED2(Holds, Notes(*launcher), launcher->lang.Text(403, {m_app.folder.Path(kEditConf)}));
     EXPECT_EQ(Raw(kEditConf), cut);
 
     ASSERT_TRUE(dosboxconf::SaveGameConf(launcher->places, u"별"_s, launcher->options));

@@ -41,8 +41,7 @@ protected:
         EXPECT_FALSE(shell::Form_Unload(launcher));
         ASSERT_EQ(Prompts().Asked().size(), 1U);
         for (const QString& file : named) {
-            EXPECT_TRUE(Prompts().Asked().front().text.contains(Folder().Path(file)))
-                << Prompts().Asked().front().text.toStdString();
+            EXPECT_PRED2(Holds, Prompts().Asked().front().text, Folder().Path(file));
         }
         EXPECT_FALSE(launcher.flags.Ending);
         EXPECT_TRUE(launcher.flags.BusyReady);
@@ -81,14 +80,13 @@ TEST_F(DiskFaults, ReadOnlyAtTheFirstStart)
     EXPECT_EQ(Files(), before);
     EXPECT_EQ(launcher->screens.list.items.size(), 1U) << "in the list by its name";
     for (const QString& file : {u"Launcher.cfg"_s, u"recent.sav"_s, u"Default.conf"_s}) {
-        EXPECT_TRUE(Notes(*launcher).contains(Folder().Path(file)))
-            << Notes(*launcher).toStdString();
+        EXPECT_PRED2(Holds, Notes(*launcher), Folder().Path(file));
     }
     EXPECT_TRUE(Prompts().Asked().empty());
     // The same for a game that is told to start: dosbox.conf can't be written.
     launcher->screens.start.lstAutoexec = {u"game.com"_s};
     running::RunGame(*launcher);
-    EXPECT_TRUE(Notes(*launcher).contains(u"dosbox.conf"_s));
+    EXPECT_PRED2(Holds, Notes(*launcher), u"dosbox.conf"_s);
     EXPECT_TRUE(m_app->fakes.processes.Starts().empty());
     ExpectBoxAtExit(*launcher, {u"Launcher.cfg"_s});
     m_disk.MakeReadOnly(false);
@@ -140,8 +138,7 @@ TEST_F(DiskFaults, FullWhilePreparing)
     m_disk.Fill();
     library::cmdRefresh_Click(*launcher);
     EXPECT_EQ(launcher->screens.list.items.size(), 3U);
-    EXPECT_TRUE(Notes(*launcher).contains(launcher->lang.Text(351, {u"6"_s})))
-        << Notes(*launcher).toStdString();
+    EXPECT_PRED2(Holds, Notes(*launcher), launcher->lang.Text(351, {u"6"_s}));
     EXPECT_TRUE(Prompts().Asked().empty());
     const auto files = Files();
     for (const QString& name : {u"autoexec.conf"_s, u"GenreK.dat"_s, u"GenreE.dat"_s}) {
@@ -163,9 +160,9 @@ TEST_F(DiskFaults, FullWhileStartingAndSavingStartCommands)
     const auto before = Files();
     running::RunGame(*launcher);
     EXPECT_EQ(m_app->fakes.processes.Starts().size(), 1U);
-    EXPECT_TRUE(Notes(*launcher).contains(Folder().Path(u"DOSBox/0.74_SVN/dosbox.conf"_s)));
+    EXPECT_PRED2(Holds, Notes(*launcher), Folder().Path(u"DOSBox/0.74_SVN/dosbox.conf"_s));
     dosboxconf::WriteAutoexecConf(*launcher);
-    EXPECT_TRUE(Notes(*launcher).contains(Folder().Path(u"Games/별/DosBox/autoexec.conf"_s)));
+    EXPECT_PRED2(Holds, Notes(*launcher), Folder().Path(u"Games/별/DosBox/autoexec.conf"_s));
     EXPECT_EQ(Files(), before);
     EXPECT_TRUE(Prompts().Asked().empty());
 }
@@ -180,7 +177,7 @@ TEST_F(DiskFaults, FullWhenDamagedSettingsAreToBeReplaced)
     EXPECT_EQ(launcher->screens.list.items.size(), 1U);
     EXPECT_EQ(Folder().ReadRaw(u"Launcher.cfg"_s), damaged);
     EXPECT_FALSE(Folder().Exists(u"Launcher.cfg.bak"_s));
-    EXPECT_TRUE(Notes(*launcher).contains(u"Launcher.cfg.bak"_s));
+    EXPECT_PRED2(Holds, Notes(*launcher), u"Launcher.cfg.bak"_s);
     ExpectBoxAtExit(*launcher, {u"Launcher.cfg.bak"_s});
     EXPECT_EQ(Folder().ReadRaw(u"Launcher.cfg"_s), damaged);
     // What could not be kept at the start is kept before it is written over.

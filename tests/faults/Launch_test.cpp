@@ -29,7 +29,7 @@ void ExpectNoStart(Installation& app, shell::Launcher& launcher, const QString& 
     EXPECT_EQ(FilesOf(app.folder), before);
     ASSERT_FALSE(launcher.screens.status.notes.empty());
     const QString note = launcher.screens.status.notes.back().text;
-    EXPECT_TRUE(note.contains(told)) << note.toStdString();
+    EXPECT_PRED2(Holds, note, told);
     EXPECT_TRUE(launcher.recent.RecentFolders[0].isEmpty());
 }
 

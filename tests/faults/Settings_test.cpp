@@ -15,22 +15,9 @@ namespace {
 QStringList UsersSettings(const Installation& app)
 {
     const QString games = app.folder.Path(u"내 게임"_s);
-    const QString widths = QStringList(8, u"100"_s).join(u'\u0001');
-    return {
-        u"3"_s,
-        u"150"_s,
-        u"300"_s,
-        u"15000,9000"_s,
-        u"0"_s,
-        games,
-        games,
-        u"0"_s,
-        u"10"_s,
-        u"20"_s,
-        u"1"_s,
-        u"2"_s,
-        widths,
-        u"1"_s};
+    const QString lines =
+        u"3|150|300|15000,9000|0|%1|%1|0|10|20|1|2|100#100#100#100#100#100#100#100|1"_s.arg(games);
+    return QString(lines).replace(u'#', u'\u0001').split(u'|');
 }
 
 /// An installation that has been used: nothing is missing, and there is a game in the user's root.
@@ -71,8 +58,8 @@ TEST_F(SettingsFaults, LauncherCfgDamaged)
         StandardError errors;
         const auto launcher = m_app.Start();
         const QString told = m_app.folder.Path(u"Launcher.cfg"_s) + u": "_s + row.line;
-        EXPECT_TRUE(Notes(*launcher).contains(told)) << Notes(*launcher).toStdString();
-        EXPECT_TRUE(Notes(*launcher).contains(u"Launcher.cfg.bak"_s));
+        EXPECT_PRED2(Holds, Notes(*launcher), told);
+        EXPECT_PRED2(Holds, Notes(*launcher), u"Launcher.cfg.bak"_s);
         EXPECT_TRUE(errors.Text().contains(told.toUtf8()));
         EXPECT_EQ(Backup(), damaged);
         EXPECT_EQ(launcher->places.gamesRoot, m_app.folder.Path(u"Games"_s));
