@@ -1,20 +1,15 @@
 #!/usr/bin/env python3
 """Runs the DOS tools of every start in the real DOSBox, and types through the shipped key map.
 
-    dos_tools_test.py <folder Dos of an installation> [--mapper FILE]
+    dos_tools_test.py <folder Dos of an installation>
 
 DIAGNOSE and MIXERSET run at each start of a game, so with their switches they must print nothing,
 whatever they find; the errorlevel tells what it was.
 """
 
-import argparse
-import pathlib
-import tempfile
 import time
 
-from real_dosbox import REPOSITORY, Dosbox, Screen, wait_until
-
-MAPPER = REPOSITORY / "mapper/mapper_default.txt"
+from real_dosbox import MAPPER, Dosbox, Screen, note_level, run_in_temporary_folder, wait_until
 
 # DOSBox sets BLASTER=A220 I7 D1 H5 T6 by itself. Each case: that variable from here on (None: as it
 # is), command, errorlevel, what must be printed; an empty text: nothing may be.
@@ -56,12 +51,7 @@ def batch():
         if blaster is not None:
             lines.append(f"SET BLASTER={blaster}")
         lines.append(f"X:\\SB16\\{command} > OUT{number}.TXT")
-        for level in (3, 2, 1):  # a redirection behind "if" makes its file in any case: jump
-            lines.append(f"if errorlevel {level} goto case{number}is{level}")
-        for level in (0, 1, 2, 3):
-            lines += [f":case{number}is{level}", f"echo {level} > LEVEL{number}.TXT"]
-            lines.append(f"goto end{number}")
-        lines.append(f":end{number}")
+        lines += note_level(number, f"LEVEL{number}.TXT")
     return "\r\n".join(lines + ["echo done > DONE.TXT", ""])
 
 
@@ -88,11 +78,11 @@ def check_keys(screen, dosbox, drive):
     wait_until(dosbox.ended, 5, "DOSBox ends")
 
 
-def run(root, options):
+def run(root, dos):
     drive = root / "drive"
     drive.mkdir()
     (drive / "RUN.BAT").write_text(batch(), "ascii", newline="")
-    text = CONF.format(mapper=options.mapper.resolve(), dos=options.dos.resolve(), drive=drive)
+    text = CONF.format(mapper=MAPPER, dos=dos, drive=drive)
     (root / "dosbox.conf").write_text(text, "utf-8", newline="\r\n")
     with Screen(root) as screen:
         dosbox = Dosbox(screen, root)
@@ -101,16 +91,8 @@ def run(root, options):
         check_keys(screen, dosbox, drive)
     output = dosbox.output.read_text("utf-8", "replace")
     told = [line for line in output.splitlines() if "mapper" in line.lower()]
-    assert told == [f"MAPPER: Loading mapper settings from {options.mapper.resolve()}"], output
-
-
-def main():
-    parser = argparse.ArgumentParser()
-    parser.add_argument("dos", type=pathlib.Path)
-    parser.add_argument("--mapper", type=pathlib.Path, default=MAPPER)
-    with tempfile.TemporaryDirectory() as folder:
-        run(pathlib.Path(folder), parser.parse_args())
+    assert told == [f"MAPPER: Loading mapper settings from {MAPPER}"], output
 
 
 if __name__ == "__main__":
-    main()
+    run_in_temporary_folder(run)

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Plays the first yard of 장독대 (Crocks): play_crocks_test.py <staged folder> [--dos FOLDER]
+"""Plays the first yard of 장독대 (Crocks): play_crocks_test.py <staged folder> <DOS tools>
 
 The keys push a crock one cell too far and take that back, so the counts that the game tells are
 right only if taking back is.

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Plays the first night of 별 헤는 밤 (Star): play_star_test.py <staged folder> [--dos FOLDER]"""
+"""Plays the first night of 별 헤는 밤 (Star): play_star_test.py <staged folder> <DOS tools>"""
 
 import re
 

@@ -8,9 +8,27 @@ import os
 import pathlib
 import struct
 import subprocess
+import sys
+import tempfile
 import time
 
 REPOSITORY = pathlib.Path(__file__).resolve().parents[2]
+MAPPER = REPOSITORY / "mapper/mapper_default.txt"
+
+
+def run_in_temporary_folder(run):
+    """The main program of a test: run(temporary folder, *folders of the command line)."""
+    with tempfile.TemporaryDirectory() as folder:
+        run(pathlib.Path(folder), *(pathlib.Path(name).resolve() for name in sys.argv[1:]))
+
+
+def note_level(number, file):
+    """Lines of a batch file that write the errorlevel, 0 to 3, into a file."""
+    # A redirection behind "if" makes its file in any case: jump.
+    lines = [f"if errorlevel {level} goto case{number}is{level}" for level in (3, 2, 1)]
+    for level in (0, 1, 2, 3):
+        lines += [f":case{number}is{level}", f"echo {level} > {file}", f"goto end{number}"]
+    return [*lines, f":end{number}"]
 
 
 def wait_until(condition, seconds, what):

@@ -5,18 +5,21 @@ recorded keys are sent by the clock; what came of them is read from the files th
 A test names what is its game's own in a Game and calls play_sample.
 """
 
-import argparse
 import dataclasses
 import pathlib
 import shutil
 import sys
-import tempfile
 import time
 import typing
 
-from real_dosbox import REPOSITORY, Dosbox, Screen, wait_until
-
-MAPPER = REPOSITORY / "mapper/mapper_default.txt"
+from real_dosbox import (
+    MAPPER,
+    REPOSITORY,
+    Dosbox,
+    Screen,
+    run_in_temporary_folder,
+    wait_until,
+)
 
 CONF = """[sdl]
 fullscreen=false
@@ -87,19 +90,18 @@ def read_keys(path):
     return rows
 
 
-def install(root, sample, options):
+def install(root, sample, staged, dos):
     """Lays out the installation; the game's folder and that of dosbox.conf."""
     folder_name = (REPOSITORY / "samples" / sample / "folder.txt").read_text("utf-8").strip()
     game = root / "Games" / folder_name
-    shutil.copytree(options.folder, game)
+    shutil.copytree(staged, game)
     for left_over in ("READY.TXT", "LAST.TXT", "SCORES.DAT"):
         (game / left_over).unlink(missing_ok=True)
     conf = root / "DOSBox" / "0.74"
     conf.mkdir(parents=True)
-    if options.dos.is_dir():
-        shutil.copytree(options.dos, root / "Dos")
-        (root / "DOS").symlink_to("Dos")
-    text = CONF.format(mapper=options.mapper.resolve(), game=game)
+    shutil.copytree(dos, root / "Dos")
+    (root / "DOS").symlink_to("Dos")
+    text = CONF.format(mapper=MAPPER, game=game)
     (conf / "dosbox.conf").write_bytes(text.replace("\n", "\r\n").encode("utf-8"))
     return game, conf
 
@@ -128,8 +130,8 @@ def play(screen, rows, is_done):
         screen.run(["xdotool", "keyup", key])
 
 
-def run(root, sample, options):
-    game, conf = install(root, sample.sample, options)
+def run(root, sample, staged, dos):
+    game, conf = install(root, sample.sample, staged, dos)
     rows = read_keys(REPOSITORY / "samples" / sample.sample / sample.keys)
     with Screen(root) as screen:
         playing = Playing(screen, Dosbox(screen, conf), game)
@@ -153,14 +155,5 @@ def run(root, sample, options):
 
 
 def play_sample(sample):
-    """The main program of a test. Its arguments: the staged folder of the game, and by --dos the
-    folder of the DOS tools; without it the game starts all the same."""
-    parser = argparse.ArgumentParser()
-    parser.add_argument("folder", type=pathlib.Path)
-    parser.add_argument("--mapper", type=pathlib.Path, default=MAPPER)
-    parser.add_argument("--dos", type=pathlib.Path)
-    options = parser.parse_args()
-    if options.dos is None:
-        options.dos = options.folder.resolve().parents[1] / "Dos"
-    with tempfile.TemporaryDirectory() as folder:
-        run(pathlib.Path(folder), sample, options)
+    """The main program of a test; its arguments: the game's staged folder, that of the DOS tools."""
+    run_in_temporary_folder(lambda root, staged, dos: run(root, sample, staged, dos))

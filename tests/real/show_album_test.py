@@ -1,13 +1,10 @@
 #!/usr/bin/env python3
 """Turns the pages of 빛의 그림첩 (Album): show_album_test.py <staged folder>"""
 
-import argparse
-import pathlib
 import shutil
-import tempfile
 import time
 
-from real_dosbox import Dosbox, Screen, wait_until
+from real_dosbox import Dosbox, Screen, run_in_temporary_folder, wait_until
 
 PICTURES = 7
 PICTURE_BYTES = 768 + 320 * 200
@@ -115,21 +112,14 @@ def check_cut_file(screen, root, folder):
     assert not (folder / "READY.TXT").exists(), "READY.TXT"
 
 
-def run(root, options):
+def run(root, staged):
     folder = root / "Album [3]"
-    shutil.copytree(options.folder, folder)
+    shutil.copytree(staged, folder)
     check_pictures(folder)
     with Screen(root) as screen:
         check_keys(screen, root, folder)
         check_cut_file(screen, root, folder)
 
 
-def main():
-    parser = argparse.ArgumentParser()
-    parser.add_argument("folder", type=pathlib.Path)
-    with tempfile.TemporaryDirectory() as folder:
-        run(pathlib.Path(folder), parser.parse_args())
-
-
 if __name__ == "__main__":
-    main()
+    run_in_temporary_folder(run)

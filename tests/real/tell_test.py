@@ -1,12 +1,9 @@
 #!/usr/bin/env python3
 """Gives 주는 대로 적기 (Tell) texts, files and keys: tell_test.py <staged folder>"""
 
-import argparse
-import pathlib
 import shutil
-import tempfile
 
-from real_dosbox import Dosbox, Screen, wait_until
+from real_dosbox import Dosbox, Screen, note_level, run_in_temporary_folder, wait_until
 
 CONF = """[sdl]
 output=surface
@@ -49,12 +46,7 @@ def batch():
     lines = ["@echo off"]
     for number, (before, command, *_) in enumerate(CASES):
         lines += ["c:", "cd \\TOOL", *before.splitlines(), command]
-        for level in (2, 1):  # a redirection behind "if" makes its file in any case: jump
-            lines.append(f"if errorlevel {level} goto case{number}is{level}")
-        for level in (0, 1, 2):
-            lines += [f":case{number}is{level}", f"echo {level} > C:\\LEVEL{number}.TXT"]
-            lines.append(f"goto end{number}")
-        lines += [f":end{number}", "c:", "cd \\TOOL"]
+        lines += note_level(number, f"C:\\LEVEL{number}.TXT") + ["c:", "cd \\TOOL"]
         for name in WRITTEN:
             lines.append(f"if exist {name} copy {name} C:\\{number}{name} > nul")
             if name != "COPIED.TXT":  # that one stays until a copy is asked for
@@ -100,25 +92,18 @@ def check_line(screen, dosbox, tool):
     assert told == b"C:\\TOOL\r\na " + b"b" * 123 + b"C\r\n", told
 
 
-def run(root, options):
+def run(root, staged):
     drive, disc = root / "drive", root / "disc"
     tool = drive / "TOOL"
-    shutil.copytree(options.folder, tool)
+    shutil.copytree(staged, tool)
     (disc / "DEEP").mkdir(parents=True)
     (disc / "DISC.DAT").write_bytes(DISC_BYTES)
     (disc / "EMPTY").write_bytes(b"")
     shutil.copy(tool / "TELL.COM", disc)
     (disc / "DEEP/BELOW.TXT").write_bytes(b"below")
     (drive / "RUN.BAT").write_text(batch(), "cp949", newline="")
-    commands = [
-        "call RUN.BAT",
-        "tell.com  ",
-        "del READY.TXT",
-        "echo left > LEFT.TXT",
-        "tell.com",
-        "exit",
-    ]
-    conf = CONF.format(drive=drive, disc=disc, commands="\n".join(commands))
+    commands = "call RUN.BAT\ntell.com  \ndel READY.TXT\necho left > LEFT.TXT\ntell.com\nexit"
+    conf = CONF.format(drive=drive, disc=disc, commands=commands)
     (root / "dosbox.conf").write_text(conf, "utf-8", newline="\r\n")
     with Screen(root) as screen:
         dosbox = Dosbox(screen, root)
@@ -128,12 +113,5 @@ def run(root, options):
         check_line(screen, dosbox, tool)
 
 
-def main():
-    parser = argparse.ArgumentParser()
-    parser.add_argument("folder", type=pathlib.Path)
-    with tempfile.TemporaryDirectory() as folder:
-        run(pathlib.Path(folder), parser.parse_args())
-
-
 if __name__ == "__main__":
-    main()
+    run_in_temporary_folder(run)
