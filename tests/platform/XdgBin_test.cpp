@@ -119,8 +119,8 @@ TEST_F(XdgBinTest, OtherFileSystemHasABinOfItsOwn)
 
     // One that another user could have laid there is not used.
     ASSERT_TRUE(QDir(m_folder.Path(own)).removeRecursively());
-    m_folder.MakeFolder(u"elsewhere"_s);
-    m_folder.MakeLink(own, m_folder.Path(u"elsewhere"_s));
+    m_folder.MakeFolder(u"disk with blank/elsewhere"_s);
+    m_folder.MakeLink(own, u"elsewhere"_s);
     ExpectRefused(m_folder.Path(games + u"Moon"_s), ErrorKind::Unwritable);
     ASSERT_TRUE(QFile::remove(m_folder.Path(own)));
     disk.MakeReadOnly();
