@@ -16,6 +16,7 @@ using namespace pelorin;
 using dosboxconf::OptionGrid;
 using platform::PathForm;
 using running::RunMode;
+using test::Words;
 
 namespace {
 
@@ -31,22 +32,13 @@ QStringList Strings(const QJsonValue& array)
 
 RunMode ModeOf(const QString& name)
 {
-    const QStringList names{
-        u"RunGame"_s,
-        u"RunDosPrompt"_s,
-        u"RunNetHost"_s,
-        u"RunNetClient"_s,
-        u"RunLibraryShell"_s,
-        u"RunFileWithArgs"_s};
-    const qsizetype at = names.indexOf(name);
-    EXPECT_GE(at, 0) << name.toStdString();
-    return static_cast<RunMode>(at < 0 ? 0 : at);
+    // In the order of RunMode.
+    const qsizetype at = Words(u"RunGame RunDosPrompt RunNetHost RunNetClient RunLibraryShell "
+                               "RunFileWithArgs"_s)
+                             .indexOf(name);
+    EXPECT_GE(at, 0) << name;
+    return static_cast<RunMode>(at);
 }
-
-static_assert(static_cast<int>(RunMode::Game) == 0 && static_cast<int>(RunMode::DosPrompt) == 1);
-static_assert(static_cast<int>(RunMode::NetHost) == 2 && static_cast<int>(RunMode::NetClient) == 3);
-static_assert(static_cast<int>(RunMode::LibraryShell) == 4);
-static_assert(static_cast<int>(RunMode::FileWithArgs) == 5);
 
 running::RunRequest RequestOf(const QJsonObject& row)
 {
@@ -127,8 +119,7 @@ TEST(GoldenTextTest, EveryStartEqualsTheOtherComposersByteForByte)
         const QString build = row[u"build"_s].toString();
         SCOPED_TRACE(u"%1, %2, CD: %3, log %4"_s
                          .arg(build, row[u"mode"_s].toString(), row[u"cd"_s].toString())
-                         .arg(row[u"sets"_s].toObject()[u"log"_s].toInt())
-                         .toStdString());
+                         .arg(row[u"sets"_s].toObject()[u"log"_s].toInt()));
         const running::RunRequest request = RequestOf(row);
         SetByKey(grid, row[u"sets"_s].toObject());
         const dosboxconf::ConfText composed = dosboxconf::ComposeDosboxConf(
