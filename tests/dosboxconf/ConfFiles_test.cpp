@@ -364,9 +364,12 @@ TEST_F(GameConfTest, SavingOverAMissingABrokenAndAnOldGlobalFile)
     EXPECT_EQ(Global(kAutolock), u"1"_s);
 
     folder.WriteLines(defaultConf, Old(true, {{{6, 0}, u"3"_s}, {{0, 7}, u"1"_s}}));
-    EXPECT_TRUE(SaveGameConf(places, u"Star"_s, grid).Value().upgraded);
+    const auto marked = SaveGameConf(places, u"Star"_s, grid);
+    EXPECT_TRUE(marked.Value().upgraded && !marked.Value().backupKept);
     EXPECT_EQ(Global(kSbtype), u"3"_s);
     EXPECT_EQ(Global(kWait), u"0"_s);
+    folder.WriteLines(defaultConf, Old(false, {}));
+    EXPECT_TRUE(SaveGameConf(places, u"Star"_s, grid).Value().backupKept) << "it may be any file";
 }
 
 TEST_F(GameConfTest, WritesOnlyIntoAGameThatIsThere)

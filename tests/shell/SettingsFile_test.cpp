@@ -115,7 +115,9 @@ TEST_F(SettingsFileTest, RepairsRoots)
 TEST_F(SettingsFileTest, NothingIsMadeInThePlaceOfAnUnpluggedDisk)
 {
     folder.MakeLink(u"Games"_s, u"/nowhere/disk"_s);
-    EXPECT_EQ(Loaded().cfg.gamesRoot, folder.Path(u"Games"_s));
+    const LoadedSettings loaded = Loaded();
+    EXPECT_EQ(loaded.cfg.gamesRoot, folder.Path(u"Games"_s));
+    EXPECT_EQ(loaded.unwritten, QStringList());
     EXPECT_EQ(QFile::symLinkTarget(folder.Path(u"Games"_s)), u"/nowhere/disk"_s);
 }
 
