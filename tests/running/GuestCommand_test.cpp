@@ -25,6 +25,7 @@ TEST(GuestCommandTest, TellsWhatALineHasToFindFromWhatItPassesOn)
         {u"lh 마우스.com"_s, {u"마우스.com"_s}, {}},
         {u"call"_s, {}, {}},
         {u"-"_s, {}, {}},
+        {u"-별.exe"_s, {u"-별.exe"_s}, {}},
         {u"call echo 안녕"_s, {}, {}},
         {u"cd 자료"_s, {u"자료"_s}, {}},
         {u"CD\\자료"_s, {u"\\자료"_s}, {}},
