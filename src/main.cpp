@@ -167,6 +167,19 @@ void WireMedia(forms::Deeds& deeds, shell::Launcher& launcher)
     deeds.pic1_Click = [&] { library::pic1_Click(launcher); };
 }
 
+void WireTree(forms::Deeds& deeds, shell::Launcher& launcher)
+{
+    deeds.TreeView1_NodeCheck = [&](const finding::NodePlace& place, bool checked) {
+        finding::TreeView1_NodeCheck(launcher, place, checked);
+    };
+    deeds.TreeView1_NodeClick = [&](const finding::NodePlace& place) {
+        finding::TreeView1_NodeClick(launcher, place);
+    };
+    deeds.cmdFind_Click = [&] { finding::cmdFind_Click(launcher); };
+    deeds.txtFind_Esc = [&] { finding::txtFind_Esc(launcher); };
+    deeds.cmdFind_Esc = [&] { finding::cmdFind_Esc(launcher); };
+}
+
 void Wire(forms::Deeds& deeds, shell::Launcher& launcher)
 {
     deeds.LVGamelist_ItemClick = [&] { library::LVGamelist_ItemClick(launcher); };
@@ -182,6 +195,7 @@ void Wire(forms::Deeds& deeds, shell::Launcher& launcher)
     deeds.optViewmode_Click = [&](finding::View view) { finding::SetView(launcher, view); };
     deeds.cmdCompact_Click = [&] { archives::cmdCompact_Click(launcher); };
     deeds.Form_Unload = [&] { return shell::Form_Unload(launcher); };
+    WireTree(deeds, launcher);
     WireStartPage(deeds, launcher);
     WireWindow(deeds, launcher);
     WireListMenu(deeds, launcher);

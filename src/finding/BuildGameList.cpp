@@ -1,121 +1,91 @@
 #include "finding/BuildGameList.h"
 
-#include <QHash>
-
 #include <algorithm>
+#include <iterator>
 #include <numeric>
 
 namespace pelorin::finding {
 
 namespace {
 
-/// Gives each position that is to be shown its row in the order of titles, the others -1.
-std::vector<int> RowsByTitle(
-    TitleOrder& order, const ListSource& source, const std::vector<int>& filterIndex, int& rowCount)
+using library::GameEntry;
+
+constexpr std::size_t kGenreColumn = 1;
+
+/// The positions of the games that are to be shown, by title.
+std::vector<int> ShownByTitle(
+    TitleOrder& order, const ListSource& source, const std::vector<int>& index)
 {
     const std::vector<int>& sorted = order.Sorted(source.catalogue);
     std::vector<bool> passing(source.catalogue.size());
     const QString term = SearchForm(source.txtFind);
-    for (const int position : filterIndex) {
+    for (const int position : index) {
         if (term.isEmpty() || order.SearchText(position).contains(term)) {
             passing[static_cast<std::size_t>(position)] = true;
         }
     }
-    std::vector<int> rows(source.catalogue.size(), -1);
-    rowCount = 0;
-    for (const int position : sorted) {
-        if (passing[static_cast<std::size_t>(position)]) {
-            rows[static_cast<std::size_t>(position)] = rowCount++;
-        }
-    }
-    return rows;
-}
-
-/// Sorts rows by the texts of a column, each distinct text collated once. Rows with one text stay
-/// in the order in which they come.
-void SortByColumn(std::vector<GameItem>& items, ListSort sort, const QCollator& collator)
-{
-    const auto column = static_cast<std::size_t>(sort.column);
-    QHash<QString, int> ranks;
-    for (const GameItem& item : items) {
-        ranks.insert(item.text[column], 0);
-    }
-    QStringList texts = ranks.keys();
-    std::sort(texts.begin(), texts.end(), [&](const QString& a, const QString& b) {
-        const int order = collator.compare(a, b);
-        return order != 0 ? order < 0 : a < b;
+    std::vector<int> shown;
+    shown.reserve(index.size());
+    std::copy_if(sorted.begin(), sorted.end(), std::back_inserter(shown), [&](int position) {
+        return passing[static_cast<std::size_t>(position)];
     });
-    for (int i = 0; i < texts.size(); ++i) {
-        ranks[texts[i]] = sort.descending ? -i : i;
-    }
-    std::vector<std::pair<int, int>> rows; // rank and row
-    rows.reserve(items.size());
-    for (const GameItem& item : items) {
-        rows.emplace_back(ranks.value(item.text[column]), static_cast<int>(rows.size()));
-    }
-    std::sort(rows.begin(), rows.end());
-    std::vector<GameItem> sorted;
-    sorted.reserve(items.size());
-    for (const auto& [rank, row] : rows) {
-        sorted.push_back(std::move(items[static_cast<std::size_t>(row)]));
-    }
-    items = std::move(sorted);
+    return shown;
 }
 
-void SortItems(std::vector<GameItem>& items, ListSort sort, const QCollator& collator)
+QString ColumnText(
+    const GameEntry& entry, const QStringList& buildNames, bool titleLanguageKorean, int column)
 {
-    if (sort.column > 0 && sort.column < kColumns) {
-        SortByColumn(items, sort, collator);
-    } else if (sort.descending) {
-        std::reverse(items.begin(), items.end());
+    switch (column) {
+    case 0: return DisplayTitle(entry, titleLanguageKorean);
+    case 1: return titleLanguageKorean ? entry.GenreK : entry.GenreE;
+    case 2: return entry.Folder;
+    case 3: return buildNames.value(entry.DosboxVersion);
+    case 4: return entry.Maker;
+    case 5: return entry.Release;
+    case 6: return entry.GameLanguage;
+    case 7: return entry.Country;
+    default: return {};
     }
 }
 
-} // namespace
-
-std::vector<int> WholeIndex(const library::Catalogue& catalogue)
+/// Sorts positions by the texts of a column. Those with one text stay in the order in which they
+/// come, also when it goes downwards.
+void SortByColumn(
+    std::vector<int>& positions, TitleOrder& order, const ListSource& source, ListSort sort)
 {
-    std::vector<int> index(catalogue.size());
-    std::iota(index.begin(), index.end(), 0);
-    return index;
+    QStringList texts;
+    texts.reserve(static_cast<qsizetype>(source.catalogue.size()));
+    for (const GameEntry& entry : source.catalogue) {
+        texts << ColumnText(entry, source.buildNames, source.TitleLanguageKorean, sort.column);
+    }
+    TextRanks& column = order.Column(sort.column);
+    const std::vector<int>& ranks = column.Of(texts, order.Collator());
+    const int last = column.Count() - 1;
+    const auto rankOf = [&](int position) {
+        const int rank = ranks[static_cast<std::size_t>(position)];
+        return static_cast<std::size_t>(sort.descending ? last - rank : rank);
+    };
+    // By counting: there are no more ranks than games.
+    std::vector<std::size_t> starts(static_cast<std::size_t>(column.Count()) + 1);
+    for (const int position : positions) {
+        ++starts[rankOf(position) + 1];
+    }
+    std::partial_sum(starts.begin(), starts.end(), starts.begin());
+    std::vector<int> sorted(positions.size());
+    for (const int position : positions) {
+        sorted[starts[rankOf(position)]++] = position;
+    }
+    positions = std::move(sorted);
 }
 
-QString SearchForm(const QString& text)
+void FillItems(GameList& list, const ListSource& source, const std::vector<int>& positions)
 {
-    QString form = text.toUpper();
-    form.remove(u' ');
-    return form;
-}
-
-GameItem ItemOf(
-    const library::GameEntry& entry, const QStringList& buildNames, bool titleLanguageKorean)
-{
-    GameItem item;
-    item.folder = entry.Folder;
-    item.tag = titleLanguageKorean ? entry.GenreK : entry.GenreE;
-    item.listIndex = entry.ListIndex;
-    item.text = {
-        DisplayTitle(entry, titleLanguageKorean),
-        item.tag,
-        entry.Folder,
-        buildNames.value(entry.DosboxVersion),
-        entry.Maker,
-        entry.Release,
-        entry.GameLanguage,
-        entry.Country};
-    return item;
-}
-
-ListOutcome BuildGameList(
-    GameList& list,
-    TitleOrder& order,
-    const ListSource& source,
-    const std::vector<int>& filterIndex)
-{
-    int rowCount = 0;
-    const std::vector<int> rows = RowsByTitle(order, source, filterIndex, rowCount);
-    list.items.clear();
-    list.items.resize(static_cast<std::size_t>(rowCount));
+    std::vector<int> rows(source.catalogue.size(), -1);
+    int row = 0;
+    for (const int position : positions) {
+        rows[static_cast<std::size_t>(position)] = row++;
+    }
+    list.items.resize(positions.size());
     // In the order of the Catalogue, which lies in memory like that: in the order of the rows each
     // entry would have to be fetched, and that is far slower.
     for (std::size_t position = 0; position < rows.size(); ++position) {
@@ -124,15 +94,58 @@ ListOutcome BuildGameList(
                 ItemOf(source.catalogue[position], source.buildNames, source.TitleLanguageKorean);
         }
     }
-    SortItems(list.items, list.sort, order.Collator());
-    list.selected = list.items.empty() ? -1 : 0;
-    list.selectedRows.assign(list.items.empty() ? 0 : 1, 0);
-    list.changed.Tell(GameList::Reset | GameList::Selection);
+}
+
+ListOutcome OutcomeOf(const GameList& list, const ListSource& source, const FilterIndex& index)
+{
     if (!list.items.empty()) {
         return ListOutcome::Items;
     }
-    const bool filtered = filterIndex.empty() && !source.catalogue.empty();
-    return filtered ? ListOutcome::NoFilterHit : ListOutcome::NoItem;
+    if (!index) {
+        return ListOutcome::NoFilterHit;
+    }
+    return source.catalogue.empty() ? ListOutcome::NoGames : ListOutcome::NoSearchHit;
+}
+
+} // namespace
+
+QString SearchForm(const QString& text)
+{
+    QString form = text.toUpper();
+    form.remove(u' ');
+    return form;
+}
+
+GameItem ItemOf(const GameEntry& entry, const QStringList& buildNames, bool titleLanguageKorean)
+{
+    GameItem item;
+    item.folder = entry.Folder;
+    item.listIndex = entry.ListIndex;
+    for (int column = 0; column < kColumns; ++column) {
+        item.text[static_cast<std::size_t>(column)] =
+            ColumnText(entry, buildNames, titleLanguageKorean, column);
+    }
+    item.tag = item.text[kGenreColumn];
+    return item;
+}
+
+void BuildGameList(
+    GameList& list, TitleOrder& order, const ListSource& source, const FilterIndex& index)
+{
+    std::vector<int> shown;
+    if (index) {
+        shown = ShownByTitle(order, source, *index);
+    }
+    if (list.sort.column > 0 && list.sort.column < kColumns) {
+        SortByColumn(shown, order, source, list.sort);
+    } else if (list.sort.descending) {
+        std::reverse(shown.begin(), shown.end());
+    }
+    FillItems(list, source, shown);
+    list.outcome = OutcomeOf(list, source, index);
+    list.selected = list.items.empty() ? -1 : 0;
+    list.selectedRows.assign(list.items.empty() ? 0 : 1, 0);
+    list.changed.Tell(GameList::Reset | GameList::Selection);
 }
 
 } // namespace pelorin::finding

@@ -1,6 +1,7 @@
 #include "finding/FilterCommands.h"
 
 #include "finding/BuildGameList.h"
+#include "library/ShowinfoCommands.h"
 #include "platform/Timers.h"
 #include "shell/JobCommands.h"
 #include "shell/Launcher.h"
@@ -15,13 +16,15 @@ using shell::Launcher;
 
 namespace {
 
+constexpr int kStoreMarkEntry = 257;
+
 TitleOrder& OrderOf(Launcher& launcher)
 {
-    if (!launcher.titleOrder) {
+    const bool koreanTitles = launcher.settings.TitleLanguageKorean;
+    if (!launcher.titleOrder || launcher.titleOrder->IsOfKoreanTitles() != koreanTitles) {
         const bool korean = launcher.lang.IsKorean();
         launcher.titleOrder.emplace(
-            QLocale(korean ? QLocale::Korean : QLocale::English),
-            launcher.settings.TitleLanguageKorean);
+            QLocale(korean ? QLocale::Korean : QLocale::English), koreanTitles);
     }
     return *launcher.titleOrder;
 }
@@ -35,6 +38,53 @@ void ShowCount(Launcher& launcher)
     launcher.screens.status.changed.Tell(shell::StatusBar::Texts);
 }
 
+void ShowView(GameList& list, View view)
+{
+    list.view = view;
+    list.changed.Tell(GameList::ViewMode);
+}
+
+/// Rebuilds the list for what the user asked of the tree or the search box, and shows its first game.
+/// It is filled as a list, since icons take longer to place.
+void Search(Launcher& launcher)
+{
+    GameList& list = launcher.screens.list;
+    const platform::RedrawLock lock(launcher.screens.gate);
+    const bool icons = list.view == View::LargeIcons;
+    if (icons) {
+        ShowView(list, View::List);
+    }
+    RefreshGameList(launcher);
+    if (!list.items.empty()) {
+        library::LVGamelist_ItemClick(launcher);
+        library::ShowinfoProcess(launcher);
+    }
+    if (icons) {
+        ShowView(list, View::LargeIcons);
+    }
+}
+
+/// What the two deeds on the tree have in common. `mark` sets the marks and tells whether the list
+/// is to follow.
+template <class Mark>
+void RefreshFromTree(Launcher& launcher, const Mark& mark)
+{
+    {
+        const platform::RedrawLock lock(launcher.screens.gate);
+        if (!mark(launcher.screens.tree)) {
+            return;
+        }
+    }
+    launcher.ports.timers.RunPendingEvents();
+    Search(launcher);
+}
+
+void EmptyTheBox(SearchBox& search)
+{
+    search.txtFind.clear();
+    search.changed.Tell(SearchBox::Text);
+}
+
 } // namespace
 
 void RefreshGameList(Launcher& launcher)
@@ -44,27 +94,54 @@ void RefreshGameList(Launcher& launcher)
         launcher.catalogue,
         buildNames,
         launcher.settings.TitleLanguageKorean,
-        launcher.screens.search.txtFind};
+        launcher.screens.search.txtFind,
+        launcher.lang[kStoreMarkEntry]};
     GameList& list = launcher.screens.list;
-    const ListOutcome outcome =
-        BuildGameList(list, OrderOf(launcher), source, WholeIndex(launcher.catalogue));
-    switch (outcome) {
-    case ListOutcome::NoFilterHit: break;
-    case ListOutcome::NoItem:
+    BuildGameList(list, OrderOf(launcher), source, BuildFilterIndex(launcher.screens.tree, source));
+    if (list.outcome == ListOutcome::Items) {
+        shell::SetPanelsEnabled(launcher, true);
+    } else if (list.outcome != ListOutcome::NoFilterHit) {
         launcher.screens.frame.caption = launcher.WindowTitle;
         launcher.screens.frame.changed.Tell(shell::MainFrame::Caption);
+    }
+    if (list.outcome != ListOutcome::NoFilterHit) {
         ShowCount(launcher);
-        break;
-    case ListOutcome::Items:
-        shell::SetPanelsEnabled(launcher, true);
-        ShowCount(launcher);
-        break;
     }
     if (list.visible) {
         list.changed.Tell(GameList::Focus);
     } else if (!list.items.empty()) {
         launcher.screens.search.changed.Tell(SearchBox::Focus);
     }
+}
+
+void TreeView1_NodeCheck(Launcher& launcher, const NodePlace& place, bool checked)
+{
+    RefreshFromTree(launcher, [&](FilterTree& tree) { return ToggleNode(tree, place, checked); });
+}
+
+void TreeView1_NodeClick(Launcher& launcher, const NodePlace& place)
+{
+    RefreshFromTree(launcher, [&](FilterTree& tree) { return ClickNode(tree, place); });
+}
+
+void cmdFind_Click(Launcher& launcher)
+{
+    Search(launcher);
+}
+
+void txtFind_Esc(Launcher& launcher)
+{
+    EmptyTheBox(launcher.screens.search);
+    Search(launcher);
+}
+
+void cmdFind_Esc(Launcher& launcher)
+{
+    EmptyTheBox(launcher.screens.search);
+    const platform::RedrawLock lock(launcher.screens.gate);
+    RefreshGameList(launcher);
+    library::LVGamelist_ItemClick(launcher);
+    library::ShowinfoProcess(launcher);
 }
 
 void LVGamelist_ColumnClick(Launcher& launcher, int column)
@@ -86,8 +163,7 @@ void LVGamelist_ColumnClick(Launcher& launcher, int column)
 void SetView(Launcher& launcher, View view)
 {
     const platform::RedrawLock lock(launcher.screens.gate);
-    launcher.screens.list.view = view;
-    launcher.screens.list.changed.Tell(GameList::ViewMode);
+    ShowView(launcher.screens.list, view);
     launcher.screens.notice.visible = false;
     launcher.screens.notice.changed.Tell(shell::BusyNotice::All);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "finding/CheckMarks.h"
 #include "finding/GameList.h"
 
 namespace pelorin::shell {
@@ -8,10 +9,28 @@ struct Launcher;
 
 namespace pelorin::finding {
 
-/// Rebuilds the list out of the Catalogue and gives it the keyboard with its first row selected;
-/// the search box gets it while the list is hidden. With a row the panels can be used, at the end of
-/// the job if one stands. Everybody calls this one.
+/// Rebuilds the list out of the games that the tree's marks and the search box pass, and gives it the
+/// keyboard with its first row selected; the search box gets it while the list is hidden. With a row
+/// the panels can be used, at the end of the job if one stands. When the marks pass no game, nothing
+/// but the list changes. Everybody calls this one.
 void RefreshGameList(shell::Launcher& launcher);
+
+// The tree: each rebuilds the list and shows the first game, if there is one.
+
+/// The user toggled a node's check box, to `checked`.
+void TreeView1_NodeCheck(shell::Launcher& launcher, const NodePlace& place, bool checked);
+/// The user clicked a node's label.
+void TreeView1_NodeClick(shell::Launcher& launcher, const NodePlace& place);
+
+// The search. Each ends with the list rebuilt and the first game shown, if there is one; Esc on the
+// button shows the current game anew even if there is none.
+
+/// cmdFind, or Enter in the box.
+void cmdFind_Click(shell::Launcher& launcher);
+/// Esc in the box empties it.
+void txtFind_Esc(shell::Launcher& launcher);
+/// Esc on the button empties the box as well.
+void cmdFind_Esc(shell::Launcher& launcher);
 
 /// A click on a column's header: sorts by it, upwards, or downwards if it was sorted by it upwards.
 /// The selected game stays selected.

@@ -20,7 +20,14 @@ struct FilterRoot {
     QString key; // "genrek", "genree", "ganada" ...
     QString text;
     std::vector<FilterNode> children;
+    bool checked = false;  // filters nothing; its box clears the category
     bool expanded = false; // written by the form
+};
+
+/// A node's place.
+struct NodePlace {
+    QString rootKey;
+    int child = -1; // place below its category; -1: the category itself
 };
 
 /// What TreeView1 holds: ten categories in a fixed order.

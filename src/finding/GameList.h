@@ -21,6 +21,15 @@ struct GameItem {
     std::int16_t listIndex = 0;         // number of its icon, from 1
 };
 
+/// What a rebuild of the list left.
+enum class ListOutcome {
+    NotBuilt,    // there was none yet
+    NoFilterHit, // the filters passed no game: the list is empty, all else keeps what it showed
+    NoSearchHit, // the search passed none of those that the filters passed
+    NoGames,     // the Catalogue is empty
+    Items,       // the first row is selected
+};
+
 enum class View { LargeIcons = 0, SmallIcons = 1, List = 2, Details = 3 };
 
 /// How the list is sorted: by title at the start, else by the column whose header was clicked.
@@ -44,6 +53,7 @@ struct GameList {
     std::vector<GameItem> items;
     int selected = -1;             // the row that the commands work on; -1 none
     std::vector<int> selectedRows; // all selected rows, ascending; holds `selected`
+    ListOutcome outcome = ListOutcome::NotBuilt;
     View view = View::SmallIcons;
     ListSort sort;
     std::array<double, kColumns> columnWidths{}; // form units, 15 a pixel

@@ -9,15 +9,6 @@
 
 namespace pelorin::finding {
 
-namespace {
-
-const QString& TitleOf(const library::GameEntry& entry, bool titleLanguageKorean)
-{
-    return titleLanguageKorean ? entry.TitleK : entry.TitleE;
-}
-
-} // namespace
-
 QString DisplayTitle(const library::GameEntry& entry, bool titleLanguageKorean)
 {
     const QString& title = TitleOf(entry, titleLanguageKorean);

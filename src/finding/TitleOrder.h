@@ -1,5 +1,7 @@
 #pragma once
 
+#include "finding/GameList.h"
+#include "finding/TextRanks.h"
 #include "library/GameEntry.h"
 
 #include <QCollator>
@@ -7,6 +9,7 @@
 #include <QLocale>
 #include <QString>
 
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -33,6 +36,9 @@ public:
 
     /// Compares texts the way the titles are.
     const QCollator& Collator() const { return m_collator; }
+    /// What is kept of the order by another column, 0 to kColumns - 1.
+    TextRanks& Column(int column) { return m_columns[static_cast<std::size_t>(column)]; }
+    bool IsOfKoreanTitles() const { return m_titleLanguageKorean; }
 
 private:
     struct Known {
@@ -55,6 +61,7 @@ private:
     QHash<QString, int> m_folders; // how often each stands in m_known
     int m_twins = 0;               // folders that stand more than once
     std::vector<int> m_sorted;     // without those whose folder stands before
+    std::array<TextRanks, kColumns> m_columns;
 };
 
 } // namespace pelorin::finding

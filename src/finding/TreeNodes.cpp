@@ -57,17 +57,18 @@ bool IsBlank(const QString& text)
     return std::all_of(text.begin(), text.end(), [](QChar c) { return c == u' '; });
 }
 
-/// A child's key: "find", the category's key, "_" and a word.
-FilterNode NodeOf(QStringView rootKey, const QString& word, const QString& text)
+/// What a child's key begins with; a word of the child's own follows.
+QString KeyPrefix(QStringView rootKey)
 {
-    return FilterNode{u"find"_s + rootKey.toString() + u'_' + word, text, false};
+    return u"find"_s + rootKey.toString() + u'_';
 }
 
 void AddChildren(FilterTree& tree, QStringView rootKey, const QStringList& texts)
 {
     FilterRoot* root = tree.Root(rootKey.toString());
+    const QString prefix = KeyPrefix(rootKey);
     for (const QString& text : texts) {
-        root->children.push_back(NodeOf(rootKey, text, text));
+        root->children.push_back(FilterNode{prefix + text, text, false});
     }
 }
 
@@ -82,9 +83,16 @@ QStringList SingleCharacters(QStringView characters)
 
 QStringList DistinctValues(const library::Catalogue& catalogue, QString GameEntry::*field)
 {
+    // Most games share their facts with others, also in memory: then the place tells them apart.
+    QSet<const QChar*> places;
     QSet<QString> values;
     for (const GameEntry& entry : catalogue) {
-        values.insert(entry.*field);
+        const QString& value = entry.*field;
+        const qsizetype before = places.size();
+        places.insert(value.constData());
+        if (places.size() > before) {
+            values.insert(value);
+        }
     }
     QStringList sorted;
     for (const QString& value : std::as_const(values)) {
@@ -105,8 +113,8 @@ void BuildTreeSkeleton(
     for (const RootRow& row : kRoots) {
         const QString key = row.key.toString();
         const FilterRoot* former = tree.Root(key);
-        roots.push_back(
-            FilterRoot{key, lang[row.captionEntry], {}, former != nullptr && former->expanded});
+        roots.push_back(FilterRoot{
+            key, lang[row.captionEntry], {}, false, former != nullptr && former->expanded});
     }
     tree.roots = std::move(roots);
 
@@ -114,8 +122,9 @@ void BuildTreeSkeleton(
     AddChildren(tree, u"ganada", {u"123"_s, u"ABC"_s, u"~!@#"_s});
     AddChildren(tree, u"alphabet", SingleCharacters(u"ABCDEFGHIJKLMNOPQRSTUVWXYZ"));
     AddChildren(tree, u"alphabet", {u"123"_s, u"~!@#"_s});
+    const QString store = KeyPrefix(u"store");
     tree.Root(u"store"_s)->children = {
-        NodeOf(u"store", u"no"_s, lang[41]), NodeOf(u"store", u"yes"_s, lang[42])};
+        FilterNode{store + u"no"_s, lang[41]}, FilterNode{store + u"yes"_s, lang[42]}};
     const QStringList possible = buildNames.mid(0, kMostBuilds);
     const auto end = std::find_if(possible.begin(), possible.end(), IsBlank);
     AddChildren(tree, u"executer", QStringList(possible.begin(), end));

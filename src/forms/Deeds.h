@@ -1,5 +1,6 @@
 #pragma once
 
+#include "finding/FilterTree.h"
 #include "finding/GameList.h"
 #include "shell/MenuModel.h"
 
@@ -21,8 +22,8 @@ struct Deeds {
     using Menu = std::function<shell::MenuModel()>;
 
     // The list. ItemClick follows each change of the selection, SelectionMoved comes when it rests:
-    // on the release of a mouse button or key, every 60 ms while a key repeats, and when the list
-    // loses the focus.
+    // on the release of a mouse button or key, within 60 ms while a key is held or an input method
+    // composes, and when the list loses the focus.
     Deed LVGamelist_ItemClick;
     Deed LVGamelist_SelectionMoved;
     Deed LVGamelist_DblClick; // Enter as well
@@ -46,16 +47,17 @@ struct Deeds {
     std::function<void(finding::View view)> optViewmode_Click;
     Deed Picture2_Click;
     Deed cmdFind_Click; // Enter as well
-    Deed txtFind_Esc;   // the box is empty by then
-    Deed cmdFind_Esc;   // likewise
+    Deed txtFind_Esc;
+    Deed cmdFind_Esc;
     Deed picAddGame_Click;
     Menu mnuDownload; // its right button
     IndexDeed mnuDownload_Click;
     std::function<void(const QStringList& paths)> picAddGame_DragDrop;
     Deed cmdVespra_Click;
 
-    // The tree. `child` is the node's place below its category.
-    std::function<void(const QString& rootKey, int child, bool checked)> TreeView1_NodeCheck;
+    // The tree: its box toggled, to `checked`, and its label clicked.
+    std::function<void(const finding::NodePlace& place, bool checked)> TreeView1_NodeCheck;
+    std::function<void(const finding::NodePlace& place)> TreeView1_NodeClick;
 
     Deed Command1_Click; // gives a job on several games up
 

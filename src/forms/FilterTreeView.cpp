@@ -3,6 +3,8 @@
 #include "forms/CellDelegate.h"
 #include "forms/Metrics.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace pelorin::forms {
@@ -37,6 +39,7 @@ void FilterTreeModel::Follow(std::uint32_t changed)
     for (int root = 0; root < rowCount(); ++root) {
         const QModelIndex parent = index(root, 0);
         const int children = rowCount(parent);
+        Q_EMIT dataChanged(parent, parent, {Qt::CheckStateRole, Qt::FontRole});
         if (children > 0) {
             Q_EMIT dataChanged(
                 index(0, 0, parent), index(children - 1, 0, parent), {Qt::CheckStateRole});
@@ -75,6 +78,13 @@ int FilterTreeModel::columnCount(const QModelIndex&) const
     return 1;
 }
 
+const finding::FilterRoot* FilterTreeModel::Root(const QModelIndex& index) const
+{
+    const auto row = static_cast<std::size_t>(index.row());
+    const bool root = index.isValid() && index.internalId() == kRootId && row < m_tree.roots.size();
+    return root ? &m_tree.roots[row] : nullptr;
+}
+
 const finding::FilterNode* FilterTreeModel::Node(const QModelIndex& index) const
 {
     if (!index.isValid() || index.internalId() == kRootId) {
@@ -86,45 +96,80 @@ const finding::FilterNode* FilterTreeModel::Node(const QModelIndex& index) const
     return there ? &m_tree.roots[root].children[row] : nullptr;
 }
 
+finding::NodePlace FilterTreeModel::PlaceOf(const QModelIndex& index) const
+{
+    if (const finding::FilterRoot* root = Root(index)) {
+        return {root->key};
+    }
+    if (Node(index) == nullptr) {
+        return {};
+    }
+    return {m_tree.roots[static_cast<std::size_t>(index.internalId() - 1)].key, index.row()};
+}
+
 QVariant FilterTreeModel::data(const QModelIndex& index, int role) const
 {
-    if (const finding::FilterNode* node = Node(index)) {
-        switch (role) {
-        case Qt::DisplayRole: return node->text;
-        case Qt::CheckStateRole: return node->checked ? Qt::Checked : Qt::Unchecked;
-        default: return {};
-        }
+    if (const finding::FilterRoot* root = Root(index)) {
+        return RootData(*root, role);
     }
-    const auto row = static_cast<std::size_t>(index.row());
-    const bool root = index.isValid() && index.internalId() == kRootId && row < m_tree.roots.size();
-    return root && role == Qt::DisplayRole ? QVariant(m_tree.roots[row].text) : QVariant();
+    const finding::FilterNode* const node = Node(index);
+    if (node == nullptr) {
+        return {};
+    }
+    switch (role) {
+    case Qt::DisplayRole: return node->text;
+    case Qt::ToolTipRole: return node->text.toHtmlEscaped();
+    case Qt::CheckStateRole: return node->checked ? Qt::Checked : Qt::Unchecked;
+    default: return {};
+    }
+}
+
+QVariant FilterTreeModel::RootData(const finding::FilterRoot& root, int role) const
+{
+    switch (role) {
+    case Qt::DisplayRole: return root.text;
+    case Qt::CheckStateRole: return root.checked ? Qt::Checked : Qt::Unchecked;
+    case Qt::FontRole: {
+        // Seen also while it is folded: a mark stands below it.
+        const bool marked =
+            std::any_of(root.children.begin(), root.children.end(), [](const auto& node) {
+                return node.checked;
+            });
+        QFont bold;
+        bold.setBold(true);
+        return marked ? QVariant(bold) : QVariant();
+    }
+    default: return {};
+    }
 }
 
 bool FilterTreeModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
-    if (role != Qt::CheckStateRole || Node(index) == nullptr) {
+    const finding::NodePlace place = PlaceOf(index);
+    if (role != Qt::CheckStateRole || place.rootKey.isEmpty()) {
         return false;
     }
-    // By value: the deed may rebuild the tree.
-    const QString key = m_tree.roots[static_cast<std::size_t>(index.internalId() - 1)].key;
-    Do(m_deeds.TreeView1_NodeCheck, key, index.row(), value.toInt() == Qt::Checked);
+    m_toggled = true;
+    Do(m_deeds.TreeView1_NodeCheck, place, value.toInt() == Qt::Checked);
     return true;
 }
 
 Qt::ItemFlags FilterTreeModel::flags(const QModelIndex& index) const
 {
-    if (Node(index) == nullptr) {
-        return Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+    Qt::ItemFlags flags = Qt::ItemIsUserCheckable;
+    flags.setFlag(Qt::ItemNeverHasChildren, Node(index) != nullptr);
+    // A category can be unfolded whether or not there is a command.
+    if (Root(index) != nullptr || m_deeds.TreeView1_NodeCheck) {
+        flags |= Qt::ItemIsEnabled | Qt::ItemIsSelectable;
     }
-    const Qt::ItemFlags checkable = Qt::ItemIsUserCheckable | Qt::ItemNeverHasChildren;
-    return m_deeds.TreeView1_NodeCheck ? checkable | Qt::ItemIsEnabled | Qt::ItemIsSelectable
-                                       : checkable;
+    return flags;
 }
 
 FilterTreeView::FilterTreeView(const Shown& shown, const Deeds& deeds, QWidget* parent)
     : QTreeView(parent)
     , m_tree(shown.screens.tree)
     , m_model(m_tree, deeds)
+    , m_deeds(deeds)
     , m_listening(m_tree.changed, [this](std::uint32_t changed) { Follow(changed); })
 {
     setObjectName(u"TreeView1"_s);
@@ -141,7 +186,31 @@ FilterTreeView::FilterTreeView(const Shown& shown, const Deeds& deeds, QWidget* 
     };
     connect(this, &QTreeView::expanded, this, [keep](const QModelIndex& i) { keep(i, true); });
     connect(this, &QTreeView::collapsed, this, [keep](const QModelIndex& i) { keep(i, false); });
+    connect(this, &QTreeView::clicked, this, [this](const QModelIndex& i) { LabelClicked(i); });
     ShowExpanded();
+}
+
+void FilterTreeView::mousePressEvent(QMouseEvent* event)
+{
+    m_secondClick = false;
+    m_model.TakeToggled();
+    QTreeView::mousePressEvent(event);
+}
+
+void FilterTreeView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    m_secondClick = true;
+    m_model.TakeToggled();
+    QTreeView::mouseDoubleClickEvent(event);
+}
+
+/// Qt tells a click on the box as well, right after the box was toggled.
+void FilterTreeView::LabelClicked(const QModelIndex& index)
+{
+    // A double click unfolds a category and marks a child once.
+    if (!m_model.TakeToggled() && !m_secondClick) {
+        Do(m_deeds.TreeView1_NodeClick, m_model.PlaceOf(index));
+    }
 }
 
 void FilterTreeView::Follow(std::uint32_t changed)

@@ -5,9 +5,11 @@
 #include "forms/Shown.h"
 
 #include <QAbstractItemModel>
+#include <QMouseEvent>
 #include <QTreeView>
 
 #include <cstdint>
+#include <utility>
 
 namespace pelorin::forms {
 
@@ -28,11 +30,18 @@ public:
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
+    finding::NodePlace PlaceOf(const QModelIndex& index) const;
+    /// Whether a box was toggled since the last question.
+    bool TakeToggled() { return std::exchange(m_toggled, false); }
+
 private:
+    const finding::FilterRoot* Root(const QModelIndex& index) const;
     const finding::FilterNode* Node(const QModelIndex& index) const;
+    QVariant RootData(const finding::FilterRoot& root, int role) const;
 
     const finding::FilterTree& m_tree;
     const Deeds& m_deeds;
+    bool m_toggled = false;
 };
 
 /// TreeView1.
@@ -40,12 +49,19 @@ class FilterTreeView : public QTreeView {
 public:
     FilterTreeView(const Shown& shown, const Deeds& deeds, QWidget* parent = nullptr);
 
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
 private:
     void Follow(std::uint32_t changed);
     void ShowExpanded();
+    void LabelClicked(const QModelIndex& index);
 
     finding::FilterTree& m_tree;
     FilterTreeModel m_model;
+    const Deeds& m_deeds;
+    bool m_secondClick = false; // the press was that of a double click
     Listening m_listening;
 };
 

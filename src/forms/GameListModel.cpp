@@ -75,6 +75,14 @@ QVariant GameListModel::data(const QModelIndex& index, int role) const
     }
 }
 
+Qt::ItemFlags GameListModel::flags(const QModelIndex& index) const
+{
+    // Nothing is edited here, but Qt's views switch the input method off for rows that can't be, and
+    // then nobody types Hangul ahead.
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    return index.isValid() ? flags | Qt::ItemIsEditable | Qt::ItemNeverHasChildren : flags;
+}
+
 QVariant GameListModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     const bool known = orientation == Qt::Horizontal && section >= 0 && section < finding::kColumns;

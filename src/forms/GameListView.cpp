@@ -13,6 +13,7 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -23,12 +24,37 @@ using finding::GameList;
 
 namespace {
 
-constexpr int kSettleMs = 60;
+constexpr int kSettleMs = 40;
 
 /// Stored widths are for 96 dots an inch.
 double DotsScale(const QWidget& widget)
 {
     return widget.logicalDpiX() / 96.0;
+}
+
+/// Why the list is empty, and what to do about it.
+struct EmptyTexts {
+    OwnEntry reason;
+    OwnEntry hint;
+};
+
+EmptyTexts TextsOf(finding::ListOutcome outcome)
+{
+    using finding::ListOutcome;
+    switch (outcome) {
+    case ListOutcome::NoFilterHit: return {kOwnNoMatch, kOwnFilterHint};
+    case ListOutcome::NoSearchHit: return {kOwnNoMatch, kOwnSearchHint};
+    case ListOutcome::NoGames: return {kOwnNoGames, kOwnAddHint};
+    default: return {};
+    }
+}
+
+/// Keys whose release takes the selection over, also when it could not move.
+bool IsMovingKey(int key)
+{
+    constexpr std::array<int, 6> kKeys{
+        Qt::Key_Up, Qt::Key_Down, Qt::Key_Home, Qt::Key_End, Qt::Key_PageUp, Qt::Key_PageDown};
+    return std::find(kKeys.begin(), kKeys.end(), key) != kKeys.end();
 }
 
 /// The list's keys that are commands of their own.
@@ -60,7 +86,9 @@ GameListView::GameListView(const Shown& shown, const Deeds& deeds, QWidget* pare
     setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);
     BuildViews();
+    m_clock.start();
     m_settle.setSingleShot(true);
+    m_settle.setTimerType(Qt::PreciseTimer);
     connect(&m_settle, &QTimer::timeout, this, [this] { Settle(); });
     connect(
         &m_selection, &QItemSelectionModel::selectionChanged, this, [this] { TakeSelection(); });
@@ -76,6 +104,10 @@ ViewHooks GameListView::Hooks()
         [this](const QMouseEvent& event) { MouseReleased(event); },
         [this] { FocusLost(); },
         [this] { MenuKeyPressed(); },
+        [this](const QString& text) {
+            SelectByUser(m_typeAhead.Type(m_list, text, m_clock.elapsed()));
+        },
+        [this](const QInputMethodEvent& event) { Composed(event); },
         [this](QWidget& viewport) { PaintEmpty(viewport); }};
 }
 
@@ -137,7 +169,17 @@ void GameListView::TakeTexts()
     setAccessibleName(games);
     m_icons->setAccessibleName(games);
     m_details->setAccessibleName(games);
-    m_noGames = Own(m_shown.lang, kOwnNoGames);
+    ShowEmpty();
+}
+
+void GameListView::ShowEmpty()
+{
+    const EmptyTexts texts = TextsOf(m_list.outcome);
+    m_empty = m_list.items.empty() ? Own(m_shown.lang, texts.reason) : QString();
+    m_emptyHint = m_list.items.empty() ? Own(m_shown.lang, texts.hint) : QString();
+    const QString spoken = m_empty.isEmpty() ? QString() : m_empty + u". "_s + m_emptyHint;
+    m_icons->setAccessibleDescription(spoken);
+    m_details->setAccessibleDescription(spoken);
 }
 
 void GameListView::Follow(std::uint32_t changed)
@@ -149,6 +191,9 @@ void GameListView::Follow(std::uint32_t changed)
     m_model.Follow(changed);
     if ((changed & (GameList::Columns | GameList::Reset)) != 0) {
         ShowColumns();
+    }
+    if ((changed & GameList::Reset) != 0) {
+        ShowEmpty();
     }
     if ((changed & (GameList::Reset | GameList::Selection)) != 0) {
         ShowSelection();
@@ -231,10 +276,13 @@ void GameListView::TakeSelection()
         return;
     }
     std::vector<int> rows;
-    for (const QModelIndex& index : m_selection.selectedRows()) {
-        rows.push_back(index.row());
+    for (const QItemSelectionRange& range : m_selection.selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            rows.push_back(row);
+        }
     }
     std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
     const int current = m_selection.currentIndex().row();
     const bool kept = std::binary_search(rows.begin(), rows.end(), current);
     const int selected = kept ? current : (rows.empty() ? -1 : rows.front());
@@ -244,6 +292,10 @@ void GameListView::TakeSelection()
     m_list.selected = selected;
     m_list.selectedRows = std::move(rows);
     m_moved = true;
+    // The key may be held for long, or its release not come at all: an input method keeps it.
+    if (!m_settle.isActive()) {
+        m_settle.start(kSettleMs);
+    }
     Do(m_deeds.LVGamelist_ItemClick);
 }
 
@@ -261,12 +313,17 @@ void GameListView::TakeColumnWidths()
 void GameListView::Settle()
 {
     m_settle.stop();
+    if (m_shown.screens.gate.Locked()) {
+        return; // the list is being rebuilt, which shows a game of its own
+    }
     m_moved = false;
+    m_settled = true;
     Do(m_deeds.LVGamelist_SelectionMoved);
 }
 
 bool GameListView::KeyPressed(const QKeyEvent& event)
 {
+    m_settled = false;
     const bool plain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
     if (plain && (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)) {
         if (!event.isAutoRepeat() && m_model.rowCount() > 0) {
@@ -296,23 +353,17 @@ bool GameListView::KeyPressed(const QKeyEvent& event)
 
 void GameListView::KeyReleased(const QKeyEvent& event)
 {
-    const int key = event.key();
     if (event.isAutoRepeat()) {
-        if (m_moved && !m_settle.isActive()) {
-            m_settle.start(kSettleMs);
-        }
         return;
     }
-    if (key == Qt::Key_Delete) {
+    if (event.key() == Qt::Key_Delete) {
         // A release whose press went to a box that stood here deletes nothing.
         if (std::exchange(m_deleting, false)) {
             Do(m_deeds.LVGamelist_Delete);
         }
         return;
     }
-    const bool shows =
-        key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_Home || key == Qt::Key_End;
-    if (shows || m_moved) {
+    if (m_moved || (IsMovingKey(event.key()) && !m_settled)) {
         Settle();
     }
 }
@@ -328,7 +379,7 @@ void GameListView::MouseReleased(const QMouseEvent& event)
 void GameListView::FocusLost()
 {
     // The release of the key that moved the selection will come to somebody else.
-    if (m_moved && !m_shown.screens.gate.Locked()) {
+    if (m_moved) {
         Settle();
     }
 }
@@ -344,6 +395,24 @@ void GameListView::MenuKeyPressed()
     ShowGameMenu(View()->viewport()->mapToGlobal(View()->visualRect(selected).center()));
 }
 
+void GameListView::Composed(const QInputMethodEvent& event)
+{
+    if (!event.commitString().isEmpty()) {
+        SelectByUser(m_typeAhead.Type(m_list, event.commitString(), m_clock.elapsed()));
+    }
+    SelectByUser(m_typeAhead.Compose(m_list, event.preeditString(), m_clock.elapsed()));
+}
+
+/// -1 leaves the selection as it is.
+void GameListView::SelectByUser(int row)
+{
+    if (row >= 0) {
+        m_selection.setCurrentIndex(
+            m_model.index(row, 0), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        View()->scrollTo(m_selection.currentIndex());
+    }
+}
+
 void GameListView::ShowGameMenu(QPoint position)
 {
     if (m_deeds.mnuGame && !m_list.selectedRows.empty()) {
@@ -353,12 +422,24 @@ void GameListView::ShowGameMenu(QPoint position)
 
 void GameListView::PaintEmpty(QWidget& viewport) const
 {
-    if (m_model.rowCount() > 0) {
+    if (m_model.rowCount() > 0 || m_empty.isEmpty()) {
         return;
     }
     QPainter painter(&viewport);
-    painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
-    painter.drawText(viewport.rect(), Qt::AlignCenter | Qt::TextWordWrap, m_noGames);
+    // Also while the panel rests it is what one has to read.
+    painter.setPen(palette().color(QPalette::Active, QPalette::Text));
+    const int gap = Gap(*this);
+    const int flags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
+    QRect area = viewport.rect().adjusted(2 * gap, gap, -2 * gap, -gap);
+    area.setTop(area.top() + area.height() / 3);
+    QFont large = Scaled(font(), 1.25);
+    large.setBold(true);
+    painter.setFont(large);
+    QRect used;
+    painter.drawText(area, flags, m_empty, &used);
+    area.setTop(used.bottom() + gap);
+    painter.setFont(font());
+    painter.drawText(area, flags, m_emptyHint);
 }
 
 void GameListView::showEvent(QShowEvent* event)

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "finding/TypeAhead.h"
 #include "forms/Deeds.h"
 #include "forms/GameListModel.h"
 #include "forms/Listening.h"
 #include "forms/Shown.h"
 
+#include <QElapsedTimer>
 #include <QFocusEvent>
+#include <QInputMethodEvent>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QListView>
@@ -28,6 +31,8 @@ struct ViewHooks {
     std::function<void(const QMouseEvent& event)> mouseReleased;
     std::function<void()> focusLost;
     std::function<void()> menuKeyPressed;
+    std::function<void(const QString& text)> typed; // letters that are no command
+    std::function<void(const QInputMethodEvent& event)> composed;
     std::function<void(QWidget& viewport)> painted;
 };
 
@@ -40,7 +45,14 @@ public:
         , m_hooks(std::move(hooks))
     {}
 
+    void keyboardSearch(const QString& text) override { m_hooks.typed(text); }
+
 protected:
+    void inputMethodEvent(QInputMethodEvent* event) override
+    {
+        m_hooks.composed(*event);
+        event->accept();
+    }
     void keyPressEvent(QKeyEvent* event) override
     {
         if (!m_hooks.keyPressed(*event)) {
@@ -115,8 +127,11 @@ private:
     void MouseReleased(const QMouseEvent& event);
     void FocusLost();
     void MenuKeyPressed();
+    void Composed(const QInputMethodEvent& event);
+    void SelectByUser(int row);
     void ShowGameMenu(QPoint position);
     void PaintEmpty(QWidget& viewport) const;
+    void ShowEmpty();
 
     Shown m_shown;
     const Deeds& m_deeds;
@@ -126,11 +141,15 @@ private:
     CellDelegate* m_cells;
     QListView* m_icons;
     QTreeView* m_details;
-    QTimer m_settle;          // while a key repeats
+    finding::TypeAhead m_typeAhead;
+    QElapsedTimer m_clock;
+    QTimer m_settle;          // until the release of a key that is held, or without one
     bool m_moved = false;     // the selection is not settled yet
+    bool m_settled = false;   // it is since the last press of a key
     bool m_deleting = false;  // the Delete key is down
     bool m_following = false; // the program changes the views, not the user
-    QString m_noGames;
+    QString m_empty;          // why the list is empty
+    QString m_emptyHint;      // and what to do about it
     std::function<void()> m_viewModeShown;
     Listening m_listening;
 };

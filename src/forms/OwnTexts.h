@@ -47,6 +47,13 @@ inline constexpr OwnEntry kOwnRight{379, u"Right"};
 inline constexpr OwnEntry kOwnNotes{380, u"Notes"};
 inline constexpr OwnEntry kOwnPages{381, u"Pages"};
 inline constexpr OwnEntry kOwnMedia{382, u"Pictures, recordings and manuals"};
+inline constexpr OwnEntry kOwnNoMatch{408, u"No game matches"};
+inline constexpr OwnEntry kOwnSearchHint{409, u"Press Esc in the search box to empty it."};
+inline constexpr OwnEntry kOwnFilterHint{
+    410, u"Take a check mark off on the left to see more games."};
+inline constexpr OwnEntry kOwnAddHint{
+    411,
+    u"Put each game in a folder of its own in the games folder, then start the program again."};
 inline constexpr OwnEntry kOwnSave{448, u"Save"};
 inline constexpr OwnEntry kOwnDiscard{449, u"Discard"};
 inline constexpr OwnEntry kOwnDraft{450, u"Not saved"};

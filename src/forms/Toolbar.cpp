@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 
 #include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -26,9 +27,7 @@ Toolbar::Toolbar(const Shown& shown, const Deeds& deeds, QWidget* parent)
     , m_shown(shown)
     , m_deeds(deeds)
     , m_row(new QHBoxLayout(this))
-    , m_listening(shown.screens.search.changed, [this](std::uint32_t) {
-        m_txtFind->setText(m_shown.screens.search.txtFind);
-    })
+    , m_listening(shown.screens.search.changed, [this](std::uint32_t c) { FollowSearch(c); })
 {
     const int gap = Gap(*this);
     m_row->setContentsMargins(gap, gap, gap, gap);
@@ -137,21 +136,43 @@ void Toolbar::AddGap()
     m_row->addSpacing(2 * Gap(*this));
 }
 
+void Toolbar::FollowSearch(std::uint32_t changed)
+{
+    const QString& term = m_shown.screens.search.txtFind;
+    if ((changed & finding::SearchBox::Text) != 0 && m_txtFind->text() != term) {
+        m_txtFind->setText(term);
+    }
+    if ((changed & finding::SearchBox::Focus) != 0) {
+        m_txtFind->setFocus();
+    }
+}
+
 bool Toolbar::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::FocusOut) {
+        m_pressed = 0;
+    }
+    if (event->type() == QEvent::KeyPress) {
+        m_pressed = static_cast<QKeyEvent*>(event)->key();
+    }
     if (event->type() == QEvent::KeyRelease) {
         const auto& key = *static_cast<QKeyEvent*>(event);
-        const bool box = watched == m_txtFind;
-        if (box && (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter)) {
-            Do(m_deeds.cmdFind_Click);
-        }
-        if (key.key() == Qt::Key_Escape) {
-            m_txtFind->clear();
-            m_shown.screens.search.txtFind.clear();
-            Do(box ? m_deeds.txtFind_Esc : m_deeds.cmdFind_Esc);
+        // A release whose press closed a menu or a box over the window is not meant for the search.
+        if (!key.isAutoRepeat() && key.key() == std::exchange(m_pressed, 0)) {
+            KeyReleased(watched == m_txtFind, key.key());
         }
     }
     return QWidget::eventFilter(watched, event);
+}
+
+void Toolbar::KeyReleased(bool inBox, int key) const
+{
+    if (inBox && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+        Do(m_deeds.cmdFind_Click);
+    }
+    if (key == Qt::Key_Escape) {
+        Do(inBox ? m_deeds.txtFind_Esc : m_deeds.cmdFind_Esc);
+    }
 }
 
 int Toolbar::VespraLeft() const

@@ -10,6 +10,8 @@
 #include <QToolButton>
 #include <QWidget>
 
+#include <cstdint>
+
 namespace pelorin::forms {
 
 /// The row of buttons over the list. Its controls keep to the left, so that cmdVespra's right edge
@@ -42,6 +44,8 @@ private:
     void AddRunButtons();
     void AddViewButtons();
     void AddFind();
+    void FollowSearch(std::uint32_t changed);
+    void KeyReleased(bool inBox, int key) const;
     void AddGap();
 
     Shown m_shown;
@@ -51,6 +55,7 @@ private:
     QToolButton* m_picture2 = nullptr;
     QLineEdit* m_txtFind = nullptr;
     QToolButton* m_cmdFind = nullptr;
+    int m_pressed = 0; // the key that is down in the box or on the button
     QWidget* m_addGamePlace = nullptr;
     QToolButton* m_cmdVespra = nullptr;
     Listening m_listening;

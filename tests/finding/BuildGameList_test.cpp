@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <numeric>
 #include <random>
 
 using namespace Qt::StringLiterals;
@@ -39,15 +40,18 @@ protected:
     }
     ListOutcome Build(const QString& term = QString())
     {
-        return Build(finding::WholeIndex(m_catalogue), term);
+        std::vector<int> whole(m_catalogue.size());
+        std::iota(whole.begin(), whole.end(), 0);
+        return Build(whole, term);
     }
-    ListOutcome Build(const std::vector<int>& index, const QString& term = QString())
+    ListOutcome Build(const finding::FilterIndex& index, const QString& term = QString())
     {
         Number();
         m_told.clear();
         TitleOrder& order = m_korean ? m_orderK : m_orderE;
-        return finding::BuildGameList(
-            m_list, order, {m_catalogue, m_builds, m_korean, term}, index);
+        const finding::ListSource source{m_catalogue, m_builds, m_korean, term, u" [압축]"_s};
+        finding::BuildGameList(m_list, order, source, index);
+        return m_list.outcome;
     }
     QStringList Column(std::size_t column = 0) const
     {
@@ -138,7 +142,7 @@ TEST_F(BuildGameListTest, SearchIgnoresBlanksAndCase)
     EXPECT_THAT(Column(2), ElementsAre(u"2"_s));
     Build(u"   "_s);
     EXPECT_EQ(m_list.items.size(), 5U);
-    EXPECT_EQ(Build(u"no such"_s), ListOutcome::NoItem);
+    EXPECT_EQ(Build(u"no such"_s), ListOutcome::NoSearchHit);
     EXPECT_EQ(m_list.selected, -1);
     EXPECT_TRUE(m_list.selectedRows.empty());
 }
@@ -148,10 +152,12 @@ TEST_F(BuildGameListTest, FiltersThatPassNothingAreTold)
     m_catalogue = {Game(u"1"_s, u"a"_s), Game(u"2"_s, u"b"_s), Game(u"3"_s, u"c"_s)};
     EXPECT_EQ(Build(std::vector<int>{0, 2}), ListOutcome::Items);
     EXPECT_THAT(Column(2), ElementsAre(u"1"_s, u"3"_s));
-    EXPECT_EQ(Build(std::vector<int>{}), ListOutcome::NoFilterHit);
+    EXPECT_EQ(Build(std::nullopt), ListOutcome::NoFilterHit);
     EXPECT_TRUE(m_list.items.empty());
+    EXPECT_EQ(m_list.selected, -1);
+    EXPECT_THAT(m_told, ElementsAre(GameList::Reset | GameList::Selection));
     m_catalogue.clear();
-    EXPECT_EQ(Build(), ListOutcome::NoItem);
+    EXPECT_EQ(Build(), ListOutcome::NoGames);
 }
 
 TEST_F(BuildGameListTest, AFolderThatStandsTwiceIsShownOnce)
@@ -179,6 +185,13 @@ TEST_F(BuildGameListTest, ByAnotherColumnAndDownwards)
     m_list.sort = {0, true};
     Build();
     EXPECT_THAT(Column(), ElementsAre(u"c"_s, u"b"_s, u"a"_s));
+    // What is kept of a column's order follows the texts.
+    m_list.sort = {4, false};
+    m_catalogue[1].Maker = u"Zulu"_s;
+    Build();
+    EXPECT_THAT(Column(), ElementsAre(u"a"_s, u"c"_s, u"b"_s));
+    Build(std::vector<int>{1, 2});
+    EXPECT_THAT(Column(), ElementsAre(u"c"_s, u"b"_s));
     m_list.sort = {99, false};
     Build();
     EXPECT_THAT(Column(), ElementsAre(u"a"_s, u"b"_s, u"c"_s));

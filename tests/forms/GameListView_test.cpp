@@ -103,16 +103,22 @@ TEST_F(GameListViewTest, TheSelectionFollowsKeysAtOnceAndSettlesOnTheRelease)
     EXPECT_EQ(did, QStringList{u"ItemClick"_s});
     SendKey(view, QEvent::KeyRelease, Qt::Key_Down, false);
     EXPECT_EQ(did, (QStringList{u"ItemClick"_s, u"SelectionMoved"_s}));
-    // At the upper edge nothing moves, and the release shows the game all the same.
-    did.clear();
-    SendKey(view, QEvent::KeyPress, Qt::Key_Home, false);
-    SendKey(view, QEvent::KeyRelease, Qt::Key_Home, false);
-    SendKey(view, QEvent::KeyPress, Qt::Key_Up, false);
-    SendKey(view, QEvent::KeyRelease, Qt::Key_Up, false);
-    EXPECT_EQ(did, (QStringList{u"ItemClick"_s, u"SelectionMoved"_s, u"SelectionMoved"_s}));
+    // At the edges nothing moves, and the release shows the game all the same.
+    for (const auto& [there, further] :
+         {std::pair{Qt::Key_Home, Qt::Key_Up},
+          {Qt::Key_PageDown, Qt::Key_Down},
+          {Qt::Key_PageUp, Qt::Key_PageUp},
+          {Qt::Key_End, Qt::Key_PageDown}}) {
+        did.clear();
+        for (const int key : {there, further}) {
+            SendKey(view, QEvent::KeyPress, key, false);
+            SendKey(view, QEvent::KeyRelease, key, false);
+        }
+        EXPECT_EQ(did, (QStringList{u"ItemClick"_s, u"SelectionMoved"_s, u"SelectionMoved"_s}));
+    }
 }
 
-TEST_F(GameListViewTest, ARepeatingKeySettlesNowAndThen)
+TEST_F(GameListViewTest, AHeldKeySettlesNowAndThenAndOnceAGame)
 {
     screens.list.view = View::List;
     Open();
@@ -125,7 +131,7 @@ TEST_F(GameListViewTest, ARepeatingKeySettlesNowAndThen)
     EXPECT_EQ(did.count(u"SelectionMoved"_s), 0);
     EXPECT_TRUE(QTest::qWaitFor([&] { return did.count(u"SelectionMoved"_s) == 1; }));
     SendKey(view, QEvent::KeyRelease, Qt::Key_Down, false);
-    EXPECT_EQ(did.count(u"SelectionMoved"_s), 2);
+    EXPECT_EQ(did.count(u"SelectionMoved"_s), 1) << "it has not moved since";
 }
 
 TEST_F(GameListViewTest, TheSelectionSettlesWhenTheFocusLeavesBeforeTheRelease)
@@ -140,6 +146,39 @@ TEST_F(GameListViewTest, TheSelectionSettlesWhenTheFocusLeavesBeforeTheRelease)
     Icons()->setFocus();
     Find("tabInfo")->setFocus();
     EXPECT_EQ(did.size(), 2) << "nothing has moved since";
+}
+
+TEST_F(GameListViewTest, LettersAndTheInputMethodTypeAhead)
+{
+    screens.list.items[1].text[0] = u"Ｚebra"_s;
+    screens.list.items[3].text[0] = u"별 헤는 밤"_s;
+    for (const View view : {View::List, View::Details}) {
+        SCOPED_TRACE(static_cast<int>(view));
+        window.reset();
+        screens.list.view = view;
+        screens.list.Select(0);
+        Open();
+        QAbstractItemView& shown = view == View::List ? *Icons() : *Details();
+        window->activateWindow();
+        shown.setFocus();
+        EXPECT_TRUE(shown.testAttribute(Qt::WA_InputMethodEnabled));
+        QInputMethodEvent composing(u"벼"_s, {});
+        QCoreApplication::sendEvent(&shown, &composing);
+        EXPECT_EQ(screens.list.selected, 3);
+        EXPECT_TRUE(shown.testAttribute(Qt::WA_InputMethodEnabled)) << "of the new row as well";
+        // No release of a key follows, and the game is shown all the same.
+        EXPECT_TRUE(QTest::qWaitFor([&] { return did.contains(u"SelectionMoved"_s); }));
+        QInputMethodEvent done;
+        done.setCommitString(u"별"_s);
+        QCoreApplication::sendEvent(&shown, &done);
+        QTest::keyClick(&shown, Qt::Key_Space);
+        EXPECT_EQ(screens.list.selected, 3);
+    }
+    window.reset();
+    screens.list.Select(3);
+    Open();
+    QTest::keyClick(Details(), Qt::Key_Z);
+    EXPECT_EQ(screens.list.selected, 1);
 }
 
 TEST_F(GameListViewTest, EnterRunsOnceHoweverLongItIsHeld)

@@ -13,6 +13,7 @@
 #include <QTabBar>
 #include <QTimer>
 #include <QToolButton>
+#include <QTreeView>
 
 using namespace Qt::StringLiterals;
 
@@ -123,19 +124,93 @@ TEST_F(WindowDeedsTest, ViewButtonsAskAndFollowTheModel)
     EXPECT_FALSE(Find<QToolButton>("optViewmode_3")->isChecked());
 }
 
-TEST_F(WindowDeedsTest, TheSearchBoxIsWrittenWhileTypingAndSearchedOnEnter)
+TEST_F(WindowDeedsTest, TheSearchHearsTheReleaseOfItsOwnKeys)
 {
     deeds.cmdFind_Click = [&] { did << u"find "_s + screens.search.txtFind; };
-    deeds.txtFind_Esc = [&] { did << u"esc "_s + screens.search.txtFind; };
+    deeds.txtFind_Esc = [&] {
+        did << u"esc "_s + screens.search.txtFind;
+        screens.search.txtFind.clear();
+        screens.search.changed.Tell(finding::SearchBox::Text);
+    };
+    deeds.cmdFind_Esc = Note(u"button esc"_s);
     Open();
     auto* txtFind = Find<QLineEdit>("txtFind");
     QTest::keyClicks(txtFind, u"star"_s);
     EXPECT_EQ(screens.search.txtFind, u"star"_s);
+    QTest::keyPress(txtFind, Qt::Key_Return);
     EXPECT_EQ(did, QStringList());
-    QTest::keyClick(txtFind, Qt::Key_Return);
+    QTest::keyRelease(txtFind, Qt::Key_Return);
+    QTest::keyClick(txtFind, Qt::Key_Enter);
     QTest::keyClick(txtFind, Qt::Key_Escape);
-    EXPECT_EQ(did, (QStringList{u"find star"_s, u"esc "_s}));
+    QTest::keyClick(Find("cmdFind"), Qt::Key_Return);
+    QTest::keyClick(Find("cmdFind"), Qt::Key_Escape);
+    Press("cmdFind");
+    EXPECT_EQ(
+        did,
+        (QStringList{u"find star"_s, u"find star"_s, u"esc star"_s, u"button esc"_s, u"find "_s}));
     EXPECT_EQ(txtFind->text(), QString());
+    // The press closed a menu of the box.
+    QTest::keyRelease(txtFind, Qt::Key_Escape);
+    EXPECT_EQ(did.size(), 5);
+    Find("tabInfo")->setFocus();
+    screens.search.changed.Tell(finding::SearchBox::Focus);
+    EXPECT_TRUE(txtFind->hasFocus());
+}
+
+TEST_F(WindowDeedsTest, TheTreeTellsItsTwoKindsOfClicks)
+{
+    screens.tree.roots = {{u"store"_s, u"Stored"_s, {{u"no"_s, u"No"_s}, {u"yes"_s, u"Yes"_s}}}};
+    screens.tree.roots[0].expanded = true;
+    const auto place = [](const finding::NodePlace& node) {
+        return node.rootKey + u' ' + QString::number(node.child);
+    };
+    deeds.TreeView1_NodeCheck = [&](const finding::NodePlace& node, bool checked) {
+        did << u"check "_s + place(node) + (checked ? u" on"_s : u" off"_s);
+        screens.tree.roots[0].children[1].checked = checked;
+        screens.tree.changed.Tell(finding::FilterTree::Checks);
+    };
+    deeds.TreeView1_NodeClick = [&](const finding::NodePlace& node) {
+        did << u"click "_s + place(node);
+    };
+    Open();
+    auto* tree = Find<QTreeView>("TreeView1");
+    const QModelIndex root = tree->model()->index(0, 0);
+    const QModelIndex child = tree->model()->index(1, 0, root);
+    // The box stands before the text.
+    const auto box = [&](const QModelIndex& index) {
+        QStyleOptionViewItem option;
+        option.initFrom(tree);
+        option.rect = tree->visualRect(index);
+        option.features = QStyleOptionViewItem::HasCheckIndicator;
+        return tree->style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, tree);
+    };
+    const auto click = [&](const QPoint& point) {
+        QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, point);
+    };
+    const auto label = [&](const QModelIndex& index) {
+        return QPoint(box(index).right() + 12, box(index).center().y());
+    };
+    click(box(child).center());
+    EXPECT_EQ(child.data(Qt::CheckStateRole).toInt(), Qt::Checked);
+    EXPECT_TRUE(root.data(Qt::FontRole).value<QFont>().bold())
+        << "a mark is seen when it is folded";
+    click(label(child));
+    click(box(root).center());
+    click(label(root));
+    tree->setCurrentIndex(child);
+    QTest::keyClick(tree, Qt::Key_Space);
+    click(label(child));
+    QTest::mouseDClick(tree->viewport(), Qt::LeftButton, {}, label(child));
+    EXPECT_EQ(
+        did,
+        (QStringList{
+            u"check store 1 on"_s,
+            u"click store 1"_s,
+            u"check store -1 on"_s,
+            u"click store -1"_s,
+            u"check store 1 off"_s,
+            u"click store 1"_s}));
+    EXPECT_TRUE(tree->isExpanded(root));
 }
 
 TEST_F(WindowDeedsTest, TheListsKeysReachTheirCommands)

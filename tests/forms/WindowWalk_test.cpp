@@ -126,7 +126,7 @@ protected:
         deeds.chkCD_Click = [](bool) {};
         deeds.chkMountCD_Click = [](bool) {};
         deeds.optViewmode_Click = [](finding::View) {};
-        deeds.TreeView1_NodeCheck = [](const QString&, int, bool) {};
+        deeds.TreeView1_NodeCheck = [](const finding::NodePlace&, bool) {};
     }
 
     void FillModels()

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "library/GameEntry.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace pelorin::finding {
+
+/// What the list is built from. All of it must outlive the call.
+struct ListSource {
+    const library::Catalogue& catalogue;
+    const QStringList& buildNames; // value list of the first option cell
+    bool TitleLanguageKorean = true;
+    QString txtFind;   // as typed
+    QString storeMark; // what the titles of stored games hold
+};
+
+/// The stored title in that language, which may be empty.
+inline const QString& TitleOf(const library::GameEntry& entry, bool titleLanguageKorean)
+{
+    return titleLanguageKorean ? entry.TitleK : entry.TitleE;
+}
+
+} // namespace pelorin::finding
