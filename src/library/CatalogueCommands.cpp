@@ -282,7 +282,7 @@ void RefreshGameEntry(Launcher& launcher, const QString& folder)
     }
 }
 
-Done RemoveGameEntry(Launcher& launcher, const QString& folder)
+Done MoveGameToBin(Launcher& launcher, const QString& folder)
 {
     if (!platform::IsPlainName(folder)) {
         return platform::Error{platform::ErrorKind::Refused, folder};
@@ -292,14 +292,18 @@ Done RemoveGameEntry(Launcher& launcher, const QString& folder)
     // Without its root a game may be on a disk that is unplugged, and then it is not gone.
     const bool vanished = !binned && !archives::FolderExists(path) &&
                           archives::FolderExists(launcher.places.gamesRoot);
-    if (!binned && !vanished) {
-        return binned;
-    }
-    RemoveFromCatalogue(launcher.catalogue, launcher.icons, folder);
+    return vanished ? platform::Success() : binned;
+}
+
+void RemoveGameEntries(Launcher& launcher, const QStringList& folders)
+{
+    RemoveFromCatalogue(
+        launcher.catalogue, launcher.icons, QSet<QString>(folders.begin(), folders.end()));
     launcher.screens.list.changed.Tell(finding::GameList::Icons);
-    FolderGone(launcher, folder);
+    for (const QString& folder : folders) {
+        FolderGone(launcher, folder);
+    }
     shell::SetPanelsEnabled(launcher, !launcher.catalogue.empty());
-    return platform::Success();
 }
 
 void TellEmptyLibrary(Launcher& launcher)

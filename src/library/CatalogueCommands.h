@@ -4,6 +4,7 @@
 #include "platform/Outcome.h"
 
 #include <QString>
+#include <QStringList>
 
 namespace pelorin::shell {
 struct Launcher;
@@ -30,10 +31,13 @@ void ShowGameEntry(shell::Launcher& launcher, const QString& folder);
 /// RereadGameEntry, and the details of the current game are shown anew.
 void RefreshGameEntry(shell::Launcher& launcher, const QString& folder);
 
-/// Moves the game's folder to the recycle bin and takes the game out of the Catalogue. A folder that
-/// is gone already counts as moved. On an error the game stays as it is. The caller refreshes the
-/// list, and calls TellEmptyLibrary when the Catalogue is empty then.
-platform::Done RemoveGameEntry(shell::Launcher& launcher, const QString& folder);
+/// The first half of a game's removal: moves its folder to the recycle bin. A folder that is gone
+/// already counts as moved. On an error the game stays as it is.
+platform::Done MoveGameToBin(shell::Launcher& launcher, const QString& folder);
+/// The second half: takes games whose folders are gone out of the Catalogue, all at once, since the
+/// gaps are closed each time. The caller refreshes the list, and calls TellEmptyLibrary when no game
+/// is left then.
+void RemoveGameEntries(shell::Launcher& launcher, const QStringList& folders);
 
 /// Deletes the cache files of a library that has no game any more, and tells so in a box.
 void TellEmptyLibrary(shell::Launcher& launcher);

@@ -29,15 +29,14 @@ int PositionBySuffix(const Catalogue& catalogue, const QString& folder)
         catalogue, [&](const GameEntry& entry) { return entry.Folder.endsWith(folder); });
 }
 
-bool RemoveFromCatalogue(Catalogue& catalogue, IconSheet& icons, const QString& folder)
+bool RemoveFromCatalogue(Catalogue& catalogue, IconSheet& icons, const QSet<QString>& folders)
 {
     const std::size_t before = catalogue.size();
     std::size_t free = 0;
+    std::vector<int> removed;
     for (std::size_t i = 0; i < before; ++i) {
-        if (catalogue[i].Folder == folder) {
-            if (static_cast<int>(free) < icons.Count()) {
-                icons.Remove(static_cast<int>(free));
-            }
+        if (folders.contains(catalogue[i].Folder)) {
+            removed.push_back(static_cast<int>(i));
             continue;
         }
         if (free != i) {
@@ -47,6 +46,7 @@ bool RemoveFromCatalogue(Catalogue& catalogue, IconSheet& icons, const QString& 
         ++free;
     }
     catalogue.resize(free);
+    icons.Remove(removed);
     return free != before;
 }
 

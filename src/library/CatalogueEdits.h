@@ -3,6 +3,7 @@
 #include "library/GameEntry.h"
 #include "library/IconSheet.h"
 
+#include <QSet>
 #include <QString>
 
 namespace pelorin::library {
@@ -14,8 +15,8 @@ int PositionOf(const Catalogue& catalogue, const QString& folder);
 /// the details panel works that way. -1 if there is none, or the name is empty.
 int PositionBySuffix(const Catalogue& catalogue, const QString& folder);
 
-/// Takes the game out, with its icon, and closes the gap: positions, ListIndex and icons agree
-/// again. False when there is no such game.
-bool RemoveFromCatalogue(Catalogue& catalogue, IconSheet& icons, const QString& folder);
+/// Takes the games out, with their icons, and closes the gaps: positions, ListIndex and icons agree
+/// again. False when there is none of them.
+bool RemoveFromCatalogue(Catalogue& catalogue, IconSheet& icons, const QSet<QString>& folders);
 
 } // namespace pelorin::library

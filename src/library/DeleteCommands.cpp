@@ -43,42 +43,51 @@ bool MayDelete(Launcher& launcher, const std::vector<ListedGame>& games)
                true}) == platform::Answer::Yes;
 }
 
-/// A line of the report; empty when the game is gone.
-QString DeleteOne(Launcher& launcher, const ListedGame& game)
+/// Why the game stays; empty when it has gone.
+QString BinOne(Launcher& launcher, const QString& folder)
 {
-    QString reason;
-    if (launcher.runningGames.contains(game.folder)) {
-        reason = launcher.lang.OwnText(426, u"It is running."_s);
-    } else if (const platform::Done removed = RemoveGameEntry(launcher, game.folder); !removed) {
-        reason = launcher.lang.Told(removed.Failure().Told());
+    if (launcher.runningGames.contains(folder)) {
+        return launcher.lang.OwnText(426, u"It is running."_s);
     }
-    return reason.isEmpty() ? reason : launcher.lang[311] + game.title + u" ==> "_s + reason;
+    const platform::Done binned = MoveGameToBin(launcher, folder);
+    return binned ? QString() : launcher.lang.Told(binned.Failure().Told());
 }
 
 /// The lines of the report. Ends early when the user gives up.
-QStringList DeleteAll(Launcher& launcher, const std::vector<ListedGame>& games)
+QStringList BinAll(Launcher& launcher, const std::vector<ListedGame>& games)
 {
-    const shell::Job job(launcher);
     QStringList report;
-    if (!job.Held()) {
-        return report;
-    }
+    QStringList gone;
     const int count = static_cast<int>(games.size());
-    if (count > 1) {
-        shell::ShowBusyMessage(
-            launcher, launcher.lang.OwnText(427, u"Moving games to the recycle bin."_s));
-    }
     for (int i = 0; i < count; ++i) {
         const ListedGame& game = games[static_cast<std::size_t>(i)];
         if (count > 1 && !shell::ShowBatchStep(launcher, i, count, game.title)) {
             break;
         }
-        report << DeleteOne(launcher, game);
+        const QString reason = BinOne(launcher, game.folder);
+        if (reason.isEmpty()) {
+            gone << game.folder;
+        } else {
+            report << launcher.lang[311] + game.title + u" ==> "_s + reason;
+        }
     }
-    if (count > 1) {
-        shell::HideBusyMessage(launcher);
+    RemoveGameEntries(launcher, gone);
+    return report;
+}
+
+QStringList DeleteAll(Launcher& launcher, const std::vector<ListedGame>& games)
+{
+    const shell::Job job(launcher);
+    if (!job.Held()) {
+        return {};
     }
-    report.removeAll(QString());
+    if (games.size() == 1) {
+        return BinAll(launcher, games);
+    }
+    shell::ShowBusyMessage(
+        launcher, launcher.lang.OwnText(427, u"Moving games to the recycle bin."_s));
+    QStringList report = BinAll(launcher, games);
+    shell::HideBusyMessage(launcher);
     return report;
 }
 

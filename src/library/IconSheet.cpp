@@ -2,6 +2,8 @@
 
 #include "library/IconImages.h"
 
+#include <utility>
+
 namespace pelorin::library {
 
 namespace {
@@ -37,10 +39,23 @@ void IconSheet::Append(const IconPixels& icon)
     m_small.emplace_back();
 }
 
-void IconSheet::Remove(int index)
+void IconSheet::Remove(const std::vector<int>& indexes)
 {
-    m_large.erase(m_large.begin() + index);
-    m_small.erase(m_small.begin() + index);
+    auto next = indexes.begin();
+    std::size_t free = 0;
+    for (std::size_t i = 0; i < m_large.size(); ++i) {
+        if (next != indexes.end() && At(*next) == i) {
+            ++next;
+            continue;
+        }
+        if (free != i) {
+            m_large[free] = std::move(m_large[i]);
+            m_small[free] = std::move(m_small[i]);
+        }
+        ++free;
+    }
+    m_large.resize(free);
+    m_small.resize(free);
 }
 
 const IconPixels& IconSheet::Large(int index) const

@@ -31,8 +31,8 @@ public:
     /// `icon.side` is 32.
     void Set(int index, const IconPixels& icon);
     void Append(const IconPixels& icon);
-    /// Drops one icon; those behind it move up.
-    void Remove(int index);
+    /// Drops the icons at these places, ascending; those behind them move up.
+    void Remove(const std::vector<int>& indexes);
 
     /// 0 to Count() - 1.
     const IconPixels& Large(int index) const;

@@ -14,14 +14,13 @@
 using namespace Qt::StringLiterals;
 using namespace pelorin;
 using platform::Answer;
-using test::Click;
 using test::Installation;
 using Kind = test::ScriptedPrompts::Kind;
 
 namespace {
 
 class DeleteGames : public testing::Test {
-protected:
+public:
     /// Folders a, b, c ... whose titles are alike in pairs.
     void StartWith(int games)
     {

@@ -114,18 +114,18 @@ TEST(Catalogue, AGameLeavesOnlyWhenTheBinTookIt)
     app.AddGame(u"둘"_s);
     const auto launcher = app.Start();
     app.fakes.bin.refuseAll = true;
-    EXPECT_FALSE(library::RemoveGameEntry(*launcher, u"둘"_s));
-    EXPECT_EQ(launcher->catalogue.size(), 2U);
+    EXPECT_FALSE(library::MoveGameToBin(*launcher, u"둘"_s));
     app.fakes.bin.refuseAll = false;
     for (const QString& name : {u""_s, u".."_s, u"../Games"_s}) {
-        EXPECT_FALSE(library::RemoveGameEntry(*launcher, name)) << name.toStdString();
+        EXPECT_FALSE(library::MoveGameToBin(*launcher, name)) << name.toStdString();
     }
-    EXPECT_TRUE(library::RemoveGameEntry(*launcher, u"둘"_s));
+    EXPECT_TRUE(library::MoveGameToBin(*launcher, u"둘"_s));
+    library::RemoveGameEntries(*launcher, {u"둘"_s});
     ASSERT_EQ(launcher->catalogue.size(), 1U);
     EXPECT_EQ(launcher->catalogue.front().ListIndex, 1);
     EXPECT_EQ(launcher->icons.Count(), 1);
 
-    EXPECT_TRUE(library::RemoveGameEntry(*launcher, u"하나"_s));
+    library::RemoveGameEntries(*launcher, {u"하나"_s});
     EXPECT_TRUE(launcher->catalogue.empty());
     EXPECT_FALSE(launcher->screens.frame.picBack1Enabled);
 }

@@ -37,15 +37,14 @@ TEST(CatalogueEdits, FindsByNameAndBySuffix)
 TEST(CatalogueEdits, RemovalClosesTheGap)
 {
     Three three;
-    ASSERT_TRUE(library::RemoveFromCatalogue(three.catalogue, three.icons, u"name"_s));
+    ASSERT_TRUE(library::RemoveFromCatalogue(three.catalogue, three.icons, {u"name"_s}));
     ASSERT_EQ(three.catalogue.size(), 2U);
     ASSERT_EQ(three.icons.Count(), 2);
     EXPECT_EQ(three.catalogue[1].Folder, u"other"_s);
     EXPECT_EQ(three.catalogue[1].ListIndex, 2);
     EXPECT_EQ(three.icons.Large(1).bgr, test::NumberedIcon(3).bgr);
-    EXPECT_FALSE(library::RemoveFromCatalogue(three.catalogue, three.icons, u"name"_s));
-    library::RemoveFromCatalogue(three.catalogue, three.icons, u"long name"_s);
-    library::RemoveFromCatalogue(three.catalogue, three.icons, u"other"_s);
+    EXPECT_FALSE(library::RemoveFromCatalogue(three.catalogue, three.icons, {u"name"_s}));
+    library::RemoveFromCatalogue(three.catalogue, three.icons, {u"other"_s, u"long name"_s});
     EXPECT_TRUE(three.catalogue.empty());
     EXPECT_TRUE(three.icons.IsEmpty());
 }
@@ -54,7 +53,7 @@ TEST(CatalogueEdits, AGameThatStandsTwiceGoesTwice)
 {
     Three three;
     three.catalogue[2].Folder = u"long name"_s;
-    ASSERT_TRUE(library::RemoveFromCatalogue(three.catalogue, three.icons, u"long name"_s));
+    ASSERT_TRUE(library::RemoveFromCatalogue(three.catalogue, three.icons, {u"long name"_s}));
     ASSERT_EQ(three.catalogue.size(), 1U);
     ASSERT_EQ(three.icons.Count(), 1);
     EXPECT_EQ(three.catalogue[0].ListIndex, 1);

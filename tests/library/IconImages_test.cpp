@@ -133,7 +133,7 @@ TEST(IconSheetTest, SmallIconsFollowTheLargeOnes)
     EXPECT_EQ(icons.Small(1).bgr, library::PlainIcon(16, 50, 60, 70).bgr);
     icons.Set(1, library::PlainIcon(32, 200, 0, 0));
     EXPECT_EQ(icons.Small(1).bgr, library::PlainIcon(16, 200, 0, 0).bgr);
-    icons.Remove(0);
+    icons.Remove({0});
     EXPECT_EQ(icons.Count(), 1);
     EXPECT_EQ(icons.Small(0).bgr, library::PlainIcon(16, 200, 0, 0).bgr);
     icons.Resize(3, library::PlainIcon(32, 9, 9, 9));

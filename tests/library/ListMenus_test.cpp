@@ -41,9 +41,9 @@ shell::LangTable TitledLang()
 TEST(ListMenus, WhatTheGameMenuShowsFollowsTheSelection)
 {
     struct Row {
-        int selected;
+        int selected = 0;
         QList<int> commands;
-        const char* shape;
+        const char* shape = "";
     };
     const QList<int> everything{
         0, 1, 3, 4, 6, 7, 8, 10, 11, 12, 13, 15, 16, 18, 20, 21, 22, 23, 25};

@@ -47,7 +47,7 @@ public:
         if (!QTest::qWaitFor([&] { return m_home.Exists(record); }, kPatienceMs)) {
             return QStringLiteral("nothing");
         }
-        const QString what = QString::fromUtf8(m_home.ReadRaw(record));
+        QString what = QString::fromUtf8(m_home.ReadRaw(record));
         QFile::remove(m_home.Path(record));
         return what;
     }
