@@ -111,6 +111,22 @@ TEST_F(QtPromptsTest, AReportIsShownWholeAndClosedByItsButton)
         dialog.findChild<QPushButton*>(u"cmdOk"_s)->click();
     });
     prompts.ShowReport(u"title"_s, u"<a>\nb"_s);
+
+    // By a key too, wherever the focus is; and the text takes the size of the form.
+    for (const int key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
+        WhenOpen([key](QDialog& dialog) {
+            auto* text = dialog.findChild<QPlainTextEdit*>(u"txtOutput"_s);
+            const QSize before = text->size();
+            dialog.resize(dialog.size() + QSize(50, 70));
+            QCoreApplication::processEvents();
+            EXPECT_EQ(text->size(), before + QSize(50, 70));
+            text->setFocus();
+            QTest::keyClick(text, static_cast<Qt::Key>(key));
+            EXPECT_FALSE(dialog.isVisible()) << key;
+            dialog.close();
+        });
+        prompts.ShowReport(u"title"_s, u"text"_s);
+    }
 }
 
 } // namespace pelorin::test

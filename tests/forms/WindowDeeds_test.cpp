@@ -122,6 +122,11 @@ TEST_F(WindowDeedsTest, ViewButtonsAskAndFollowTheModel)
     screens.list.changed.Tell(finding::GameList::ViewMode);
     EXPECT_TRUE(Find<QToolButton>("optViewmode_0")->isChecked());
     EXPECT_FALSE(Find<QToolButton>("optViewmode_3")->isChecked());
+    // Tab reaches the one that is on, the arrows go on from there.
+    Find("optViewmode_0")->setFocus();
+    did.clear();
+    QTest::keyClick(Find("optViewmode_0"), Qt::Key_Right);
+    EXPECT_EQ(did, QStringList{u"view 1"_s});
 }
 
 TEST_F(WindowDeedsTest, TheSearchHearsTheReleaseOfItsOwnKeys)
