@@ -197,7 +197,19 @@ bool ShownProgress::Step(Phase phase, int value, int percent)
     panel.value = value;
     panel.text = ProgressText(m_launcher.lang, phase, percent);
     panel.changed.Tell(shell::ProgressPanel::All);
+    return RunEvents();
+}
+
+bool ShownProgress::Breathe()
+{
+    constexpr qint64 kLongestWaitMs = 20;
+    return m_launcher.ports.timers.NowMs() - m_eventsRan < kLongestWaitMs || RunEvents();
+}
+
+bool ShownProgress::RunEvents()
+{
     m_launcher.ports.timers.RunPendingEvents();
+    m_eventsRan = m_launcher.ports.timers.NowMs();
     return !m_launcher.flags.Ending;
 }
 

@@ -46,7 +46,8 @@ void TellEmptyLibrary(shell::Launcher& launcher);
 /// were filled, so that the next start scans. Games that the files can't hold are told.
 platform::Done SaveCatalogue(shell::Launcher& launcher);
 
-/// Shows a long job's progress in picProgress and lets window events run at each step.
+/// Shows a long job's progress in picProgress and lets window events run at each step, and between
+/// two steps some fifty times a second.
 class ShownProgress : public ScanProgress {
 public:
     explicit ShownProgress(shell::Launcher& launcher)
@@ -56,9 +57,13 @@ public:
 
     void Begin(Phase phase, int maximum) override;
     bool Step(Phase phase, int value, int percent) override;
+    bool Breathe() override;
 
 private:
+    bool RunEvents();
+
     shell::Launcher& m_launcher;
+    qint64 m_eventsRan = 0; // when
 };
 
 } // namespace pelorin::library

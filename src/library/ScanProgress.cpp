@@ -32,7 +32,8 @@ ProgressSteps::ProgressSteps(ScanProgress& progress, Phase phase, int count)
 
 bool ProgressSteps::At(int index)
 {
-    return index % m_step != 0 || m_progress.Step(m_phase, index, index / m_step * 10);
+    return index % m_step != 0 ? m_progress.Breathe()
+                               : m_progress.Step(m_phase, index, index / m_step * 10);
 }
 
 QString ProgressText(const shell::LangTable& lang, Phase phase, int percent)

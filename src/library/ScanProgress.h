@@ -24,10 +24,14 @@ public:
     /// The bar's value and the label's percentage, which goes by tens and can pass 100. False: the
     /// program is ending, give up.
     virtual bool Step(Phase phase, int value, int percent) = 0;
+    /// Between two steps, which may lie far apart: lets window events run when they have waited for
+    /// a while. False as above. Called for each thing of a job, so it must be cheap.
+    virtual bool Breathe() { return true; }
 };
 
 /// Tells each tenth of a count of things, by this system's rule: the step is (count - 1) / 10,
-/// rounded with ties to even, at least 1; every index that is a multiple of it is told.
+/// rounded with ties to even, at least 1; every index that is a multiple of it is told, at the
+/// others the job breathes.
 class ProgressSteps {
 public:
     ProgressSteps(ScanProgress& progress, Phase phase, int count);
