@@ -100,6 +100,7 @@ void RefreshGameList(Launcher& launcher)
     BuildGameList(list, OrderOf(launcher), source, BuildFilterIndex(launcher.screens.tree, source));
     if (list.outcome == ListOutcome::Items) {
         shell::SetPanelsEnabled(launcher, true);
+        library::tabInfo_Click(launcher);
     } else if (list.outcome != ListOutcome::NoFilterHit) {
         launcher.screens.frame.caption = launcher.WindowTitle;
         launcher.screens.frame.changed.Tell(shell::MainFrame::Caption);

@@ -29,7 +29,7 @@ enum class InfoState {
 };
 
 /// The bytes of an info.txt that can be edited, and the characters of its title line.
-inline constexpr qsizetype kMostInfo = 256 * 1024;
+inline constexpr qsizetype kMostInfo = qsizetype{256} * 1024;
 inline constexpr qsizetype kMostTitleLine = 4096;
 
 /// What the title and description boxes show.

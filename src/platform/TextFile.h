@@ -35,7 +35,7 @@ Outcome<QString> ReadText(const QString& path);
 Outcome<QStringList> ReadLines(const QString& path);
 
 /// What ReadFirstLines reads at most, so that a large file without line ends fills no memory.
-inline constexpr qint64 kMostOfFirstLines = 64 * 1024;
+inline constexpr qint64 kMostOfFirstLines = qint64{64} * 1024;
 
 /// The first `count` lines at most, reading no more of a large file than it must; what lies behind
 /// kMostOfFirstLines bytes is cut off.

@@ -110,7 +110,7 @@ TEST_F(Details, ADraftOutlivesAFailureToSaveIt)
     EXPECT_FALSE(m_app.folder.Exists(u"Games/하나"_s));
     // The game goes to the bin: nobody asks for its title any more.
     m_app.folder.MakeFolder(u"Games/하나"_s);
-    ASSERT_TRUE(library::RemoveGameEntry(*m_launcher, u"하나"_s));
+    library::RemoveGameEntries(*m_launcher, {u"하나"_s});
     EXPECT_TRUE(m_launcher->drafts.empty());
 }
 
