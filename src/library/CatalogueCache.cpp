@@ -43,19 +43,24 @@ QString SheetPath(const shell::Places& places)
     return places.InAppDir(u"IconList.bmp"_s);
 }
 
-QString RecordOf(const GameEntry& entry)
+void AppendRecord(QString& line, const GameEntry& entry)
 {
-    const QStringList fields{
-        platform::LastPathSegment(entry.Folder),
-        CleanField(entry.TitleK) + kTitleBreak + CleanField(entry.TitleE),
-        CleanField(entry.GenreK),
-        CleanField(entry.GenreE),
-        QString::number(entry.DosboxVersion),
-        CleanField(entry.Maker),
-        CleanField(entry.Release),
-        CleanField(entry.GameLanguage),
-        CleanField(entry.Country)};
-    return fields.join(kFieldBreak);
+    line += platform::LastPathSegment(entry.Folder);
+    line += kFieldBreak;
+    line += CleanField(entry.TitleK);
+    line += kTitleBreak;
+    line += CleanField(entry.TitleE);
+    const auto append = [&](const QString& field) {
+        line += kFieldBreak;
+        line += field;
+    };
+    append(CleanField(entry.GenreK));
+    append(CleanField(entry.GenreE));
+    append(QString::number(entry.DosboxVersion));
+    append(CleanField(entry.Maker));
+    append(CleanField(entry.Release));
+    append(CleanField(entry.GameLanguage));
+    append(CleanField(entry.Country));
 }
 
 bool CanNameInList(const QString& folder)
@@ -123,14 +128,17 @@ platform::Done WriteList(
     const int count = static_cast<int>(positions.size());
     progress.Begin(Phase::SavingList, std::max(1, count - 1));
     ProgressSteps steps(progress, Phase::SavingList, count);
-    QStringList records;
-    records.reserve(count);
+    QString line;
     for (int i = 0; i < count; ++i) {
         const int position = positions[static_cast<std::size_t>(i)];
-        records << RecordOf(catalogue[static_cast<std::size_t>(position)]);
+        if (i > 0) {
+            line += kRecordBreak;
+        }
+        AppendRecord(line, catalogue[static_cast<std::size_t>(position)]);
         steps.At(i);
     }
-    return file.Append(platform::EncodeCp949(records.join(kRecordBreak) + u"\r\n"_s).bytes);
+    line += u"\r\n"_s;
+    return file.Append(platform::EncodeFittingCp949(line));
 }
 
 platform::Done SaveSheet(

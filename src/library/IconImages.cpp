@@ -4,10 +4,9 @@
 #include "library/private/IcoDirectory.h"
 #include "platform/TextFile.h"
 
-#include <QFileInfo>
-
 #include <array>
 #include <cstring>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -26,14 +25,9 @@ platform::Error NoPicture(const QString& path)
 
 platform::Outcome<QByteArray> ReadPictureFile(const QString& path)
 {
-    const QFileInfo info(path);
-    if (info.exists() && !info.isFile()) {
-        return NoPicture(path); // a pipe would be waited for
-    }
-    if (info.size() > kMostPictureBytes) {
-        return NoPicture(path);
-    }
-    return platform::ReadBytes(path);
+    platform::Outcome<QByteArray> bytes = platform::ReadPlainFile(path, kMostPictureBytes);
+    const bool refused = !bytes && bytes.Failure().kind == platform::ErrorKind::Refused;
+    return refused ? NoPicture(path) : bytes;
 }
 
 Memory MemoryOf(const QByteArray& bytes)
@@ -43,17 +37,62 @@ Memory MemoryOf(const QByteArray& bytes)
     return Memory(FreeImage_OpenMemory(data, static_cast<DWORD>(bytes.size())));
 }
 
+bool IsTooLarge(qint64 width, qint64 height)
+{
+    return width < 1 || height < 1 || width > kMostPicturePixels / height;
+}
+
 bool IsTooLarge(FIBITMAP* bitmap)
 {
-    const qint64 width = FreeImage_GetWidth(bitmap);
-    const qint64 height = FreeImage_GetHeight(bitmap);
-    return width < 1 || height < 1 || width > kMostPicturePixels / height;
+    return IsTooLarge(FreeImage_GetWidth(bitmap), FreeImage_GetHeight(bitmap));
+}
+
+struct JpegSize {
+    int width = 0; // 0: not told
+    int height = 0;
+};
+
+/// What the frame of a JPEG file tells. Most icons are JPEG files, and to have FreeImage read the
+/// header beforehand takes half as long as the pixels.
+JpegSize JpegSizeOf(const QByteArray& bytes)
+{
+    const auto byte = [&](qsizetype at) { return static_cast<quint8>(bytes[at]); };
+    const auto word = [&](qsizetype at) { return byte(at) * 256 + byte(at + 1); };
+    if (!bytes.startsWith("\xff\xd8\xff")) {
+        return {};
+    }
+    // Segments: 0xff, a mark, the length with its own two bytes. The frame's begins with a byte of
+    // depth, then the height and the width. Whatever else a file may hold on the way there is left to
+    // FreeImage: two who read it differently would not agree on its size.
+    qsizetype at = 2;
+    while (at + 9 <= bytes.size() && byte(at) == 0xff) {
+        const quint8 mark = byte(at + 1);
+        if (mark >= 0xc0 && mark <= 0xcf && mark != 0xc4 && mark != 0xc8 && mark != 0xcc) {
+            return {word(at + 7), word(at + 5)};
+        }
+        const bool segment = mark == 0xc4 || (mark >= 0xda && mark <= 0xfe);
+        if (!segment || word(at + 2) < 2) {
+            return {};
+        }
+        at += 2 + word(at + 2);
+    }
+    return {};
+}
+
+/// In full, or in a half, a quarter or an eighth of the size while that has all that an icon shows.
+Bitmap UnpackJpeg(FIMEMORY* memory, JpegSize size)
+{
+    const bool square = size.width == size.height; // of others one side would become too short
+    return Bitmap(FreeImage_LoadFromMemory(FIF_JPEG, memory, square ? kLargeIcon << 16 : 0));
 }
 
 /// The pixels of any format whose header can be looked at first.
 Bitmap Unpack(const QByteArray& bytes)
 {
     const Memory memory = MemoryOf(bytes);
+    if (const JpegSize size = JpegSizeOf(bytes); !IsTooLarge(size.width, size.height)) {
+        return UnpackJpeg(memory.get(), size);
+    }
     const FREE_IMAGE_FORMAT format = FreeImage_GetFileTypeFromMemory(memory.get(), 0);
     if (format == FIF_UNKNOWN || FreeImage_FIFSupportsReading(format) == FALSE ||
         FreeImage_FIFSupportsNoPixels(format) == FALSE) {
@@ -68,8 +107,12 @@ Bitmap Unpack(const QByteArray& bytes)
 }
 
 /// 24 bits a pixel, what is transparent drawn on white.
-Bitmap OnWhite(const Bitmap& bitmap)
+Bitmap OnWhite(Bitmap bitmap)
 {
+    if (FreeImage_GetBPP(bitmap.get()) == 8 * kBytesAPixel &&
+        FreeImage_IsTransparent(bitmap.get()) == FALSE) {
+        return bitmap;
+    }
     if (FreeImage_IsTransparent(bitmap.get()) == FALSE) {
         return Bitmap(FreeImage_ConvertTo24Bits(bitmap.get()));
     }
@@ -119,12 +162,12 @@ IconPixels Scaled(const Bitmap& bitmap, int side)
     return scaled ? PixelsOf(scaled.get(), side) : IconPixels();
 }
 
-platform::Outcome<IconPixels> IconOf(const Bitmap& bitmap, const QString& path)
+platform::Outcome<IconPixels> IconOf(Bitmap bitmap, const QString& path)
 {
     if (!bitmap || IsTooLarge(bitmap.get())) {
         return NoPicture(path);
     }
-    const Bitmap flat = OnWhite(bitmap);
+    const Bitmap flat = OnWhite(std::move(bitmap));
     if (!flat) {
         return NoPicture(path);
     }

@@ -18,7 +18,6 @@ constexpr int kHeaderBytes = 54; // file header 14, information header 40
 constexpr int kInfoHeaderBytes = 40;
 constexpr int kBytesAPixel = 3;
 constexpr int kPixelsAMetre = 2835; // 72 a inch, what FreeImage gives a new picture
-constexpr int kIconRowBytes = kLargeIcon * kBytesAPixel;
 
 /// A band is one row of cells.
 int BandsOf(int count)
@@ -69,41 +68,70 @@ bool IsSheetHeader(const QByteArray& header, SheetSize size)
            at16(28) == 8 * kBytesAPixel && at32(30) == 0;
 }
 
-/// Where a row of an icon lies in its band, whose rows go from the bottom up.
-qsizetype RowOffset(SheetSize size, int column, int y)
+/// The positions of one row of cells, and how many they are.
+struct BandPositions {
+    const int* first = nullptr;
+    int count = 0;
+};
+
+BandPositions PositionsOf(const std::vector<int>& positions, int band)
 {
-    const qsizetype line = kLargeIcon - 1 - y;
-    return line * size.width * kBytesAPixel + qsizetype{column} * kIconRowBytes;
+    const int first = band * kSheetColumns;
+    const int behind = static_cast<int>(positions.size()) - first;
+    return {positions.data() + first, std::min(kSheetColumns, behind)};
 }
 
-IconPixels CutIcon(const QByteArray& band, SheetSize size, int column)
-{
-    IconPixels icon{
-        kLargeIcon, QByteArray(qsizetype{kLargeIcon} * kIconRowBytes, Qt::Uninitialized)};
-    char* to = icon.bgr.data();
-    for (int y = 0; y < kLargeIcon; ++y, to += kIconRowBytes) {
-        std::memcpy(to, band.constData() + RowOffset(size, column, y), kIconRowBytes);
-    }
-    return icon;
-}
-
-QByteArray BandOf(
+/// A band as the file has it: a sheet of a few icons is narrower than a band in memory.
+QByteArray FileBand(
     const IconSheet& icons, const std::vector<int>& positions, SheetSize size, int band)
 {
-    QByteArray bytes(BandBytesOf(size), '\0');
-    const int first = band * kSheetColumns;
-    const int end = std::min(first + kSheetColumns, static_cast<int>(positions.size()));
-    for (int n = first; n < end; ++n) {
-        const IconPixels& icon = icons.Large(positions[static_cast<std::size_t>(n)]);
-        if (icon.side != kLargeIcon) {
-            continue;
-        }
-        const char* from = icon.bgr.constData();
-        for (int y = 0; y < kLargeIcon; ++y, from += kIconRowBytes) {
-            std::memcpy(bytes.data() + RowOffset(size, n - first, y), from, kIconRowBytes);
+    const BandPositions wanted = PositionsOf(positions, band);
+    QByteArray wide = icons.Band(wanted.first, wanted.count);
+    if (BandBytesOf(size) == kBandBytes) {
+        return wide;
+    }
+    const qsizetype rowBytes = qsizetype{size.width} * kBytesAPixel;
+    QByteArray narrow;
+    narrow.reserve(BandBytesOf(size));
+    for (int y = 0; y < kLargeIcon; ++y) {
+        narrow.append(wide.constData() + y * kBandRowBytes, rowBytes);
+    }
+    return narrow;
+}
+
+/// The opposite.
+QByteArray MemoryBand(const QByteArray& fromFile)
+{
+    if (fromFile.size() == kBandBytes) {
+        return fromFile;
+    }
+    const qsizetype rowBytes = fromFile.size() / kLargeIcon;
+    QByteArray wide(kBandBytes, '\0');
+    for (int y = 0; y < kLargeIcon; ++y) {
+        std::memcpy(
+            wide.data() + y * kBandRowBytes,
+            fromFile.constData() + y * rowBytes,
+            static_cast<std::size_t>(rowBytes));
+    }
+    return wide;
+}
+
+/// A look at one line of pixels in each band. Where an icon has changed that mostly differs, and the
+/// sheet need not be read whole to know it.
+bool LooksCurrent(
+    QFile& file, const IconSheet& icons, const std::vector<int>& positions, SheetSize size)
+{
+    constexpr int kLine = kLargeIcon / 2;
+    const qsizetype rowBytes = qsizetype{size.width} * kBytesAPixel;
+    for (int band = 0; band < size.height / kLargeIcon; ++band) {
+        file.seek(BandOffset(size, band) + kLine * rowBytes);
+        const QByteArray line = file.read(rowBytes);
+        const BandPositions wanted = PositionsOf(positions, band);
+        if (line != icons.Band(wanted.first, wanted.count).mid(kLine * kBandRowBytes, rowBytes)) {
+            return false;
         }
     }
-    return bytes;
+    return true;
 }
 
 platform::Error FileError(platform::ErrorKind kind, const QFileDevice& file)
@@ -135,17 +163,15 @@ platform::Outcome<IconSheet> ReadIconSheet(const QString& path, int count, ScanP
     }
     IconSheet icons;
     ProgressSteps steps(progress, Phase::LoadingIcons, count);
-    QByteArray band;
     for (int n = 0; n < count; ++n) {
-        const int column = n % kSheetColumns;
-        if (column == 0) {
+        if (n % kSheetColumns == 0) {
             file.seek(BandOffset(size, n / kSheetColumns));
-            band = file.read(BandBytesOf(size));
+            const QByteArray band = file.read(BandBytesOf(size));
             if (band.size() != BandBytesOf(size)) {
                 return FileError(ErrorKind::Unreadable, file);
             }
+            icons.AppendBand(MemoryBand(band), std::min(kSheetColumns, count - n));
         }
-        icons.Append(CutIcon(band, size, column));
         if (!steps.At(n)) {
             return Error{ErrorKind::Abandoned, path};
         }
@@ -161,11 +187,14 @@ bool IconSheetIsCurrent(
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) ||
         file.size() != kHeaderBytes + BandBytesOf(size) * bands ||
-        file.read(kHeaderBytes) != HeaderOf(size)) {
+        file.read(kHeaderBytes) != HeaderOf(size) || !LooksCurrent(file, icons, positions, size)) {
         return false;
     }
+    file.seek(kHeaderBytes);
+    QByteArray read(BandBytesOf(size), Qt::Uninitialized);
     for (int band = bands - 1; band >= 0; --band) {
-        if (file.read(BandBytesOf(size)) != BandOf(icons, positions, size, band)) {
+        if (file.read(read.data(), read.size()) != read.size() ||
+            read != FileBand(icons, positions, size, band)) {
             return false;
         }
     }
@@ -182,7 +211,7 @@ platform::Done WriteIconSheet(
     platform::FileReplacement file(path);
     platform::Done written = file.Append(HeaderOf(size));
     for (int band = size.height / kLargeIcon - 1; written && band >= 0; --band) {
-        written = file.Append(BandOf(icons, positions, size, band));
+        written = file.Append(FileBand(icons, positions, size, band));
     }
     if (written) {
         written = beforeReplacing();

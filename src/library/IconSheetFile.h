@@ -16,8 +16,6 @@
 
 namespace pelorin::library {
 
-inline constexpr int kSheetColumns = 512;
-
 struct SheetSize {
     int width = 0; // pixels
     int height = 0;

@@ -44,16 +44,28 @@ EntryKind KindOf(const dirent& entry, int folder)
     return S_ISDIR(status.st_mode) ? EntryKind::Folder : EntryKind::File;
 }
 
-void SortByLowerCase(QStringList& names)
+struct Entry {
+    QString lower;
+    QString name;
+    EntryKind kind = EntryKind::File;
+};
+
+void AddTo(Listing& listing, const Entry& entry)
 {
-    std::vector<std::pair<QString, QString>> keyed;
-    keyed.reserve(static_cast<std::size_t>(names.size()));
-    for (const QString& name : std::as_const(names)) {
-        keyed.emplace_back(name.toLower(), name);
+    if (entry.kind == EntryKind::Broken) {
+        listing.broken << entry.name;
+        return;
     }
-    std::sort(keyed.begin(), keyed.end());
-    std::transform(
-        keyed.begin(), keyed.end(), names.begin(), [](const auto& k) { return k.second; });
+    const bool hidden = entry.name.startsWith(u'.');
+    if (entry.kind == EntryKind::Folder) {
+        (hidden ? listing.hiddenFolders : listing.folders) << entry.name;
+    } else if (!hidden) {
+        listing.files << entry.name;
+    }
+    listing.all << entry.name;
+    if (!listing.byLowerCase.contains(entry.lower)) {
+        listing.byLowerCase.insert(entry.lower, entry.name);
+    }
 }
 
 struct CloseDirectory {
@@ -125,32 +137,20 @@ Listing ListFolder(const QString& path)
     }
     listing.exists = true;
     const int descriptor = dirfd(directory.get());
+    std::vector<Entry> entries;
     while (const dirent* entry = readdir(directory.get())) {
         const QString name = QFile::decodeName(static_cast<const char*>(entry->d_name));
-        if (name == u"."_s || name == u".."_s) {
-            continue;
-        }
-        const EntryKind kind = KindOf(*entry, descriptor);
-        if (kind == EntryKind::Broken) {
-            listing.broken << name;
-            continue;
-        }
-        listing.all << name;
-        if (kind == EntryKind::Folder) {
-            (name.startsWith(u'.') ? listing.hiddenFolders : listing.folders) << name;
-        } else if (!name.startsWith(u'.')) {
-            listing.files << name;
+        if (name != u"."_s && name != u".."_s) {
+            entries.push_back({name.toLower(), name, KindOf(*entry, descriptor)});
         }
     }
-    SortByLowerCase(listing.folders);
-    SortByLowerCase(listing.files);
-    SortByLowerCase(listing.all);
-    SortByLowerCase(listing.broken);
-    for (const QString& name : std::as_const(listing.all)) {
-        const QString lower = name.toLower();
-        if (!listing.byLowerCase.contains(lower)) {
-            listing.byLowerCase.insert(lower, name);
-        }
+    std::sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) {
+        return a.lower != b.lower ? a.lower < b.lower : a.name < b.name;
+    });
+    listing.all.reserve(static_cast<qsizetype>(entries.size()));
+    listing.byLowerCase.reserve(static_cast<qsizetype>(entries.size()));
+    for (const Entry& entry : entries) {
+        AddTo(listing, entry);
     }
     return listing;
 }

@@ -6,7 +6,14 @@
 #include <QFileInfo>
 #include <QStringConverter>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <algorithm>
+#include <array>
+#include <cerrno>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -47,11 +54,105 @@ Error FileError(ErrorKind kind, const QString& path, const QString& reason)
     return Error{kind, u"%1: %2"_s.arg(path, reason)};
 }
 
-Error CantOpen(const QFile& file)
+/// A file that is open for reading. Scans read small files by the hundred thousand, and QFile asks
+/// the system some things more about each.
+class OpenFile {
+public:
+    explicit OpenFile(const QString& path)
+        : m_path(path)
+        , m_file(open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK))
+    {}
+    ~OpenFile()
+    {
+        if (m_file >= 0) {
+            close(m_file);
+        }
+    }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    bool IsOpen() const { return m_file >= 0; }
+
+    struct stat Status() const
+    {
+        struct stat status = {};
+        if (fstat(m_file, &status) != 0) {
+            status = {};
+        }
+        return status;
+    }
+
+    /// Bytes read, 0 at the end, -1 on an error.
+    ssize_t Read(char* to, qsizetype size) const
+    {
+        ssize_t got = 0;
+        do {
+            got = read(m_file, to, static_cast<std::size_t>(size));
+        } while (got < 0 && errno == EINTR);
+        return got;
+    }
+
+    /// Of the last call that failed.
+    Error Failure() const
+    {
+        const QString reason = qt_error_string(errno);
+        const bool missing = !IsOpen() && !QFileInfo::exists(m_path);
+        return FileError(missing ? ErrorKind::NotFound : ErrorKind::Unreadable, m_path, reason);
+    }
+
+private:
+    QString m_path;
+    int m_file;
+};
+
+constexpr qint64 kAll = std::numeric_limits<qint64>::max();
+
+/// To the end, or until more than `most` bytes are there.
+Outcome<QByteArray> ReadToEnd(const OpenFile& file, qint64 expected, qint64 most = kAll)
 {
-    const ErrorKind kind =
-        QFileInfo::exists(file.fileName()) ? ErrorKind::Unreadable : ErrorKind::NotFound;
-    return FileError(kind, file.fileName(), file.errorString());
+    // One more, so that the end is met by the read that meets it.
+    QByteArray bytes(expected + 1, Qt::Uninitialized);
+    qsizetype filled = 0;
+    while (true) {
+        const ssize_t got = file.Read(bytes.data() + filled, bytes.size() - filled);
+        if (got < 0) {
+            return file.Failure();
+        }
+        if (got == 0) {
+            bytes.truncate(filled);
+            return bytes;
+        }
+        filled += got;
+        if (filled > most) {
+            bytes.truncate(filled);
+            return bytes;
+        }
+        if (filled == bytes.size()) {
+            bytes.resize(2 * filled); // it has grown, or does not tell its size
+        }
+    }
+}
+
+bool IsAscii(QByteArrayView bytes)
+{
+    return std::all_of(
+        bytes.begin(), bytes.end(), [](char c) { return static_cast<signed char>(c) >= 0; });
+}
+
+/// How many bytes the first `count` lines take. No byte of a character looks like a line end.
+qsizetype LengthOfLines(const QByteArray& bytes, int count)
+{
+    qsizetype at = 0;
+    for (int line = 0; line < count; ++line) {
+        const auto* const end = std::find_if(
+            bytes.begin() + at, bytes.end(), [](char c) { return c == '\r' || c == '\n'; });
+        if (end == bytes.end()) {
+            return bytes.size();
+        }
+        const bool pair = *end == '\r' && end + 1 != bytes.end() && end[1] == '\n';
+        at = end - bytes.begin() + (pair ? 2 : 1);
+    }
+    return at;
 }
 
 } // namespace
@@ -87,8 +188,16 @@ bool FitsCp949(const QString& text)
     return DecodeCp949(EncodeAll(text)) == text;
 }
 
+QByteArray EncodeFittingCp949(const QString& text)
+{
+    return EncodeAll(text);
+}
+
 QString DecodeCp949(const QByteArray& bytes)
 {
+    if (IsAscii(bytes)) {
+        return QString::fromLatin1(bytes);
+    }
     // A lead byte at the end would be held back as the start of a character to come; the line end
     // behind it makes the decoder speak.
     QStringDecoder decoder(kCodec);
@@ -119,30 +228,35 @@ QStringList SplitLines(const QString& text)
 
 Outcome<QByteArray> ReadBytes(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return CantOpen(file);
+    const OpenFile file(path);
+    return file.IsOpen() ? ReadToEnd(file, file.Status().st_size) : file.Failure();
+}
+
+Outcome<QByteArray> ReadPlainFile(const QString& path, qint64 mostBytes)
+{
+    const OpenFile file(path);
+    if (!file.IsOpen()) {
+        return file.Failure();
     }
-    QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError) {
-        return FileError(ErrorKind::Unreadable, path, file.errorString());
+    const struct stat status = file.Status();
+    if (!S_ISREG(status.st_mode) || status.st_size > mostBytes) {
+        return FileError(ErrorKind::Refused, path, u"no plain file, or too large"_s);
     }
-    return bytes;
+    return ReadToEnd(file, status.st_size);
 }
 
 Outcome<FileStart> ReadStart(const QString& path, qint64 most)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return CantOpen(file);
+    const OpenFile file(path);
+    if (!file.IsOpen()) {
+        return file.Failure();
     }
-    FileStart start;
-    start.bytes = file.read(most);
-    start.whole = file.atEnd();
-    if (file.error() != QFileDevice::NoError) {
-        return FileError(ErrorKind::Unreadable, path, file.errorString());
+    Outcome<QByteArray> bytes =
+        ReadToEnd(file, std::min<qint64>(file.Status().st_size, most), most);
+    if (!bytes) {
+        return bytes.Failure();
     }
-    return start;
+    return FileStart{bytes.Value().left(most), bytes.Value().size() <= most};
 }
 
 Outcome<QString> ReadText(const QString& path)
@@ -165,22 +279,26 @@ Outcome<QStringList> ReadLines(const QString& path)
 
 Outcome<QStringList> ReadFirstLines(const QString& path, int count)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return CantOpen(file);
+    const OpenFile file(path);
+    if (!file.IsOpen()) {
+        return file.Failure();
     }
-    constexpr qint64 kBlock = 4096;
+    std::array<char, 4096> block; // NOLINT(cppcoreguidelines-pro-type-member-init): read into
     QByteArray bytes;
     qsizetype ends = 0;
-    while (ends < count && bytes.size() < kMostOfFirstLines && !file.atEnd()) {
-        const QByteArray block = file.read(kBlock);
-        if (file.error() != QFileDevice::NoError) {
-            return FileError(ErrorKind::Unreadable, path, file.errorString());
+    while (ends < count && bytes.size() < kMostOfFirstLines) {
+        const ssize_t got = file.Read(block.data(), block.size());
+        if (got < 0) {
+            return file.Failure();
         }
-        ends += block.count('\n');
-        bytes += block;
+        if (got == 0) {
+            break;
+        }
+        ends += std::count(block.begin(), block.begin() + got, '\n');
+        bytes.append(block.data(), got);
     }
-    return SplitLines(DecodeCp949(bytes)).mid(0, count);
+    bytes.truncate(LengthOfLines(bytes, count));
+    return SplitLines(DecodeCp949(bytes));
 }
 
 Done WriteBytes(const QString& path, const QByteArray& bytes)

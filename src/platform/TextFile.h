@@ -23,6 +23,9 @@ Encoded EncodeCp949(const QString& text);
 /// Whether EncodeCp949 would lose nothing; much cheaper on long texts that lose something.
 bool FitsCp949(const QString& text);
 
+/// The bytes of a text all of which FitsCp949, without proving that again.
+QByteArray EncodeFittingCp949(const QString& text);
+
 /// A byte that is no text (a lead byte at the end, say) becomes U+FFFD.
 QString DecodeCp949(const QByteArray& bytes);
 
@@ -31,6 +34,9 @@ QStringList SplitLines(const QString& text);
 
 /// Reads whole files. Error: NotFound or Unreadable, with the path in the text.
 Outcome<QByteArray> ReadBytes(const QString& path);
+/// The same for what may be anything: Error Refused, and nothing read, unless it is a plain file
+/// (others might be waited for) of at most that many bytes.
+Outcome<QByteArray> ReadPlainFile(const QString& path, qint64 mostBytes);
 Outcome<QString> ReadText(const QString& path);
 Outcome<QStringList> ReadLines(const QString& path);
 

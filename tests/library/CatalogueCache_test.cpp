@@ -270,6 +270,36 @@ TEST_F(CatalogueCacheTest, AnUnchangedSheetIsNotWrittenAgain)
     EXPECT_GT(QFileInfo(sheet).lastModified(), old);
 }
 
+TEST_F(CatalogueCacheTest, WhatWasRemovedLeavesNoTraceInTheSheet)
+{
+    const QString path = m_root.Path(u"IconList.bmp"_s);
+    Library library(515);
+    ASSERT_TRUE(Save(library));
+    // Where no icon is the sheet is black, whatever another program has put there.
+    QByteArray spoilt = m_root.ReadRaw(u"IconList.bmp"_s);
+    spoilt[54 + 96 * 511] = 'x'; // the lower band comes first
+    m_root.WriteRaw(u"IconList.bmp"_s, spoilt);
+    library.icons = Read().Value().icons;
+    for (const int gone : {514, 100}) {
+        library.icons.Remove({gone});
+        library.catalogue.erase(library.catalogue.begin() + gone);
+        ASSERT_TRUE(Save(library));
+        EXPECT_EQ(m_root.ReadRaw(u"IconList.bmp"_s), SheetByFreeImage(library.icons, 16384, 64));
+    }
+    EXPECT_EQ(library.icons.Large(100).bgr, test::NumberedIcon(101).bgr);
+    library.icons.Append(test::NumberedIcon(900));
+    EXPECT_EQ(library.icons.Large(513).bgr, test::NumberedIcon(900).bgr);
+    EXPECT_EQ(library.icons.Large(512).bgr, test::NumberedIcon(513).bgr);
+
+    // One pixel that the quick look does not see.
+    library.icons.Remove({513});
+    library::IconPixels icon = library.icons.Large(3);
+    icon.bgr[0] = 99;
+    library.icons.Set(3, icon);
+    ASSERT_TRUE(Save(library));
+    EXPECT_EQ(Read().Value().icons.Large(3).bgr, icon.bgr);
+}
+
 TEST_F(CatalogueCacheTest, TellsProgress)
 {
     using library::Phase;

@@ -46,7 +46,8 @@ protected:
 TEST_F(IconImagesTest, LoadsAnyFormatAndSize)
 {
     for (const FREE_IMAGE_FORMAT format : {FIF_JPEG, FIF_PNG, FIF_BMP}) {
-        for (const auto& [width, height] : {std::pair(32, 32), {16, 16}, {300, 40}, {1, 1}}) {
+        for (const auto& [width, height] :
+             {std::pair(32, 32), {16, 16}, {300, 40}, {513, 513}, {1, 1}}) {
             const auto icon =
                 library::LoadIcon(File(test::PictureFile(format, width, height, {10, 200, 90})));
             ASSERT_TRUE(icon) << format << ' ' << width;
@@ -111,6 +112,16 @@ TEST_F(IconImagesTest, APictureThatClaimsToBeHugeIsNotUnpacked)
     qToLittleEndian<qint32>(200000, bmp.data() + 18);
     qToLittleEndian<qint32>(200000, bmp.data() + 22);
     EXPECT_FALSE(library::LoadIcon(File(bmp)));
+
+    QByteArray jpeg = test::PictureFile(FIF_JPEG, 32, 32, kRed);
+    const qsizetype frame = jpeg.indexOf("\xff\xc0");
+    ASSERT_GT(frame, 0);
+    // Fill bytes and a false frame before the one that counts.
+    const QByteArray false32 = jpeg.mid(frame, 19);
+    qToBigEndian<quint32>(0xea60ea60, jpeg.data() + frame + 5);
+    EXPECT_FALSE(library::LoadIcon(File(jpeg)));
+    const QByteArray hidden = QByteArray("\xff\xff\xff\xfe\x00\x15", 6) + false32;
+    EXPECT_FALSE(library::LoadIcon(File(QByteArray(jpeg).insert(frame, hidden))));
 }
 
 TEST_F(IconImagesTest, SavesAJpegThatComesBack)

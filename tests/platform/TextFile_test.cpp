@@ -45,7 +45,21 @@ TEST(Cp949, KeepsWhatWindowsKeepsAndTellsWhatIsLostOnceAndInOrder)
             EXPECT_EQ(DecodeCp949(one.bytes), one.text);
         }
     }
-    EXPECT_EQ(DecodeCp949("a\xb0"), u"a\ufffd"_s) << "bytes that are no text are marked";
+}
+
+TEST(Cp949, AsciiIsItself)
+{
+    QByteArray bytes;
+    for (int c = 0; c < 128; ++c) {
+        bytes += static_cast<char>(c);
+    }
+    // With a syllable behind them they go another way.
+    EXPECT_EQ(DecodeCp949(bytes), DecodeCp949(bytes + "\xb0\xa1").chopped(1));
+}
+
+TEST(Cp949, MarksBytesThatAreNoText)
+{
+    EXPECT_EQ(DecodeCp949("a\xb0"), u"a\ufffd"_s);
     EXPECT_EQ(DecodeCp949("\xb0\xa1\xb0\nx"), u"가\ufffd\nx"_s);
 }
 
@@ -85,6 +99,8 @@ TEST(TextFiles, FirstLinesOfALongFile)
     EXPECT_EQ(KindOf(ReadFirstLines(folder.Path(u"none"_s), 2)), ErrorKind::NotFound);
     EXPECT_EQ(KindOf(ReadText(folder.Path(u"none"_s))), ErrorKind::NotFound);
     EXPECT_EQ(KindOf(ReadText(folder.Path())), ErrorKind::Unreadable);
+    folder.WriteRaw(u"lead"_s, "a\xb0\r\nb");
+    EXPECT_EQ(ReadFirstLines(folder.Path(u"lead"_s), 1).ValueOr({}), QStringList(u"a\ufffd"_s));
 }
 
 TEST(TextFiles, AFailureLeavesTheOldFileWhole)
