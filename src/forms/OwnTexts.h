@@ -54,20 +54,20 @@ inline constexpr OwnEntry kOwnFilterHint{
 inline constexpr OwnEntry kOwnAddHint{
     411,
     u"Put each game in a folder of its own in the games folder, then start the program again."};
-inline constexpr OwnEntry kOwnSave{448, u"Save"};
-inline constexpr OwnEntry kOwnDiscard{449, u"Discard"};
-inline constexpr OwnEntry kOwnDraft{450, u"Not saved"};
+inline constexpr OwnEntry kOwnSave{430, u"Save"};
+inline constexpr OwnEntry kOwnDiscard{431, u"Discard"};
+inline constexpr OwnEntry kOwnDraft{432, u"Not saved"};
 inline constexpr OwnEntry kOwnInfoCut{
-    451, u"Too large to be edited here. Only the beginning is shown."};
+    433, u"Too large to be edited here. Only the beginning is shown."};
 inline constexpr OwnEntry kOwnInfoUnreadable{
-    452, u"The file of titles and description can't be read."};
-inline constexpr OwnEntry kOwnNoPicture{457, u"No pictures"};
-inline constexpr OwnEntry kOwnNotAPicture{458, u"This file is no picture that can be shown."};
-inline constexpr OwnEntry kOwnPictureBroken{459, u"This picture is damaged."};
+    434, u"The file of titles and description can't be read."};
+inline constexpr OwnEntry kOwnNoPicture{438, u"No pictures"};
+inline constexpr OwnEntry kOwnNotAPicture{439, u"This file is no picture that can be shown."};
+inline constexpr OwnEntry kOwnPictureBroken{440, u"This picture is damaged."};
 inline constexpr OwnEntry kOwnPictureLarge{
-    461, u"This picture is too large to be shown: <1> x <2>"};
+    442, u"This picture is too large to be shown: <1> x <2>"};
 inline constexpr OwnEntry kOwnNoSite{
-    494, u"No site is set. A line site=ADDRESS in Endpoints.cfg sets one."};
-inline constexpr OwnEntry kOwnPicture{495, u"Picture shown"};
+    451, u"No site is set. A line site=ADDRESS in Endpoints.cfg sets one."};
+inline constexpr OwnEntry kOwnPicture{452, u"Picture shown"};
 
 } // namespace pelorin::forms

@@ -118,8 +118,8 @@ void DeleteDetails(Launcher& launcher)
     ConfigDetail& dialog = launcher.screens.configDetail;
     const QString folder = dialog.folder;
     const platform::Answer answer = launcher.ports.prompts.Ask(platform::MessageBox{
-        launcher.lang.OwnText(463, u"The details will be deleted."_s),
-        launcher.lang.OwnText(462, u"Delete details"_s),
+        launcher.lang.OwnText(444, u"The details will be deleted."_s),
+        launcher.lang.OwnText(443, u"Delete details"_s),
         platform::Buttons::YesNo,
         platform::BoxIcon::Question});
     if (folder.isEmpty() || answer != platform::Answer::Yes) {

@@ -37,7 +37,7 @@ bool MayDelete(Launcher& launcher, const std::vector<ListedGame>& games)
     }
     return launcher.ports.prompts.Ask(platform::MessageBox{
                DeleteQuestion(names, size, launcher.lang),
-               launcher.lang.OwnText(425, u"Delete games"_s),
+               launcher.lang.OwnText(419, u"Delete games"_s),
                platform::Buttons::YesNo,
                platform::BoxIcon::Exclamation,
                true}) == platform::Answer::Yes;
@@ -47,7 +47,7 @@ bool MayDelete(Launcher& launcher, const std::vector<ListedGame>& games)
 QString BinOne(Launcher& launcher, const QString& folder)
 {
     if (launcher.runningGames.contains(folder)) {
-        return launcher.lang.OwnText(426, u"It is running."_s);
+        return launcher.lang.OwnText(420, u"It is running."_s);
     }
     const platform::Done binned = MoveGameToBin(launcher, folder);
     return binned ? QString() : launcher.lang.Told(binned.Failure().Told());
@@ -85,7 +85,7 @@ QStringList DeleteAll(Launcher& launcher, const std::vector<ListedGame>& games)
         return BinAll(launcher, games);
     }
     shell::ShowBusyMessage(
-        launcher, launcher.lang.OwnText(427, u"Moving games to the recycle bin."_s));
+        launcher, launcher.lang.OwnText(421, u"Moving games to the recycle bin."_s));
     QStringList report = BinAll(launcher, games);
     shell::HideBusyMessage(launcher);
     return report;

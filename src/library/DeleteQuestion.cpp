@@ -32,20 +32,20 @@ QString DeleteQuestion(
     const QLocale locale(lang.IsKorean() ? QLocale::Korean : QLocale::English);
     QStringList lines = names.mid(0, kMostNames);
     if (names.size() > kMostNames) {
-        lines << lang.OwnText(422, u"and <1> more"_s, {locale.toString(names.size() - kMostNames)});
+        lines << lang.OwnText(416, u"and <1> more"_s, {locale.toString(names.size() - kMostNames)});
     }
     const QString question = names.size() == 1
-                                 ? lang.OwnText(420, u"Move this game to the recycle bin?"_s)
+                                 ? lang.OwnText(414, u"Move this game to the recycle bin?"_s)
                                  : lang.OwnText(
-                                       421,
+                                       415,
                                        u"Move these <1> games to the recycle bin?"_s,
                                        {locale.toString(names.size())});
     const QStringList figures{
         locale.toString(size.files),
         locale.formattedDataSize(size.bytes, 1, QLocale::DataSizeTraditionalFormat)};
     const QString content =
-        size.whole ? lang.OwnText(423, u"Files: <1>, size: <2>"_s, figures)
-                   : lang.OwnText(424, u"Files: more than <1>, size: more than <2>"_s, figures);
+        size.whole ? lang.OwnText(417, u"Files: <1>, size: <2>"_s, figures)
+                   : lang.OwnText(418, u"Files: more than <1>, size: more than <2>"_s, figures);
     return question + u"\n\n"_s + lines.join(u'\n') + u"\n\n"_s + content;
 }
 

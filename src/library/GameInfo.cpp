@@ -296,7 +296,7 @@ platform::Done WriteInfo(GameFiles& files, const InfoChange& change, Loss loss)
         return platform::Error::Worded(
             platform::ErrorKind::Refused,
             platform::Wording{
-                460, u"<1>: too large to be edited here; the file stays as it is."_s, {path}});
+                441, u"<1>: too large to be edited here; the file stays as it is."_s, {path}});
     }
     if (old.Value().exists && !change.titles && !change.description) {
         return platform::Success();

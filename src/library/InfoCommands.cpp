@@ -69,17 +69,17 @@ QString QuestionAboutDrafts(const Launcher& launcher)
 {
     constexpr int kMostNamed = 10;
     QStringList lines{
-        launcher.lang.OwnText(453, u"Titles or descriptions that are not saved:"_s), QString()};
+        launcher.lang.OwnText(435, u"Titles or descriptions that are not saved:"_s), QString()};
     int left = static_cast<int>(launcher.drafts.size());
     for (const auto& [folder, draft] : launcher.drafts) {
         if (lines.size() == 2 + kMostNamed) {
-            lines << launcher.lang.OwnText(454, u"and <1> more"_s, {QString::number(left)});
+            lines << launcher.lang.OwnText(436, u"and <1> more"_s, {QString::number(left)});
             break;
         }
         lines << TitleOf(launcher, folder);
         --left;
     }
-    lines << QString() << launcher.lang.OwnText(455, u"Save them?"_s);
+    lines << QString() << launcher.lang.OwnText(437, u"Save them?"_s);
     return lines.join(u'\n');
 }
 

@@ -62,7 +62,7 @@ void OpenMetaDir(Launcher& launcher)
         shell::TellNote(
             launcher,
             kCategory,
-            launcher.lang.OwnText(418, u"<1>: there is no metadata folder yet."_s, {folder}));
+            launcher.lang.OwnText(412, u"<1>: there is no metadata folder yet."_s, {folder}));
     }
 }
 
@@ -78,7 +78,7 @@ void OpenExportRoot(Launcher& launcher)
         shell::TellNote(
             launcher,
             kCategory,
-            launcher.lang.OwnText(419, u"The folder <1> can't be made."_s, {root}));
+            launcher.lang.OwnText(413, u"The folder <1> can't be made."_s, {root}));
         return;
     }
     Open(launcher, root);

@@ -35,7 +35,7 @@ QString WhyNot(const Launcher& launcher, const QString& oldName, const QString& 
 {
     if (!MayNameFolder(newName)) {
         return launcher.lang.OwnText(
-            428,
+            422,
             u"<1>: no name for a game's folder: a point stands at an end or a blank last."_s,
             {newName});
     }
@@ -44,7 +44,7 @@ QString WhyNot(const Launcher& launcher, const QString& oldName, const QString& 
     }
     if (launcher.runningGames.contains(oldName)) {
         return launcher.lang.OwnText(
-            429, u"<1>: the game is running. Its folder can be renamed after that."_s, {oldName});
+            423, u"<1>: the game is running. Its folder can be renamed after that."_s, {oldName});
     }
     return QString();
 }
@@ -107,7 +107,7 @@ void RenameGameFolder(Launcher& launcher)
         Refuse(
             launcher,
             launcher.lang.OwnText(
-                430,
+                424,
                 u"<1> could not be renamed: <2>"_s,
                 {oldName, launcher.lang.Told(moved.Failure().Told())}));
         return;

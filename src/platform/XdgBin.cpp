@@ -220,18 +220,18 @@ Done XdgBin::MoveToBin(const QString& path)
     if (!given.isAbsolute() || name.isEmpty() || name == u"." || name == u"..") {
         return Error::Worded(
             ErrorKind::Refused,
-            Wording{432, u"<1> is no full path and can't be moved to the recycle bin."_s, {path}});
+            Wording{426, u"<1> is no full path and can't be moved to the recycle bin."_s, {path}});
     }
     const QString source = RealPlace(given);
     if (source.isEmpty() || !SightOf(source)) {
-        return Error::Worded(ErrorKind::NotFound, Wording{433, u"<1> is not there."_s, {path}});
+        return Error::Worded(ErrorKind::NotFound, Wording{427, u"<1> is not there."_s, {path}});
     }
     const QStringList mountPoints = MountPoints();
     if (HoldsMountPoint(mountPoints, source)) {
         return Error::Worded(
             ErrorKind::Refused,
             Wording{
-                434,
+                428,
                 u"<1> stays out of the recycle bin: a file system is mounted there."_s,
                 {path}});
     }
@@ -240,7 +240,7 @@ Done XdgBin::MoveToBin(const QString& path)
     if ((home + u'/').startsWith(source + u'/')) {
         return Error::Worded(
             ErrorKind::Refused,
-            Wording{435, u"<1> can't be moved to the recycle bin, which lies in it."_s, {path}});
+            Wording{429, u"<1> can't be moved to the recycle bin, which lies in it."_s, {path}});
     }
     const QString homeTop = TopOfFileSystem(mountPoints, home + u"/Trash"_s);
     const QString top = TopOfFileSystem(mountPoints, source);
@@ -255,7 +255,7 @@ Done XdgBin::MoveToBin(const QString& path)
     return Error::Worded(
         ErrorKind::Unwritable,
         Wording{
-            431, u"<1> can't be moved to the recycle bin: <2>"_s, {path, reasons.join(u"; "_s)}});
+            425, u"<1> can't be moved to the recycle bin: <2>"_s, {path, reasons.join(u"; "_s)}});
 }
 
 } // namespace pelorin::platform

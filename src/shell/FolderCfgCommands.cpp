@@ -34,19 +34,19 @@ QString WordsOf(const Launcher& launcher, RootFault fault, const QString& path)
     const LangTable& lang = launcher.lang;
     switch (fault) {
     case RootFault::None: break;
-    case RootFault::Unnamed: return lang.OwnText(489, u"Please name a folder."_s);
+    case RootFault::Unnamed: return lang.OwnText(446, u"Please name a folder."_s);
     case RootFault::DriveRoot: return lang[107];
     case RootFault::InOneAnother:
         return lang.OwnText(
-            490, u"The games root and the export folder can't be the same or lie in each other."_s);
+            447, u"The games root and the export folder can't be the same or lie in each other."_s);
     case RootFault::HoldsProgram:
         return lang.OwnText(
-            491,
+            448,
             u"<1>: the program itself lies there; games need a folder of their own."_s,
             {path});
     case RootFault::Unencodable:
         return lang.OwnText(
-            492, u"<1>: the settings file can't hold this name. Please choose another."_s, {path});
+            449, u"<1>: the settings file can't hold this name. Please choose another."_s, {path});
     }
     return {};
 }
@@ -154,7 +154,7 @@ bool AcceptRoots(Launcher& launcher)
             launcher,
             kCategory,
             launcher.lang.OwnText(
-                493, u"The list still shows the former folder's games. F5 reads the new one."_s));
+                450, u"The list still shows the former folder's games. F5 reads the new one."_s));
     }
     return true;
 }
