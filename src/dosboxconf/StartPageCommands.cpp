@@ -6,6 +6,7 @@
 #include "platform/Paths.h"
 #include "platform/Prompts.h"
 #include "platform/TextFile.h"
+#include "shell/FolderCfgCommands.h"
 #include "shell/JobCommands.h"
 #include "shell/Launcher.h"
 #include "shell/LossCommands.h"
@@ -57,7 +58,7 @@ void lstAutoexec_DblClick(Launcher& launcher, int row)
 
 void WriteAutoexecConf(Launcher& launcher)
 {
-    if (!ShowsGame(launcher)) {
+    if (!ShowsGame(launcher) || shell::ShowsFormerRoot(launcher)) {
         return;
     }
     const QString folder = ShownGame(launcher);
@@ -101,7 +102,7 @@ void mnuCD_Click(Launcher& launcher, int index)
 
 void cmdSaveCD_Click(Launcher& launcher)
 {
-    if (!ShowsGame(launcher)) {
+    if (!ShowsGame(launcher) || shell::ShowsFormerRoot(launcher)) {
         return;
     }
     const QString folder = ShownGame(launcher); // by value: the refresh may show another

@@ -8,6 +8,7 @@
 #include "library/GameInfo.h"
 #include "platform/Prompts.h"
 #include "platform/TextFile.h"
+#include "shell/FolderCfgCommands.h"
 #include "shell/JobCommands.h"
 #include "shell/Launcher.h"
 #include "shell/LossCommands.h"
@@ -101,7 +102,8 @@ void SaveDetails(Launcher& launcher)
     ConfigDetail& dialog = launcher.screens.configDetail;
     const QString folder = dialog.folder;
     const std::array<QString, 4> texts = dialog.Combo1;
-    if (folder.isEmpty() || !shell::MayLose(launcher, LostIn(texts))) {
+    if (folder.isEmpty() || shell::ShowsFormerRoot(launcher) ||
+        !shell::MayLose(launcher, LostIn(texts))) {
         return;
     }
     const Facts facts = FactsOf(texts);
@@ -117,6 +119,9 @@ void DeleteDetails(Launcher& launcher)
 {
     ConfigDetail& dialog = launcher.screens.configDetail;
     const QString folder = dialog.folder;
+    if (shell::ShowsFormerRoot(launcher)) {
+        return;
+    }
     const platform::Answer answer = launcher.ports.prompts.Ask(platform::MessageBox{
         launcher.lang.OwnText(444, u"The details will be deleted."_s),
         launcher.lang.OwnText(443, u"Delete details"_s),

@@ -8,6 +8,7 @@
 #include "library/ShowinfoCommands.h"
 #include "platform/Prompts.h"
 #include "platform/Timers.h"
+#include "shell/FolderCfgCommands.h"
 #include "shell/JobCommands.h"
 #include "shell/Launcher.h"
 
@@ -160,7 +161,7 @@ void DeleteSelectedGames(Launcher& launcher)
         return;
     }
     const std::vector<ListedGame> games = SelectedGames(launcher);
-    if (games.empty()) {
+    if (games.empty() || shell::ShowsFormerRoot(launcher)) {
         return;
     }
     FillBatchSelection(launcher, games);

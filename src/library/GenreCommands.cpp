@@ -7,6 +7,7 @@
 #include "platform/Paths.h"
 #include "platform/Prompts.h"
 #include "platform/TextFile.h"
+#include "shell/FolderCfgCommands.h"
 #include "shell/JobCommands.h"
 #include "shell/Launcher.h"
 #include "shell/LossCommands.h"
@@ -29,9 +30,9 @@ constexpr int kFirstValue = 2;
 /// Where one of the two genres stands.
 struct GenrePlace {
     QStringView rootKey;
-    QString DetailsPanel::*label;
-    shell::GenreMenu DetailsPanel::*menu;
-    QString GameEntry::*field;
+    QString DetailsPanel::*label = nullptr;
+    shell::GenreMenu DetailsPanel::*menu = nullptr;
+    QString GameEntry::*field = nullptr;
 };
 
 const GenrePlace& PlaceOf(GenreFile which)
@@ -56,6 +57,9 @@ QString AsKept(const QString& genre)
 
 void SetGenre(Launcher& launcher, const QString& folder, GenreFile which, const QString& genre)
 {
+    if (shell::ShowsFormerRoot(launcher)) {
+        return;
+    }
     GameFiles files = ListGame(launcher.places, folder);
     if (const platform::Done written = WriteGenre(files, which, genre); !written) {
         shell::TellNote(launcher, kCategory, written.Failure());

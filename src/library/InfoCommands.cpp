@@ -6,6 +6,7 @@
 #include "library/GameFiles.h"
 #include "platform/Paths.h"
 #include "platform/Prompts.h"
+#include "shell/FolderCfgCommands.h"
 #include "shell/JobCommands.h"
 #include "shell/Launcher.h"
 #include "shell/LossCommands.h"
@@ -41,7 +42,7 @@ enum class Saved { Yes, Refused, Failed };
 Saved SaveDraft(
     Launcher& launcher, const QString& folder, const InfoChange& change, platform::Error& failure)
 {
-    if (!shell::MayLose(launcher, LostInInfo(change))) {
+    if (shell::ShowsFormerRoot(launcher) || !shell::MayLose(launcher, LostInInfo(change))) {
         return Saved::Refused;
     }
     // Windows events ran: the folder is looked at as it is now.

@@ -10,6 +10,7 @@
 #include "platform/Prompts.h"
 #include "platform/ShellVerbs.h"
 #include "running/RunCommands.h"
+#include "shell/FolderCfgCommands.h"
 #include "shell/JobCommands.h"
 #include "shell/Launcher.h"
 
@@ -153,7 +154,7 @@ void FillBatchSelection(Launcher& launcher, const std::vector<ListedGame>& games
 
 bool HasGameFolder(Launcher& launcher, const QString& folder)
 {
-    if (!platform::IsPlainName(folder)) {
+    if (!platform::IsPlainName(folder) || shell::ShowsFormerRoot(launcher)) {
         return false;
     }
     if (archives::FolderExists(launcher.places.GameDir(folder))) {

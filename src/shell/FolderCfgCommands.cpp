@@ -1,5 +1,6 @@
 #include "shell/FolderCfgCommands.h"
 
+#include "library/InfoCommands.h"
 #include "platform/MountTable.h"
 #include "platform/Prompts.h"
 #include "platform/ShellVerbs.h"
@@ -146,17 +147,29 @@ bool AcceptRoots(Launcher& launcher)
         !Makes(launcher, exported)) {
         return false;
     }
+    const bool moves = games != launcher.places.gamesRoot;
+    if (moves && !library::SettleDrafts(launcher)) {
+        return false;
+    }
     launcher.places.exportRoot = exported;
-    if (games != launcher.places.gamesRoot) {
+    if (moves) {
         launcher.places.gamesRoot = games;
         launcher.settings.rootsChanged = true;
+        ShowsFormerRoot(launcher);
+    }
+    return true;
+}
+
+bool ShowsFormerRoot(Launcher& launcher)
+{
+    if (launcher.settings.rootsChanged) {
         TellNote(
             launcher,
             kCategory,
             launcher.lang.OwnText(
                 450, u"The list still shows the former folder's games. F5 reads the new one."_s));
     }
-    return true;
+    return launcher.settings.rootsChanged;
 }
 
 } // namespace pelorin::shell

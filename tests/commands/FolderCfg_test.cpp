@@ -1,4 +1,7 @@
 #include "library/CatalogueCommands.h"
+#include "library/DeleteCommands.h"
+#include "library/InfoCommands.h"
+#include "library/RenameCommands.h"
 #include "shell/FolderCfgCommands.h"
 #include "shell/LifecycleCommands.h"
 #include "shell/SiteCommands.h"
@@ -18,19 +21,19 @@ class FolderCfg : public testing::Test {
 protected:
     FolderCfg()
     {
-        app.AddGame(u"하나"_s);
-        launcher = app.Start();
-        shell::frmFolderCFG_Load(*launcher);
+        m_app.AddGame(u"하나"_s);
+        m_launcher = m_app.Start();
+        shell::frmFolderCFG_Load(*m_launcher);
     }
 
-    shell::FolderCfg& Boxes() const { return launcher->screens.folderCfg; }
+    shell::FolderCfg& Boxes() const { return m_launcher->screens.folderCfg; }
     QString Path(const char16_t* relative) const
     {
-        return app.folder.Path(QString::fromUtf16(relative));
+        return m_app.folder.Path(QString::fromUtf16(relative));
     }
 
-    Installation app;
-    std::unique_ptr<shell::Launcher> launcher;
+    Installation m_app;
+    std::unique_ptr<shell::Launcher> m_launcher;
 };
 
 } // namespace
@@ -39,40 +42,40 @@ TEST_F(FolderCfg, AChosenFolderGoesIntoItsBoxUnlessItCantBeARoot)
 {
     EXPECT_EQ(Boxes().txtGames, Path(u"Games"));
     EXPECT_EQ(Boxes().txtExport, Path(u"Export"));
-    test::ScriptedPrompts& prompts = app.fakes.prompts;
+    test::ScriptedPrompts& prompts = m_app.fakes.prompts;
     Boxes().txtGames = Path(u"Games/not/there");
     prompts.WillChoose({});
-    shell::ChooseRoot(*launcher, Root::Games);
+    shell::ChooseRoot(*m_launcher, Root::Games);
     ASSERT_EQ(prompts.Asked().size(), 1U);
-    EXPECT_EQ(prompts.Asked()[0].title, launcher->lang[210]);
+    EXPECT_EQ(prompts.Asked()[0].title, m_launcher->lang[210]);
     EXPECT_EQ(prompts.Asked()[0].preset, Path(u"Games"));
     EXPECT_EQ(Boxes().txtGames, Path(u"Games/not/there"));
 
     prompts.Forget();
     prompts.WillChoose(u"/usr"_s);
-    shell::ChooseRoot(*launcher, Root::Export);
+    shell::ChooseRoot(*m_launcher, Root::Export);
     ASSERT_EQ(prompts.Asked().size(), 2U);
-    EXPECT_EQ(prompts.Asked()[0].title, launcher->lang[211]);
-    EXPECT_EQ(prompts.Asked()[1].text, launcher->lang[107]);
-    EXPECT_EQ(prompts.Asked()[1].title, launcher->lang[108]);
+    EXPECT_EQ(prompts.Asked()[0].title, m_launcher->lang[211]);
+    EXPECT_EQ(prompts.Asked()[1].text, m_launcher->lang[107]);
+    EXPECT_EQ(prompts.Asked()[1].title, m_launcher->lang[108]);
     EXPECT_EQ(Boxes().txtExport, Path(u"Export"));
 
     prompts.WillChoose(Path(u"Dos"));
-    shell::ChooseRoot(*launcher, Root::Export);
+    shell::ChooseRoot(*m_launcher, Root::Export);
     EXPECT_EQ(Boxes().txtExport, Path(u"Dos"));
-    shell::OpenRoot(*launcher, Root::Export);
-    EXPECT_EQ(app.fakes.shell.opened, QStringList{Path(u"Dos")});
-    shell::TakeDefaultRoot(*launcher, Root::Export);
-    shell::TakeDefaultRoot(*launcher, Root::Games);
+    shell::OpenRoot(*m_launcher, Root::Export);
+    EXPECT_EQ(m_app.fakes.shell.opened, QStringList{Path(u"Dos")});
+    shell::TakeDefaultRoot(*m_launcher, Root::Export);
+    shell::TakeDefaultRoot(*m_launcher, Root::Games);
     EXPECT_EQ(Boxes().txtExport, Path(u"Export"));
     EXPECT_EQ(Boxes().txtGames, Path(u"Games"));
-    EXPECT_EQ(launcher->places.exportRoot, Path(u"Export"));
+    EXPECT_EQ(m_launcher->places.exportRoot, Path(u"Export"));
 }
 
 TEST_F(FolderCfg, RefusedRootsChangeNothing)
 {
-    app.folder.WriteRaw(u"file"_s, "x");
-    app.folder.MakeLink(u"link"_s, Path(u"Games"));
+    m_app.folder.WriteRaw(u"file"_s, "x");
+    m_app.folder.MakeLink(u"link"_s, Path(u"Games"));
     const std::pair<QString, QString> refused[] = {
         {u""_s, Path(u"Export")},
         {Path(u"New"), u" "_s},
@@ -80,47 +83,47 @@ TEST_F(FolderCfg, RefusedRootsChangeNothing)
         {u"/proc"_s, Path(u"Export")}, // a mount point
         {Path(u"Games"), Path(u"Games/Export")},
         {Path(u"Games"), Path(u"link")},
-        {app.folder.TemporaryFolder(), Path(u"Export")},
+        {m_app.folder.TemporaryFolder(), Path(u"Export")},
         {Path(u"New"), Path(u"file/under")},
         {Path(u"漢\u00e9"), Path(u"Export")},
         {Path(u"a\\b"), Path(u"../😀")},
     };
     for (const auto& [games, exported] : refused) {
-        app.fakes.prompts.Forget();
+        m_app.fakes.prompts.Forget();
         Boxes().txtGames = games;
         Boxes().txtExport = exported;
-        EXPECT_FALSE(shell::AcceptRoots(*launcher)) << games.toStdString();
-        EXPECT_EQ(app.fakes.prompts.Asked().size(), 1U) << games.toStdString();
+        EXPECT_FALSE(shell::AcceptRoots(*m_launcher)) << games.toStdString();
+        EXPECT_EQ(m_app.fakes.prompts.Asked().size(), 1U) << games.toStdString();
     }
-    EXPECT_EQ(launcher->places.gamesRoot, Path(u"Games"));
-    EXPECT_EQ(launcher->places.exportRoot, Path(u"Export"));
-    EXPECT_FALSE(launcher->settings.rootsChanged);
-    EXPECT_FALSE(app.folder.Exists(u"Games/Export"_s));
+    EXPECT_EQ(m_launcher->places.gamesRoot, Path(u"Games"));
+    EXPECT_EQ(m_launcher->places.exportRoot, Path(u"Export"));
+    EXPECT_FALSE(m_launcher->settings.rootsChanged);
+    EXPECT_FALSE(m_app.folder.Exists(u"Games/Export"_s));
 }
 
 TEST_F(FolderCfg, ChangedRootsAreMadeAndScannedAtTheNextStart)
 {
-    ASSERT_TRUE(shell::Form_Unload(*launcher));
-    ASSERT_TRUE(app.folder.Exists(u"Gamelist.lst"_s));
-    launcher = app.Start();
-    shell::frmFolderCFG_Load(*launcher);
+    ASSERT_TRUE(shell::Form_Unload(*m_launcher));
+    ASSERT_TRUE(m_app.folder.Exists(u"Gamelist.lst"_s));
+    m_launcher = m_app.Start();
+    shell::frmFolderCFG_Load(*m_launcher);
     Boxes().txtExport = Path(u"Out/of/it");
-    ASSERT_TRUE(shell::AcceptRoots(*launcher));
-    EXPECT_TRUE(app.folder.Exists(u"Out/of/it"_s));
-    EXPECT_FALSE(launcher->settings.rootsChanged);
-    EXPECT_TRUE(launcher->screens.status.notes.empty());
+    ASSERT_TRUE(shell::AcceptRoots(*m_launcher));
+    EXPECT_TRUE(m_app.folder.Exists(u"Out/of/it"_s));
+    EXPECT_FALSE(m_launcher->settings.rootsChanged);
+    EXPECT_TRUE(m_launcher->screens.status.notes.empty());
 
-    app.folder.MakeTree({u"Other/셋/GO.EXE"_s});
+    m_app.folder.MakeTree({u"Other/셋/GO.EXE"_s});
     Boxes().txtGames = u"OTHER\\"_s;
-    ASSERT_TRUE(shell::AcceptRoots(*launcher));
-    EXPECT_EQ(launcher->places.gamesRoot, Path(u"Other"));
-    EXPECT_EQ(launcher->catalogue.front().Folder, u"하나"_s);
-    EXPECT_EQ(launcher->screens.status.notes.size(), 1U);
-    ASSERT_TRUE(shell::Form_Unload(*launcher));
-    EXPECT_FALSE(app.folder.Exists(u"Gamelist.lst"_s));
-    EXPECT_FALSE(app.folder.Exists(u"IconList.bmp"_s));
+    ASSERT_TRUE(shell::AcceptRoots(*m_launcher));
+    EXPECT_EQ(m_launcher->places.gamesRoot, Path(u"Other"));
+    EXPECT_EQ(m_launcher->catalogue.front().Folder, u"하나"_s);
+    EXPECT_EQ(m_launcher->screens.status.notes.size(), 1U);
+    ASSERT_TRUE(shell::Form_Unload(*m_launcher));
+    EXPECT_FALSE(m_app.folder.Exists(u"Gamelist.lst"_s));
+    EXPECT_FALSE(m_app.folder.Exists(u"IconList.bmp"_s));
 
-    const auto next = app.Start();
+    const auto next = m_app.Start();
     EXPECT_EQ(next->places.exportRoot, Path(u"Out/of/it"));
     ASSERT_EQ(next->catalogue.size(), 1U);
     EXPECT_EQ(next->catalogue.front().Folder, u"셋"_s);
@@ -131,7 +134,38 @@ TEST_F(FolderCfg, ChangedRootsAreMadeAndScannedAtTheNextStart)
     library::cmdRefresh_Click(*next);
     EXPECT_EQ(next->catalogue.front().Folder, u"하나"_s);
     ASSERT_TRUE(shell::Form_Unload(*next));
-    EXPECT_TRUE(app.folder.Exists(u"Gamelist.lst"_s));
+    EXPECT_TRUE(m_app.folder.Exists(u"Gamelist.lst"_s));
+}
+
+TEST_F(FolderCfg, FormerGamesAreNotTakenForThoseOfTheNewRoot)
+{
+    const QString info = u"Other/하나/DosBox/info.txt"_s;
+    m_app.folder.WriteText(info, u"다른 게임\u0003Another"_s);
+    const auto type = [&](const QString& title) {
+        m_launcher->screens.details.txtTitle[0] = title;
+        library::Info_Change(*m_launcher);
+    };
+    type(u"새 제목"_s);
+    Boxes().txtGames = Path(u"Other");
+    m_app.fakes.prompts.WillAnswer(platform::Answer::Cancel);
+    EXPECT_FALSE(shell::AcceptRoots(*m_launcher)) << "the draft is asked about first";
+    m_app.fakes.prompts.WillAnswer(platform::Answer::Save);
+    ASSERT_TRUE(shell::AcceptRoots(*m_launcher));
+    EXPECT_TRUE(m_app.folder.ReadText(u"Games/하나/DosBox/info.txt"_s).startsWith(u"새 제목"));
+
+    // None of these asks anything, and none touches the namesake.
+    library::DeleteSelectedGames(*m_launcher);
+    library::RenameGameFolder(*m_launcher);
+    type(u"또"_s);
+    library::cmdSaveInfo_Click(*m_launcher);
+    EXPECT_EQ(m_app.folder.ReadText(info), u"다른 게임\u0003Another"_s);
+    EXPECT_FALSE(m_launcher->screens.status.notes.empty());
+
+    library::cmdRefresh_Click(*m_launcher);
+    m_app.fakes.prompts.WillAnswer(platform::Answer::Yes);
+    library::DeleteSelectedGames(*m_launcher);
+    EXPECT_FALSE(m_app.folder.Exists(u"Other/하나"_s));
+    EXPECT_TRUE(m_app.folder.Exists(u"Games/하나"_s));
 }
 
 TEST(Site, OpensTheAddressThatTheFileNames)
