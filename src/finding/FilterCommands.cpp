@@ -158,6 +158,9 @@ void LVGamelist_ColumnClick(Launcher& launcher, int column)
     RefreshGameList(launcher);
     if (const int row = list.RowOf(selected); row >= 0) {
         list.Select(row);
+    } else {
+        library::LVGamelist_ItemClick(launcher);
+        library::ShowinfoProcess(launcher);
     }
 }
 

@@ -378,6 +378,7 @@ void GameListView::MouseReleased(const QMouseEvent& event)
 
 void GameListView::FocusLost()
 {
+    m_deleting = false;
     // The release of the key that moved the selection will come to somebody else.
     if (m_moved) {
         Settle();

@@ -52,8 +52,7 @@ inline constexpr OwnEntry kOwnSearchHint{409, u"Press Esc in the search box to e
 inline constexpr OwnEntry kOwnFilterHint{
     410, u"Take a check mark off on the left to see more games."};
 inline constexpr OwnEntry kOwnAddHint{
-    411,
-    u"Put each game in a folder of its own in the games folder, then start the program again."};
+    411, u"Put each game in a folder of its own in the games folder, then press F5."};
 inline constexpr OwnEntry kOwnSave{430, u"Save"};
 inline constexpr OwnEntry kOwnDiscard{431, u"Discard"};
 inline constexpr OwnEntry kOwnDraft{432, u"Not saved"};

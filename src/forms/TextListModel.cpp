@@ -71,7 +71,9 @@ void RowList::keyPressEvent(QKeyEvent* event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enter && m_activated && currentIndex().isValid()) {
-        m_activated(currentIndex().row());
+        if (!event->isAutoRepeat()) {
+            m_activated(currentIndex().row());
+        }
         return;
     }
     if (event->key() == Qt::Key_Delete && m_deleted && currentIndex().isValid()) {

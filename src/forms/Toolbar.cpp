@@ -158,7 +158,8 @@ bool Toolbar::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::KeyRelease) {
         const auto& key = *static_cast<QKeyEvent*>(event);
         // A release whose press closed a menu or a box over the window is not meant for the search.
-        if (!key.isAutoRepeat() && key.key() == std::exchange(m_pressed, 0)) {
+        if (!key.isAutoRepeat() && key.key() == m_pressed) {
+            m_pressed = 0;
             KeyReleased(watched == m_txtFind, key.key());
         }
     }

@@ -30,7 +30,8 @@ using shell::MainFrame;
 
 namespace {
 
-constexpr double kTreeEms = 11;
+constexpr double kTreeEms = 14;
+constexpr QLatin1StringView kRefreshEmpty{"keyRefreshEmpty"};
 constexpr double kDesignEms = 108;
 constexpr double kDesignLines = 50;
 
@@ -95,7 +96,7 @@ void frmDosGames::BuildLeft()
     split->addWidget(m_list);
     split->setStretchFactor(0, 0);
     split->setStretchFactor(1, 1);
-    split->setSizes({Ems(*this, kTreeEms), Ems(*this, 4 * kTreeEms)});
+    split->setSizes({Ems(*this, kTreeEms), Ems(*this, 3 * kTreeEms)});
     auto* column = new QVBoxLayout(m_picBack0);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
@@ -114,8 +115,13 @@ void frmDosGames::BuildKeys()
     // Of the left panel, so that they rest with it.
     auto* refresh = new QShortcut(QKeySequence(Qt::Key_F5), m_picBack0);
     refresh->setContext(Qt::WidgetWithChildrenShortcut);
-    refresh->setAutoRepeat(false);
-    connect(refresh, &QShortcut::activated, this, [this] { Do(m_deeds.cmdRefresh_Click); });
+    // In an empty library the panels rest, and games are only found by reading again.
+    auto* refreshEmpty = new QShortcut(QKeySequence(Qt::Key_F5), this);
+    refreshEmpty->setObjectName(kRefreshEmpty);
+    for (QShortcut* key : {refresh, refreshEmpty}) {
+        key->setAutoRepeat(false);
+        connect(key, &QShortcut::activated, this, [this] { Do(m_deeds.cmdRefresh_Click); });
+    }
     auto* find = new QShortcut(QKeySequence(Qt::Key_F3), m_picBack0);
     find->setContext(Qt::WidgetWithChildrenShortcut);
     connect(find, &QShortcut::activated, this, [this] {
@@ -146,6 +152,7 @@ void frmDosGames::Follow(std::uint32_t changed)
 void frmDosGames::ShowPanelsEnabled()
 {
     m_picBack0->setEnabled(m_shown.screens.frame.picBack0Enabled);
+    findChild<QShortcut*>(kRefreshEmpty)->setEnabled(!m_picBack0->isEnabled());
     m_picBack1->setEnabled(m_shown.screens.frame.picBack1Enabled);
 }
 

@@ -252,6 +252,9 @@ void cmdRefresh_Click(Launcher& launcher)
     ScanGames(launcher);
     launcher.flags.ListRefreshReady = true;
     launcher.screens.frame.changed.Tell(shell::MainFrame::Front);
+    if (PositionOf(launcher.catalogue, launcher.current.CurrentFolder) < 0) {
+        ShowNoGame(launcher);
+    }
     LVGamelist_ItemClick(launcher);
     ShowinfoProcess(launcher);
 }

@@ -142,7 +142,9 @@ void DeleteMediaFile(Launcher& launcher, Media media)
 {
     MediaPanel& panel = launcher.screens.media;
     const QString path = ListOf(panel, media).SelectedPath();
-    if (path.isEmpty()) {
+    // The lists keep a former game's files when the present one has no metadata folder.
+    const QString game = launcher.places.GameDir(launcher.screens.details.folder);
+    if (path.isEmpty() || !path.startsWith(game + u'/')) {
         return;
     }
     if (const platform::Done gone = launcher.ports.bin.MoveToBin(path); !gone) {
