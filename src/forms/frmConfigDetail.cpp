@@ -145,7 +145,7 @@ void frmConfigDetail::GoOn(int box)
 
 bool frmConfigDetail::eventFilter(QObject* watched, QEvent* event)
 {
-    const auto hit = std::find(m_Combo1.begin(), m_Combo1.end(), watched);
+    const auto* const hit = std::find(m_Combo1.begin(), m_Combo1.end(), watched);
     if (hit == m_Combo1.end()) {
         return QDialog::eventFilter(watched, event);
     }

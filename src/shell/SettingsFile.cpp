@@ -97,7 +97,7 @@ QString RepairedRoot(
     if (QString(written).remove(u' ').isEmpty() || native.toLower() == root.bareName) {
         return root.standard;
     }
-    const QString found = RootPath(places, written);
+    QString found = RootPath(places, written);
     if (found != u"/" && QFileInfo(found).isDir()) {
         return found;
     }

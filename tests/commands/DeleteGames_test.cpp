@@ -34,7 +34,7 @@ public:
         launcher->screens.frame.panelsEnabled.SetListener(
             [this](std::uint32_t) { panels << launcher->screens.frame.picBack0Enabled; });
     }
-    void Select(const QStringList& folders)
+    void Select(const QStringList& folders) const
     {
         finding::GameList& list = launcher->screens.list;
         list.selectedRows.clear();

@@ -135,19 +135,19 @@ TEST(Run, TellsWhyNothingStarts)
         QString removed; // a file or folder
         QString made;
         QString build;      // the game's own
-        int entry;          // what is told, with these values, the first one below AppDir ...
-        QStringList values; // ... where it is a path
-        bool written;       // dosbox.conf is, and the game has entered the recent list
+        QStringList values; // of what is told, the first one below AppDir where it is a path
+        int entry;
+        bool written; // dosbox.conf is, and the game has entered the recent list
     };
     const QString svn = u"DOSBox/0.74_SVN"_s;
     const QString game = u"Games/하나"_s;
     const Row rows[] = {
-        {svn + u"/dosbox"_s, {}, {}, 396, {svn + u"/dosbox.exe"_s, u"dosbox"_s}, true},
-        {svn, {}, {}, 395, {svn}, false},
-        {game, {}, {}, 342, {u"하나"_s}, false},
-        {{}, game + u"/store.7z"_s, {}, 343, {u"하나"_s}, false},
-        {{}, {}, u"77"_s, 344, {u"하나"_s}, false}, // off the list
-        {{}, {}, u"14"_s, 345, {u"하나"_s, u"SNES9X"_s}, false},
+        {svn + u"/dosbox"_s, {}, {}, {svn + u"/dosbox.exe"_s, u"dosbox"_s}, 396, true},
+        {svn, {}, {}, {svn}, 395, false},
+        {game, {}, {}, {u"하나"_s}, 342, false},
+        {{}, game + u"/store.7z"_s, {}, {u"하나"_s}, 343, false},
+        {{}, {}, u"77"_s, {u"하나"_s}, 344, false}, // off the list
+        {{}, {}, u"14"_s, {u"하나"_s, u"SNES9X"_s}, 345, false},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.entry);

@@ -46,9 +46,9 @@ TEST_F(CdFileTest, FillingByWhatTheFolderHolds)
 {
     struct Case {
         CdFacts facts;
-        bool chkCD;
-        bool chkMountCD;
-        int mode;
+        bool chkCD = false;
+        bool chkMountCD = false;
+        int mode = 0;
         QStringList list;
     };
     // The former game had a CD with a drive for each image.

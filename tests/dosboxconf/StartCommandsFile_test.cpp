@@ -37,12 +37,14 @@ TEST(StartCommandsFileTest, KeepsLinesThatAreNotEmptyAndTheOldFileWhenItCant)
 
 TEST(StartListTest, EachDeedLeavesTheRightLinesAndRow)
 {
+    struct List {
+        QString lines;
+        int row = -1;
+    };
     struct Case {
         void (*deed)(StartCommands&);
-        QString lines;
-        int row;
-        QString after;
-        int rowAfter;
+        List before;
+        List after;
     };
     constexpr auto kAddFile = [](StartCommands& start) {
         start.fileRow = 0;
@@ -81,19 +83,21 @@ TEST(StartListTest, EachDeedLeavesTheRightLinesAndRow)
     };
     int number = 0;
     for (const Case& c : cases) {
-        SCOPED_TRACE(testing::Message() << "case " << number++ << ": " << c.lines << ' ' << c.row);
+        SCOPED_TRACE(
+            testing::Message() << "case " << number++ << ": " << c.before.lines << ' '
+                               << c.before.row);
         StartCommands start;
         start.cmdAddEmpty = u"REM"_s;
         start.fileEXE = QStringList{u"  GAME.EXE "_s, u"   "_s};
-        start.lstAutoexec = Words(c.lines);
-        start.commandRow = c.row;
+        start.lstAutoexec = Words(c.before.lines);
+        start.commandRow = c.before.row;
         std::uint32_t told = 0;
         start.changed.SetListener([&told](std::uint32_t bits) { told |= bits; });
         c.deed(start);
-        EXPECT_EQ(start.lstAutoexec.join(u' '), c.after);
-        EXPECT_EQ(start.commandRow, c.rowAfter);
-        EXPECT_EQ((told & StartCommands::Commands) != 0, c.after != c.lines);
-        EXPECT_FALSE(c.row != c.rowAfter && (told & StartCommands::CommandRow) == 0);
+        EXPECT_EQ(start.lstAutoexec.join(u' '), c.after.lines);
+        EXPECT_EQ(start.commandRow, c.after.row);
+        EXPECT_EQ((told & StartCommands::Commands) != 0, c.after.lines != c.before.lines);
+        EXPECT_FALSE(c.before.row != c.after.row && (told & StartCommands::CommandRow) == 0);
     }
     StartCommands start;
     FillStartCommands(start, {u""_s, u"x"_s});

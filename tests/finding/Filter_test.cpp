@@ -19,8 +19,8 @@ namespace {
 TEST(ClassifyInitial, EveryEdgeOfTheTable)
 {
     struct Row {
-        char16_t first;
-        char16_t last;
+        char16_t first = 0;
+        char16_t last = 0;
         QStringView bucket;
     };
     const Row rows[] = {

@@ -158,7 +158,9 @@ TEST_F(GameListViewTest, LettersAndTheInputMethodTypeAhead)
         screens.list.view = view;
         screens.list.Select(0);
         Open();
-        QAbstractItemView& shown = view == View::List ? *Icons() : *Details();
+        QAbstractItemView* const onTop = view == View::List ? Icons() : Details();
+        ASSERT_TRUE(onTop);
+        QAbstractItemView& shown = *onTop;
         window->activateWindow();
         shown.setFocus();
         EXPECT_TRUE(shown.testAttribute(Qt::WA_InputMethodEnabled));

@@ -135,29 +135,36 @@ protected:
     TestFolder m_folder;
 };
 
+namespace {
+
+/// The room that the picture's two colours take.
+QSize Painted(const QImage& image)
+{
+    int left = image.width();
+    int right = -1;
+    int top = image.height();
+    int bottom = -1;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor colour = image.pixelColor(x, y);
+            if (colour == QColor(Qt::red) || colour == QColor(Qt::blue)) {
+                left = qMin(left, x);
+                right = qMax(right, x);
+                top = qMin(top, y);
+                bottom = qMax(bottom, y);
+            }
+        }
+    }
+    return {right - left + 1, bottom - top + 1};
+}
+
+} // namespace
+
 TEST_F(MediaTest, ThePictureFitsInShapeAndFollowsTheSize)
 {
     Open();
     auto* pic1 = Find("pic1");
-    const auto shown = [&] {
-        const QImage image = pic1->grab().toImage();
-        int left = image.width();
-        int right = -1;
-        int top = image.height();
-        int bottom = -1;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                const QColor colour = image.pixelColor(x, y);
-                if (colour == QColor(Qt::red) || colour == QColor(Qt::blue)) {
-                    left = qMin(left, x);
-                    right = qMax(right, x);
-                    top = qMin(top, y);
-                    bottom = qMax(bottom, y);
-                }
-            }
-        }
-        return QSize(right - left + 1, bottom - top + 1);
-    };
+    const auto shown = [&] { return Painted(pic1->grab().toImage()); };
     for (const QSize size : {QSize(200, 150), QSize(90, 200)}) {
         pic1->setFixedSize(size);
         const QSize seen = shown();

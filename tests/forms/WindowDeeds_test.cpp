@@ -221,11 +221,11 @@ TEST_F(WindowDeedsTest, TheTreeTellsItsTwoKindsOfClicks)
 TEST_F(WindowDeedsTest, TheListsKeysReachTheirCommands)
 {
     struct Row {
-        int key;
+        int key = 0;
         Qt::KeyboardModifiers modifiers;
-        const char16_t* does;
-        const char16_t* withoutSelection;
-        const char16_t* withoutItems;
+        const char16_t* does = nullptr;
+        const char16_t* withoutSelection = nullptr;
+        const char16_t* withoutItems = nullptr;
     };
     const Row rows[] = {
         {Qt::Key_Return, Qt::NoModifier, u"DblClick", u"DblClick", u""},

@@ -28,7 +28,7 @@ TEST(TitleMarks, InOrderAndMerged)
     const QStringList builds = test::Words(u"Win31KOR Win31ENG - Win98 ANEX86 SNES9X FUSION NP21 "
                                            "0.74_3DFX -"_s);
     for (int build = 9; build < 19; ++build) {
-        const QString mark = builds[build - 9];
+        const QString& mark = builds[build - 9];
         EXPECT_EQ(
             MarkedTitle(u"Name"_s, {false, true, static_cast<std::int16_t>(build), false}, lang),
             mark == u"-"_s ? u"Name [편집]"_s : u"Name [편집, %1]"_s.arg(mark));
