@@ -96,6 +96,14 @@ GameListView::GameListView(const Shown& shown, const Deeds& deeds, QWidget* pare
     Follow(GameList::Reset | GameList::ViewMode | GameList::Columns);
 }
 
+GameListView::~GameListView()
+{
+    // A view that has the keyboard tells of its loss when it goes: as long as this is whole.
+    m_moved = false;
+    delete m_icons;
+    delete m_details;
+}
+
 ViewHooks GameListView::Hooks()
 {
     return {

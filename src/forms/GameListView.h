@@ -95,6 +95,7 @@ private:
 class GameListView : public QStackedWidget {
 public:
     GameListView(const Shown& shown, const Deeds& deeds, QWidget* parent = nullptr);
+    ~GameListView() override;
 
     /// The view on top, which has the keyboard when the list has it.
     QAbstractItemView* View() const;

@@ -27,15 +27,15 @@ TEST_F(Faults, WhatCantBeReadAtTheStartGivesABoxStandardErrorAndStatusOne)
     for (const Row& row : rows) {
         SCOPED_TRACE((row.file + QString::fromLatin1(row.told)));
         const TestFolder app;
-        Stage(app, session);
+        Stage(app, m_session);
         row.spoil(app.Path(row.file));
         const QStringList before = app.Tree();
-        RunProgram pelorin(app.Path(u"Pelorin"_s), {}, PlainEnvironment(session));
-        const auto box = person.WaitForWindow(u"^Pelorin$"_s, kStepMs);
+        RunProgram pelorin(app.Path(u"Pelorin"_s), {}, PlainEnvironment(m_session));
+        const auto box = m_person.WaitForWindow(u"^Pelorin$"_s, kStepMs);
         ASSERT_TRUE(box.has_value()) << pelorin.Output().toStdString();
-        ASSERT_TRUE(person.Activate(*box, kStepMs));
-        EXPECT_FALSE(person.FindWindow(kMainWindow));
-        person.Key(u"Return"_s);
+        ASSERT_TRUE(m_person.Activate(*box, kStepMs));
+        EXPECT_FALSE(m_person.FindWindow(MainWindow()));
+        m_person.Key(u"Return"_s);
         ASSERT_TRUE(pelorin.WaitForEnd(kStepMs));
         EXPECT_EQ(pelorin.ExitCode(), 1);
         EXPECT_TRUE(pelorin.Output().contains(app.Path(row.file).toUtf8() + row.told))
@@ -51,15 +51,15 @@ TEST_F(Faults, ReadOnlyAppDirStartsAndAsksAtExit)
     }
     const TestFolder app;
     const TestFolder place;
-    Stage(app, session);
+    Stage(app, m_session);
     // The disk is seen by the program alone, which takes the place of the shell.
     const QString script = u"mount -t tmpfs -o size=256m none \"$2\" && cp -r \"$1/.\" \"$2\" && "
                            "mount -o remount,ro \"$2\" && exec \"$2/Pelorin\""_s;
     RunProgram pelorin(
         u"unshare"_s,
         {u"--mount"_s, u"sh"_s, u"-c"_s, script, u"sh"_s, app.Path(), place.Path()},
-        PlainEnvironment(session));
-    const auto window = person.WaitForWindow(kMainWindow, kStepMs);
+        PlainEnvironment(m_session));
+    const auto window = m_person.WaitForWindow(MainWindow(), kStepMs);
     ASSERT_TRUE(window.has_value()) << pelorin.Output().toStdString();
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return pelorin.Output().contains("/Default.conf: Read-only file system"); }, kStepMs))
@@ -67,16 +67,16 @@ TEST_F(Faults, ReadOnlyAppDirStartsAndAsksAtExit)
 
     const QString box = u"^펠로린$"_s;
     const auto answer = [&](const QString& key) {
-        person.Close(*window);
-        const auto question = person.WaitForWindow(box, kStepMs);
+        m_person.Close(*window);
+        const auto question = m_person.WaitForWindow(box, kStepMs);
         ASSERT_TRUE(question.has_value()) << pelorin.Output().toStdString();
-        ASSERT_TRUE(person.Activate(*question, kStepMs));
-        person.Key(key);
+        ASSERT_TRUE(m_person.Activate(*question, kStepMs));
+        m_person.Key(key);
     };
     answer(u"Escape"_s);
-    ASSERT_TRUE(person.WaitUntilGone(box, kStepMs));
+    ASSERT_TRUE(m_person.WaitUntilGone(box, kStepMs));
     EXPECT_TRUE(pelorin.IsRunning());
-    EXPECT_TRUE(person.FindWindow(kMainWindow)) << "the window stays";
+    EXPECT_TRUE(m_person.FindWindow(MainWindow())) << "the window stays";
     answer(u"Return"_s);
     ASSERT_TRUE(pelorin.WaitForEnd(kStepMs));
     EXPECT_EQ(pelorin.ExitCode(), 0) << pelorin.Output().toStdString();

@@ -20,11 +20,11 @@ protected:
         ASSERT_TRUE(m_processes.StartDetached(
             emulator.Value().Request(arguments, m_folder.Path(u"DOSBox/0.74"_s)),
             [this](const platform::ProcessEnd& told) { m_end = told; }));
-        m_window = person.WaitForWindow(u"DOSBox 0.74"_s, 2 * kStepMs);
+        m_window = m_person.WaitForWindow(u"DOSBox 0.74"_s, 2 * kStepMs);
         ASSERT_TRUE(m_window.has_value());
     }
 
-    const ScopedEnvironment m_scope{session.Environment()};
+    const ScopedEnvironment m_scope{m_session.Environment()};
     const TestFolder m_folder{u"내 게임 [1]"_s};
     platform::DetachedProcesses m_processes;
     std::optional<platform::ProcessEnd> m_end;
@@ -39,18 +39,18 @@ TEST_F(OutsideProgramsTest, EmulatorStartsInItsFolderAndItsEndIsTold)
     m_folder.WriteText(
         u"DOSBox/0.74/dosbox.conf"_s, u"[sdl]\r\noutput=surface\r\n[autoexec]\r\necho Star\r\n"_s);
     ASSERT_NO_FATAL_FAILURE(StartEmulator(u"dosbox.exe"_s, {u"-noconsole"_s}));
-    EXPECT_GE(person.Geometry(*m_window).width(), 640);
+    EXPECT_GE(m_person.Geometry(*m_window).width(), 640);
     EXPECT_TRUE(ShowsColours(*m_window, 2)) << "nothing is drawn in its window";
 
-    ASSERT_TRUE(person.Activate(*m_window, 2 * kStepMs));
-    person.Type(u"exit"_s);
-    person.Key(u"Return"_s);
+    ASSERT_TRUE(m_person.Activate(*m_window, 2 * kStepMs));
+    m_person.Type(u"exit"_s);
+    m_person.Key(u"Return"_s);
     ASSERT_TRUE(QTest::qWaitFor([&] { return m_end.has_value(); }, 2 * kStepMs));
     EXPECT_EQ(m_end->exitStatus, 0);
     EXPECT_TRUE(
         m_end->output.contains("CONFIG:Loading primary settings from config file dosbox.conf"))
         << m_end->output.toStdString();
-    EXPECT_TRUE(person.WaitUntilGone(u"DOSBox 0.74"_s, 2 * kStepMs));
+    EXPECT_TRUE(m_person.WaitUntilGone(u"DOSBox 0.74"_s, 2 * kStepMs));
 }
 
 TEST_F(OutsideProgramsTest, DebuggerRunsWithoutATerminal)
@@ -63,8 +63,8 @@ TEST_F(OutsideProgramsTest, DebuggerRunsWithoutATerminal)
 
 TEST_F(OutsideProgramsTest, DesktopOpensPathsThatAreHardOnShellsAndAddresses)
 {
-    const TestFolder& home = session.Home().Folder();
-    const RecordingOpener opener(session.Home(), session.Environment());
+    const TestFolder& home = m_session.Home().Folder();
+    const RecordingOpener opener(m_session.Home(), m_session.Environment());
     platform::DesktopShellVerbs shell(m_processes, platform::SearchPath());
     const auto opened = [&](const platform::Done& done) {
         EXPECT_TRUE(done);

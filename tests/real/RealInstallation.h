@@ -35,16 +35,16 @@ class RealTest : public testing::Test {
 protected:
     static constexpr int kStepMs = 10'000;
 
-    void SetUp() override { ASSERT_TRUE(session.IsUp()); }
+    void SetUp() override { ASSERT_TRUE(m_session.IsUp()); }
     bool ShowsColours(const Xdotool::WindowId& window, int moreThan) const
     {
         return QTest::qWaitFor(
-            [&] { return session.ColourCount(person.Geometry(window)) > moreThan; }, kStepMs);
+            [&] { return m_session.ColourCount(m_person.Geometry(window)) > moreThan; }, kStepMs);
     }
 
-    const XSession session;
-    const Xdotool person{session};
-    const QString kMainWindow = QStringLiteral("펠로린 Ver\\.");
+    const XSession m_session;
+    const Xdotool m_person{m_session};
+    static QString MainWindow() { return QStringLiteral("펠로린 Ver\\."); }
 };
 
 } // namespace pelorin::test

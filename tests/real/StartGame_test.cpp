@@ -11,21 +11,21 @@ TEST_F(StartGame, ByKeysAloneUpToTheFileThatTheGameWrites)
 {
     const QString game = u"Games/별 헤는 밤 (Star) [1]"_s;
     const TestFolder app(u"내 펠로린 100% [1]"_s);
-    Stage(app, session);
+    Stage(app, m_session);
     ASSERT_FALSE(app.Exists(game + u"/READY.TXT"_s));
 
-    RunProgram pelorin(app.Path(u"Pelorin"_s), {}, PlainEnvironment(session));
-    const auto window = person.WaitForWindow(kMainWindow, kStepMs);
+    RunProgram pelorin(app.Path(u"Pelorin"_s), {}, PlainEnvironment(m_session));
+    const auto window = m_person.WaitForWindow(MainWindow(), kStepMs);
     ASSERT_TRUE(window.has_value()) << pelorin.Output().toStdString();
-    ASSERT_TRUE(person.Activate(*window, kStepMs));
-    ASSERT_TRUE(
-        QTest::qWaitFor([&] { return person.Title(*window).startsWith(u"별 헤는 밤"_s); }, kStepMs))
-        << person.Title(*window);
+    ASSERT_TRUE(m_person.Activate(*window, kStepMs));
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return m_person.Title(*window).startsWith(u"별 헤는 밤"_s); }, kStepMs))
+        << m_person.Title(*window);
 
-    person.Key(u"Return"_s);
+    m_person.Key(u"Return"_s);
     ASSERT_TRUE(QTest::qWaitFor([&] { return app.Exists(game + u"/READY.TXT"_s); }, kStepMs))
         << pelorin.Output().toStdString();
-    const auto emulator = person.WaitForWindow(u"DOSBox 0\\.74"_s, kStepMs);
+    const auto emulator = m_person.WaitForWindow(u"DOSBox 0\\.74"_s, kStepMs);
     ASSERT_TRUE(emulator.has_value());
     constexpr int kColoursBesidesBlack = 8;
     EXPECT_TRUE(ShowsColours(*emulator, kColoursBesidesBlack));
@@ -34,13 +34,13 @@ TEST_F(StartGame, ByKeysAloneUpToTheFileThatTheGameWrites)
     EXPECT_FALSE(app.Exists(game + u"/dosbox"_s));
 
     // The window stays usable while the game runs, and what it did is saved when it closes.
-    person.Close(*window);
+    m_person.Close(*window);
     ASSERT_TRUE(pelorin.WaitForEnd(kStepMs));
     EXPECT_EQ(pelorin.ExitCode(), 0) << pelorin.Output().toStdString();
     EXPECT_TRUE(app.ReadText(u"recent.sav"_s).startsWith(u"별 헤는 밤 (Star) [1]\u0001"_s));
     EXPECT_EQ(app.ReadRaw(u"Gamelist.lst"_s).count('\n'), 1);
     EXPECT_EQ(app.ReadLines(u"Launcher.cfg"_s).size(), 14);
-    EXPECT_TRUE(person.FindWindow(u"DOSBox 0\\.74"_s).has_value());
+    EXPECT_TRUE(m_person.FindWindow(u"DOSBox 0\\.74"_s).has_value());
 }
 
 TEST(CommandLine, AnUnknownOneOpensNothing)

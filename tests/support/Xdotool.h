@@ -32,7 +32,7 @@ public:
     {
         // It ends with 1 when there is none, or when a window goes while it looks.
         const QStringList search = Words(QStringLiteral("search --onlyvisible --name"));
-        const auto done = RunTool(kTool, QStringList(search) << title, m_environment);
+        const auto done = RunTool(m_tool, QStringList(search) << title, m_environment);
         const QByteArray first = done.output.split('\n').constFirst().trimmed();
         return first.isEmpty() ? std::nullopt : std::optional(first);
     }
@@ -74,7 +74,7 @@ public:
         // It fails while nothing at all has the focus.
         const QStringList ask{QStringLiteral("getactivewindow")};
         return QTest::qWaitFor(
-            [&] { return RunTool(kTool, ask, m_environment).output.trimmed() == window; },
+            [&] { return RunTool(m_tool, ask, m_environment).output.trimmed() == window; },
             timeoutMs);
     }
     /// Asks the window manager, as its frame's close button does.
@@ -91,12 +91,12 @@ public:
 private:
     QByteArray Run(const QString& command, const QStringList& more) const
     {
-        const auto done = RunTool(kTool, Words(command) + more, m_environment);
+        const auto done = RunTool(m_tool, Words(command) + more, m_environment);
         EXPECT_EQ(done.exitCode, 0) << command << more.join(u' ') << done.errors.toStdString();
         return done.output.trimmed();
     }
 
-    const QString kTool = QStringLiteral("xdotool");
+    const QString m_tool = QStringLiteral("xdotool");
     QProcessEnvironment m_environment;
 };
 
