@@ -42,7 +42,7 @@ TEST(StartListTest, EachDeedLeavesTheRightLinesAndRow)
         int row = -1;
     };
     struct Case {
-        void (*deed)(StartCommands&);
+        void (*deed)(StartCommands&) = nullptr;
         List before;
         List after;
     };

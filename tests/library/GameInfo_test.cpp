@@ -155,7 +155,8 @@ TEST_F(GameInfoTest, AFileTooLargeToEditIsShownCutAndNeverWrittenOver)
     const std::vector<std::pair<QByteArray, library::InfoState>> cases{
         {line + QByteArray(library::kMostInfo - line.size(), 'x'), library::InfoState::Whole},
         {line + QByteArray(library::kMostInfo - line.size() + 1, 'x'), library::InfoState::Cut},
-        {QByteArray(qsizetype{50} * 1024 * 1024, 'x'), library::InfoState::Cut}, // without a line end
+        {QByteArray(qsizetype{50} * 1024 * 1024, 'x'),
+         library::InfoState::Cut}, // without a line end
         {QByteArray(library::kMostTitleLine + 1, 'x') + "\r\nmore", library::InfoState::Cut},
     };
     for (const auto& [bytes, state] : cases) {
