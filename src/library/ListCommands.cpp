@@ -218,7 +218,6 @@ void Picture2_Click(Launcher& launcher)
         return;
     }
     launcher.settings.TitleLanguageKorean = !launcher.settings.TitleLanguageKorean;
-    launcher.titleOrder.reset();
     launcher.screens.frame.changed.Tell(shell::MainFrame::TitlePicture);
     cmdRefresh_Click(launcher);
 }
