@@ -22,7 +22,7 @@ BenchInstallation::BenchInstallation(const QString& appDir)
     if (scan.troubles.count > 0 || scan.catalogue.empty()) {
         qFatal("%s: no library, or one with troubles", qUtf8Printable(places.gamesRoot));
     }
-    catalogue = std::move(scan.catalogue);
+    catalogue = library::Catalogue(std::move(scan.catalogue));
     icons = std::move(scan.icons);
 }
 

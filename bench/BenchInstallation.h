@@ -1,6 +1,6 @@
 #pragma once
 
-#include "library/GameEntry.h"
+#include "library/Catalogue.h"
 #include "library/IconSheet.h"
 #include "library/ScanProgress.h"
 #include "shell/LangTable.h"

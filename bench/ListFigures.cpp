@@ -7,6 +7,7 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -18,7 +19,7 @@ namespace {
 constexpr int kDistinctValues = 2000;
 
 /// Looks at each character of each title.
-std::size_t PassOverTitles(const library::Catalogue& catalogue)
+std::size_t PassOverTitles(library::GamesView catalogue)
 {
     std::size_t sum = 0;
     for (const library::GameEntry& entry : catalogue) {
@@ -40,23 +41,61 @@ QStringList BuildNames()
 
 /// A list that was built before, as after the start.
 struct StandingList {
+    explicit StandingList(const BenchInstallation& installation, bool korean = true)
+        : titleLanguageKorean(korean)
+        , order(QLocale(korean ? QLocale::Korean : QLocale::English), korean)
+    {
+        finding::BuildTreeSkeleton(tree, installation.lang, buildNames);
+        finding::RefillValueNodes(tree, installation.catalogue);
+    }
+
+    bool titleLanguageKorean;
     finding::GameList list;
     finding::FilterTree tree;
-    finding::TitleOrder order{QLocale(QLocale::Korean), true};
+    finding::TitleOrder order;
     QStringList buildNames = BuildNames();
 
-    void Rebuild(const library::Catalogue& catalogue, const QString& term)
+    finding::ListSource Source(library::GamesView catalogue, const QString& term = QString()) const
     {
-        const finding::ListSource source{catalogue, buildNames, true, term, u" [압축]"_s};
+        return {catalogue, buildNames, titleLanguageKorean, term, u" [압축]"_s};
+    }
+    void Rebuild(library::GamesView catalogue, const QString& term)
+    {
+        const finding::ListSource source = Source(catalogue, term);
         finding::BuildGameList(list, order, source, finding::BuildFilterIndex(tree, source));
+    }
+    /// Marks, in that category, the first child that passes the game alone, and tells whether there
+    /// is one.
+    bool Mark(const QString& rootKey, const library::GameEntry& game)
+    {
+        const finding::ListSource source = Source({&game, 1});
+        for (finding::FilterNode& node : tree.Root(rootKey)->children) {
+            finding::FilterTree one;
+            one.roots.push_back({rootKey, {}, {node, {}}, false, false});
+            one.roots[0].children[0].checked = true;
+            if (finding::BuildFilterIndex(one, source)) {
+                node.checked = true;
+                return true;
+            }
+        }
+        return false;
     }
 };
 
-void AddRebuild(const char* name, const BenchInstallation& installation, const QString& term)
+void AddRebuild(
+    const char* name,
+    const BenchInstallation& installation,
+    const std::function<void(StandingList& standing)>& prepare,
+    const QString& term = QString(),
+    bool korean = true)
 {
     AddFigure(name, [=, &installation](benchmark::State& state) {
-        StandingList standing;
+        StandingList standing(installation, korean);
+        prepare(standing);
         standing.Rebuild(installation.catalogue, term);
+        if (standing.list.items.empty()) {
+            state.SkipWithError("an empty list");
+        }
         TimeEach(state, [&] {
             standing.Rebuild(installation.catalogue, term);
             return standing.list.items.size();
@@ -70,28 +109,39 @@ void AddRebuilds(const BenchInstallation& installation)
     AddFigure("titles_pass/floor", [&](benchmark::State& state) {
         TimeEach(state, [&] { return PassOverTitles(installation.catalogue); });
     });
-    AddRebuild("rebuild_all/is", installation, QString());
-    AddRebuild("rebuild_search/is", installation, u"용"_s);
+    const auto nothing = [](StandingList&) {};
+    AddRebuild("rebuild_all/is", installation, nothing);
+    AddRebuild("rebuild_search/is", installation, nothing, u"용"_s);
+    AddRebuild("rebuild_one_category/is", installation, [&](StandingList& standing) {
+        standing.Mark(u"genrek"_s, installation.catalogue[0]);
+    });
+    // English titles, since none begins with a letter and with Hangul at once.
+    AddRebuild(
+        "rebuild_ten_categories/is",
+        installation,
+        [&](StandingList& standing) {
+            for (const finding::FilterRoot& root : standing.tree.roots) {
+                if (!standing.Mark(root.key, installation.catalogue[0])) {
+                    qFatal("no child of %s passes the game", qUtf8Printable(root.key));
+                }
+            }
+        },
+        QString(),
+        false);
+    AddRebuild("rebuild_by_column/is", installation, [](StandingList& standing) {
+        standing.list.sort.column = 4;
+    });
     AddFigure("rebuild_first/is", [&](benchmark::State& state) {
         TimeEach(state, [&] {
-            auto standing = std::make_unique<StandingList>();
+            auto standing = std::make_unique<StandingList>(installation);
             standing->Rebuild(installation.catalogue, QString());
             return standing;
-        });
-    });
-    AddFigure("rebuild_by_column/is", [&](benchmark::State& state) {
-        StandingList standing;
-        standing.list.sort.column = 4;
-        standing.Rebuild(installation.catalogue, QString());
-        TimeEach(state, [&] {
-            standing.Rebuild(installation.catalogue, QString());
-            return standing.list.items.size();
         });
     });
 }
 
 /// The library with as many distinct values in the six categories by value.
-library::Catalogue WithDistinctValues(library::Catalogue catalogue)
+library::GameEntries WithDistinctValues(library::GameEntries catalogue)
 {
     struct Share {
         QString library::GameEntry::*field;
@@ -136,14 +186,22 @@ std::vector<QStringList> ValuesOf(const finding::FilterTree& tree)
 
 void AddNodes(const BenchInstallation& installation)
 {
-    const auto catalogue =
-        std::make_shared<const library::Catalogue>(WithDistinctValues(installation.catalogue));
+    const library::GameEntries games = WithDistinctValues(
+        library::GameEntries(installation.catalogue.begin(), installation.catalogue.end()));
+    const auto catalogue = std::make_shared<library::Catalogue>(games);
     const auto tree = std::make_shared<finding::FilterTree>();
     finding::BuildTreeSkeleton(*tree, installation.lang, BuildNames());
     finding::RefillValueNodes(*tree, *catalogue);
     const std::vector<QStringList> values = ValuesOf(*tree);
     AddFigure("value_nodes/is", [=](benchmark::State& state) {
+        int position = 0;
         TimeEach(state, [&] {
+            // As after a change of one game: the values of two swap places.
+            const QString former = (*catalogue)[0].Maker;
+            const int other = ++position % static_cast<int>(catalogue->size());
+            const QString latter = (*catalogue)[static_cast<std::size_t>(other)].Maker;
+            catalogue->Edit(0, [&](auto& game) { game.Maker = latter; });
+            catalogue->Edit(other, [&](auto& game) { game.Maker = former; });
             finding::RefillValueNodes(*tree, *catalogue);
             return 0;
         });
@@ -154,6 +212,9 @@ void AddNodes(const BenchInstallation& installation)
         if (count != kDistinctValues) {
             state.SkipWithError("not as many values as meant");
         }
+    });
+    AddFigure("value_count/is", [=](benchmark::State& state) {
+        TimeEach(state, [&] { return library::Catalogue(games); });
     });
     AddFigure("value_nodes/floor", [=](benchmark::State& state) {
         std::vector<QStringList> sorted;

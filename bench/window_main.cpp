@@ -116,7 +116,7 @@ void AddSelection(BenchWindow& window)
         TimeEach(state, [&] {
             const int row = dice.Roll(static_cast<int>(list.items.size()));
             return LookAtGame(
-                window.launcher.places.GameDir(list.items[static_cast<std::size_t>(row)].folder));
+                window.launcher.places.GameDir(list.items[static_cast<std::size_t>(row)].Folder()));
         });
     })->Iterations(100);
 }

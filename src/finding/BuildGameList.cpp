@@ -10,8 +10,6 @@ namespace {
 
 using library::GameEntry;
 
-constexpr std::size_t kGenreColumn = 1;
-
 /// The positions of the games that are to be shown, by title.
 std::vector<int> ShownByTitle(
     TitleOrder& order, const ListSource& source, const std::vector<int>& index)
@@ -32,21 +30,54 @@ std::vector<int> ShownByTitle(
     return shown;
 }
 
-QString ColumnText(
-    const GameEntry& entry, const QStringList& buildNames, bool titleLanguageKorean, int column)
-{
-    switch (column) {
-    case 0: return DisplayTitle(entry, titleLanguageKorean);
-    case 1: return titleLanguageKorean ? entry.GenreK : entry.GenreE;
-    case 2: return entry.Folder;
-    case 3: return buildNames.value(entry.DosboxVersion);
-    case 4: return entry.Maker;
-    case 5: return entry.Release;
-    case 6: return entry.GameLanguage;
-    case 7: return entry.Country;
-    default: return {};
+/// What a row shows of a game, without a copy. Outlived by what it is made of.
+class RowTexts {
+public:
+    explicit RowTexts(const QStringList& buildNames, bool titleLanguageKorean)
+        : m_buildNames(buildNames)
+        , m_korean(titleLanguageKorean)
+    {}
+
+    const QString& Of(const GameEntry& entry, int column) const
+    {
+        switch (column) {
+        case 0: return DisplayTitle(entry, m_korean);
+        case 1: return m_korean ? entry.GenreK : entry.GenreE;
+        case 2: return entry.Folder;
+        case 3: return BuildOf(entry);
+        case 4: return entry.Maker;
+        case 5: return entry.Release;
+        case 6: return entry.GameLanguage;
+        case 7: return entry.Country;
+        default: return m_none;
+        }
     }
-}
+
+    /// Few texts of a row differ from what it showed before, and most are the same in memory too;
+    /// those are not touched.
+    void Fill(GameItem& item, const GameEntry& entry) const
+    {
+        item.listIndex = entry.ListIndex;
+        for (int column = 0; column < kColumns; ++column) {
+            QString& kept = item.text[static_cast<std::size_t>(column)];
+            const QString& now = Of(entry, column);
+            if (kept.constData() != now.constData() || kept.size() != now.size()) {
+                kept = now;
+            }
+        }
+    }
+
+private:
+    const QString& BuildOf(const GameEntry& entry) const
+    {
+        const int build = entry.DosboxVersion;
+        return build >= 0 && build < m_buildNames.size() ? m_buildNames[build] : m_none;
+    }
+
+    const QStringList& m_buildNames;
+    bool m_korean;
+    QString m_none;
+};
 
 /// Sorts positions by the texts of a column. Those with one text stay in the order in which they
 /// come, also when it goes downwards.
@@ -55,8 +86,9 @@ void SortByColumn(
 {
     QStringList texts;
     texts.reserve(static_cast<qsizetype>(source.catalogue.size()));
+    const RowTexts rows(source.buildNames, source.TitleLanguageKorean);
     for (const GameEntry& entry : source.catalogue) {
-        texts << ColumnText(entry, source.buildNames, source.TitleLanguageKorean, sort.column);
+        texts << rows.Of(entry, sort.column);
     }
     TextRanks& column = order.Column(sort.column);
     const std::vector<int>& ranks = column.Of(texts, order.Collator());
@@ -76,24 +108,6 @@ void SortByColumn(
         sorted[starts[rankOf(position)]++] = position;
     }
     positions = std::move(sorted);
-}
-
-void FillItems(GameList& list, const ListSource& source, const std::vector<int>& positions)
-{
-    std::vector<int> rows(source.catalogue.size(), -1);
-    int row = 0;
-    for (const int position : positions) {
-        rows[static_cast<std::size_t>(position)] = row++;
-    }
-    list.items.resize(positions.size());
-    // In the order of the Catalogue, which lies in memory like that: in the order of the rows each
-    // entry would have to be fetched, and that is far slower.
-    for (std::size_t position = 0; position < rows.size(); ++position) {
-        if (rows[position] >= 0) {
-            list.items[static_cast<std::size_t>(rows[position])] =
-                ItemOf(source.catalogue[position], source.buildNames, source.TitleLanguageKorean);
-        }
-    }
 }
 
 ListOutcome OutcomeOf(const GameList& list, const ListSource& source, const FilterIndex& index)
@@ -119,13 +133,7 @@ QString SearchForm(const QString& text)
 GameItem ItemOf(const GameEntry& entry, const QStringList& buildNames, bool titleLanguageKorean)
 {
     GameItem item;
-    item.folder = entry.Folder;
-    item.listIndex = entry.ListIndex;
-    for (int column = 0; column < kColumns; ++column) {
-        item.text[static_cast<std::size_t>(column)] =
-            ColumnText(entry, buildNames, titleLanguageKorean, column);
-    }
-    item.tag = item.text[kGenreColumn];
+    RowTexts(buildNames, titleLanguageKorean).Fill(item, entry);
     return item;
 }
 
@@ -141,7 +149,11 @@ void BuildGameList(
     } else if (list.sort.descending) {
         std::reverse(shown.begin(), shown.end());
     }
-    FillItems(list, source, shown);
+    const RowTexts rows(source.buildNames, source.TitleLanguageKorean);
+    list.items.Lay(
+        std::move(shown), source.catalogue.size(), [&](std::size_t position, GameItem& item) {
+            rows.Fill(item, source.catalogue[position]);
+        });
     list.outcome = OutcomeOf(list, source, index);
     list.selected = list.items.empty() ? -1 : 0;
     list.selectedRows.assign(list.items.empty() ? 0 : 1, 0);

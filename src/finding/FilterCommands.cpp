@@ -151,8 +151,9 @@ void LVGamelist_ColumnClick(Launcher& launcher, int column)
         return;
     }
     GameList& list = launcher.screens.list;
-    const QString selected =
-        list.selected < 0 ? QString() : list.items[static_cast<std::size_t>(list.selected)].folder;
+    const QString selected = list.selected < 0
+                                 ? QString()
+                                 : list.items[static_cast<std::size_t>(list.selected)].Folder();
     const platform::RedrawLock lock(launcher.screens.gate);
     list.sort = ListSort{column, column == list.sort.column && !list.sort.descending};
     RefreshGameList(launcher);

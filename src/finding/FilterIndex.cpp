@@ -135,7 +135,7 @@ bool TitleHasStoreMark(const QString& title, const QString& storeMark)
 
 FilterIndex BuildFilterIndex(const FilterTree& tree, const ListSource& source)
 {
-    const library::Catalogue& catalogue = source.catalogue;
+    const library::GamesView catalogue = source.catalogue;
     const auto entryAt = [&](int position) -> const GameEntry& {
         return catalogue[static_cast<std::size_t>(position)];
     };

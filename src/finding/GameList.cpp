@@ -1,14 +1,15 @@
 #include "finding/GameList.h"
 
-#include <algorithm>
-
 namespace pelorin::finding {
 
 int GameList::RowOf(const QString& folder) const
 {
-    const auto hit = std::find_if(
-        items.begin(), items.end(), [&](const GameItem& item) { return item.folder == folder; });
-    return hit == items.end() ? -1 : static_cast<int>(hit - items.begin());
+    for (std::size_t row = 0; row < items.size(); ++row) {
+        if (items[row].Folder() == folder) {
+            return static_cast<int>(row);
+        }
+    }
+    return -1;
 }
 
 void GameList::Select(int row)

@@ -1,25 +1,15 @@
 #pragma once
 
+#include "finding/GameRows.h"
 #include "platform/Notifier.h"
 
 #include <QString>
-#include <QStringList>
 
 #include <array>
 #include <cstdint>
 #include <vector>
 
 namespace pelorin::finding {
-
-inline constexpr int kColumns = 8; // title, genre, folder, build, maker, release, language, country
-
-/// One row of LVGamelist.
-struct GameItem {
-    QString folder;                     // its key is "K" and the folder
-    std::array<QString, kColumns> text; // text[0] is the title in use, also the tool tip
-    QString tag;                        // the genre in use
-    std::int16_t listIndex = 0;         // number of its icon, from 1
-};
 
 /// What a rebuild of the list left.
 enum class ListOutcome {
@@ -50,7 +40,7 @@ struct GameList {
         Columns = 64, // widths and captions
     };
 
-    std::vector<GameItem> items;
+    GameRows items;
     int selected = -1;             // the row that the commands work on; -1 none
     std::vector<int> selectedRows; // all selected rows, ascending; holds `selected`
     ListOutcome outcome = ListOutcome::NotBuilt;

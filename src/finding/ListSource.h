@@ -9,7 +9,7 @@ namespace pelorin::finding {
 
 /// What the list is built from. All of it must outlive the call.
 struct ListSource {
-    const library::Catalogue& catalogue;
+    library::GamesView catalogue;
     const QStringList& buildNames; // value list of the first option cell
     bool TitleLanguageKorean = true;
     QString txtFind;   // as typed

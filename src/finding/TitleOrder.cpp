@@ -9,7 +9,7 @@
 
 namespace pelorin::finding {
 
-QString DisplayTitle(const library::GameEntry& entry, bool titleLanguageKorean)
+const QString& DisplayTitle(const library::GameEntry& entry, bool titleLanguageKorean)
 {
     const QString& title = TitleOf(entry, titleLanguageKorean);
     return title.isEmpty() ? entry.Folder : title;
@@ -20,7 +20,7 @@ TitleOrder::TitleOrder(const QLocale& locale, bool titleLanguageKorean)
     , m_titleLanguageKorean(titleLanguageKorean)
 {}
 
-const std::vector<int>& TitleOrder::Sorted(const library::Catalogue& catalogue)
+const std::vector<int>& TitleOrder::Sorted(library::GamesView catalogue)
 {
     const int oldCount = static_cast<int>(m_known.size());
     const int newCount = static_cast<int>(catalogue.size());
@@ -72,7 +72,7 @@ bool TitleOrder::Before(int a, int b) const
 
 /// The known positions head to oldEnd give way to the positions head to newEnd of `catalogue`; what
 /// stands before and behind them is the same in both.
-void TitleOrder::Replace(int head, int oldEnd, int newEnd, const library::Catalogue& catalogue)
+void TitleOrder::Replace(int head, int oldEnd, int newEnd, library::GamesView catalogue)
 {
     QHash<QString, QCollatorSortKey> keys;
     for (auto old = m_known.begin() + head; old != m_known.begin() + oldEnd; ++old) {

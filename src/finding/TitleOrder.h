@@ -16,7 +16,7 @@
 namespace pelorin::finding {
 
 /// The title in use, or the folder's name for a game without one.
-QString DisplayTitle(const library::GameEntry& entry, bool titleLanguageKorean);
+const QString& DisplayTitle(const library::GameEntry& entry, bool titleLanguageKorean);
 
 /// The order of titles in one title language, and the titles as the search compares them. Both
 /// are costly, so they are kept from one rebuild of the list to the next: only titles that differ
@@ -28,7 +28,7 @@ public:
 
     /// Positions in the Catalogue by title, ties by folder. Of entries with one folder only the
     /// first is in it. Valid until the next call.
-    const std::vector<int>& Sorted(const library::Catalogue& catalogue);
+    const std::vector<int>& Sorted(library::GamesView catalogue);
 
     /// The title without blanks in upper case, empty for an empty title. Sorted must have been
     /// called with the Catalogue that the position belongs to.
@@ -50,7 +50,7 @@ private:
 
     bool Matches(const Known& known, const library::GameEntry& entry) const;
     bool Before(int a, int b) const;
-    void Replace(int head, int oldEnd, int newEnd, const library::Catalogue& catalogue);
+    void Replace(int head, int oldEnd, int newEnd, library::GamesView catalogue);
     void CountFolder(const QString& folder, int change);
     void DropTwins();
 

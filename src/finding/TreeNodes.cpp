@@ -2,8 +2,6 @@
 
 #include "shell/LangTable.h"
 
-#include <QSet>
-
 #include <algorithm>
 #include <array>
 
@@ -81,27 +79,16 @@ QStringList SingleCharacters(QStringView characters)
     return texts;
 }
 
-QStringList DistinctValues(const library::Catalogue& catalogue, QString GameEntry::*field)
+void FillValues(FilterRoot& root, const library::ValueCounts& values)
 {
-    // Most games share their facts with others, also in memory: then the place tells them apart.
-    QSet<const QChar*> places;
-    QSet<QString> values;
-    for (const GameEntry& entry : catalogue) {
-        const QString& value = entry.*field;
-        const qsizetype before = places.size();
-        places.insert(value.constData());
-        if (places.size() > before) {
-            values.insert(value);
-        }
-    }
-    QStringList sorted;
-    for (const QString& value : std::as_const(values)) {
+    const QString prefix = KeyPrefix(root.key);
+    root.children.clear();
+    root.children.reserve(values.size());
+    for (const auto& [value, games] : values) {
         if (!IsBlank(value)) {
-            sorted << value;
+            root.children.push_back(FilterNode{prefix + value, value, false});
         }
     }
-    std::sort(sorted.begin(), sorted.end());
-    return sorted;
 }
 
 } // namespace
@@ -138,8 +125,7 @@ void RefillValueNodes(FilterTree& tree, const library::Catalogue& catalogue)
         if (root == nullptr) {
             continue;
         }
-        root->children.clear();
-        AddChildren(tree, category.key, DistinctValues(catalogue, category.field));
+        FillValues(*root, catalogue.Values(category.field));
     }
     tree.changed.Tell(FilterTree::Nodes);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "finding/FilterTree.h"
-#include "library/GameEntry.h"
+#include "library/Catalogue.h"
 
 #include <QString>
 #include <QStringList>

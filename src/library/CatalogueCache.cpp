@@ -104,7 +104,7 @@ bool HoldsUnfitText(const shell::Places& places, const QString& folder)
 }
 
 /// Positions whose records go into the files; the others' folders go into `leftOut`.
-std::vector<int> PositionsToSave(const Catalogue& catalogue, QStringList& leftOut)
+std::vector<int> PositionsToSave(GamesView catalogue, QStringList& leftOut)
 {
     std::vector<int> positions;
     positions.reserve(catalogue.size());
@@ -121,7 +121,7 @@ std::vector<int> PositionsToSave(const Catalogue& catalogue, QStringList& leftOu
 /// The list's content, in a file that has still to take its place.
 platform::Done WriteList(
     platform::FileReplacement& file,
-    const Catalogue& catalogue,
+    GamesView catalogue,
     const std::vector<int>& positions,
     ScanProgress& progress)
 {
@@ -204,7 +204,7 @@ Error DamagedList(const QString& path, const QString& reason)
     return Error{ErrorKind::Malformed, u"%1: %2"_s.arg(path, reason)};
 }
 
-platform::Outcome<Catalogue> CatalogueFromLine(const QString& path, const QString& line)
+platform::Outcome<GameEntries> CatalogueFromLine(const QString& path, const QString& line)
 {
     const QList<QStringView> records = QStringView(line).split(kRecordBreak);
     if (records.size() > kMostGames) {
@@ -213,7 +213,7 @@ platform::Outcome<Catalogue> CatalogueFromLine(const QString& path, const QStrin
     if (line.contains(QChar::ReplacementCharacter)) {
         return DamagedList(path, u"bytes that are no text in code page 949"_s);
     }
-    Catalogue catalogue(static_cast<std::size_t>(records.size()));
+    GameEntries catalogue(static_cast<std::size_t>(records.size()));
     QSet<QString> folders;
     folders.reserve(records.size());
     TextPool pool;
@@ -250,7 +250,7 @@ platform::Outcome<CachedCatalogue> ReadCatalogueCache(
     if (!lines) {
         return lines.Failure();
     }
-    platform::Outcome<Catalogue> catalogue = CatalogueFromLine(listPath, lines.Value().value(0));
+    platform::Outcome<GameEntries> catalogue = CatalogueFromLine(listPath, lines.Value().value(0));
     if (!catalogue) {
         return catalogue.Failure();
     }
@@ -265,7 +265,7 @@ platform::Outcome<CachedCatalogue> ReadCatalogueCache(
 
 platform::Outcome<CacheReport> SaveCatalogueCache(
     const shell::Places& places,
-    const Catalogue& catalogue,
+    GamesView catalogue,
     const IconSheet& icons,
     ScanProgress& progress)
 {
@@ -301,14 +301,14 @@ platform::Done DeleteCatalogueCache(const shell::Places& places)
     return list ? sheet : list;
 }
 
-QStringList GamesWithoutCache(const Catalogue& catalogue)
+QStringList GamesWithoutCache(GamesView catalogue)
 {
     QStringList leftOut;
     PositionsToSave(catalogue, leftOut);
     return leftOut;
 }
 
-QStringList FoldersWithoutCache(const shell::Places& places, const Catalogue& catalogue)
+QStringList FoldersWithoutCache(const shell::Places& places, GamesView catalogue)
 {
     QSet<QString> known;
     known.reserve(static_cast<qsizetype>(catalogue.size()));

@@ -21,7 +21,7 @@ struct Places;
 namespace pelorin::library {
 
 struct CachedCatalogue {
-    Catalogue catalogue;
+    GameEntries catalogue;
     IconSheet icons; // as many as games
 };
 
@@ -47,7 +47,7 @@ struct CacheReport {
 /// give up: this is what the program does last. Error: Unwritable.
 platform::Outcome<CacheReport> SaveCatalogueCache(
     const shell::Places& places,
-    const Catalogue& catalogue,
+    GamesView catalogue,
     const IconSheet& icons,
     ScanProgress& progress);
 
@@ -56,11 +56,11 @@ platform::Done DeleteCatalogueCache(const shell::Places& places);
 
 /// The folders of those games of `catalogue` that a save would leave out: code page 949 can't keep
 /// their name or another text of their record.
-QStringList GamesWithoutCache(const Catalogue& catalogue);
+QStringList GamesWithoutCache(GamesView catalogue);
 
 /// The sub-folders of GamesRoot that a save has left out and that `catalogue` does not hold. Lists
 /// GamesRoot, and opens only folders that are new there (none when the Catalogue is full); writes
 /// nothing.
-QStringList FoldersWithoutCache(const shell::Places& places, const Catalogue& catalogue);
+QStringList FoldersWithoutCache(const shell::Places& places, GamesView catalogue);
 
 } // namespace pelorin::library

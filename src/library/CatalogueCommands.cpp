@@ -5,8 +5,8 @@
 #include "finding/BuildGameList.h"
 #include "finding/FilterCommands.h"
 #include "finding/TreeNodes.h"
+#include "library/Catalogue.h"
 #include "library/CatalogueCache.h"
-#include "library/CatalogueEdits.h"
 #include "library/CatalogueScan.h"
 #include "library/FolderCommands.h"
 #include "library/ShowinfoCommands.h"
@@ -118,7 +118,7 @@ bool FillByScan(Launcher& launcher)
     if (scan.abandoned) {
         return true;
     }
-    launcher.catalogue = std::move(scan.catalogue);
+    launcher.catalogue = Catalogue(std::move(scan.catalogue));
     launcher.icons = std::move(scan.icons);
     launcher.settings.rootsChanged = false;
     TellTroubles(launcher, scan.troubles);
@@ -163,7 +163,7 @@ bool FillByCache(Launcher& launcher)
         qCWarning(room).noquote() << cached.Failure().text;
         return false;
     }
-    launcher.catalogue = std::move(cached.Value().catalogue);
+    launcher.catalogue = Catalogue(std::move(cached.Value().catalogue));
     launcher.icons = std::move(cached.Value().icons);
     AddGamesWithoutCache(launcher);
     FillTree(launcher);
@@ -265,8 +265,9 @@ void RereadGameEntry(Launcher& launcher, const QString& folder)
     if (position < 0) {
         return;
     }
-    GameEntry& entry = launcher.catalogue[static_cast<std::size_t>(position)];
-    RefreshEntry(entry, ListGame(launcher.places, folder), RulesOf(launcher));
+    const GameFiles files = ListGame(launcher.places, folder);
+    launcher.catalogue.Edit(
+        position, [&](GameEntry& entry) { RefreshEntry(entry, files, RulesOf(launcher)); });
     ShowGameEntry(launcher, folder);
 }
 
@@ -312,8 +313,7 @@ Done MoveGameToBin(Launcher& launcher, const QString& folder)
 
 void RemoveGameEntries(Launcher& launcher, const QStringList& folders)
 {
-    RemoveFromCatalogue(
-        launcher.catalogue, launcher.icons, QSet<QString>(folders.begin(), folders.end()));
+    launcher.icons.Remove(launcher.catalogue.Remove(QSet<QString>(folders.begin(), folders.end())));
     launcher.screens.list.changed.Tell(finding::GameList::Icons);
     for (const QString& folder : folders) {
         FolderGone(launcher, folder);

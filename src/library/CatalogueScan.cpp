@@ -183,7 +183,7 @@ bool AddGame(
     }
     icons.Append(PrepareGameFolder(files, defaultIcon, troubles));
     const int position = static_cast<int>(catalogue.size());
-    catalogue.push_back(ReadGameFolder(files, position, rules, troubles));
+    catalogue.Append(ReadGameFolder(files, position, rules, troubles));
     return true;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "library/GameEntry.h"
+#include "library/Catalogue.h"
 #include "library/GameFiles.h"
 #include "library/IconSheet.h"
 #include "library/ScanProgress.h"
@@ -15,7 +15,7 @@ struct Places;
 namespace pelorin::library {
 
 struct ScanResult {
-    Catalogue catalogue;
+    GameEntries catalogue;
     IconSheet icons;        // as many as games
     int beyondBound = 0;    // folders left out behind the first kMostGames
     QStringList refused;    // "name: reason" of what is left out else: folders that WhyNoGame

@@ -1,8 +1,8 @@
 #include "library/ConfigDetailCommands.h"
 
 #include "finding/TreeNodes.h"
+#include "library/Catalogue.h"
 #include "library/CatalogueCommands.h"
-#include "library/CatalogueEdits.h"
 #include "library/ConfigDetail.h"
 #include "library/GameFiles.h"
 #include "library/GameInfo.h"
@@ -55,11 +55,12 @@ void ShowFacts(Launcher& launcher, const QString& folder, const Facts& facts)
     if (position < 0) {
         return;
     }
-    GameEntry& entry = launcher.catalogue[static_cast<std::size_t>(position)];
-    entry.Maker = facts.Maker;
-    entry.Release = facts.Release;
-    entry.GameLanguage = facts.GameLanguage;
-    entry.Country = facts.Country;
+    launcher.catalogue.Edit(position, [&](GameEntry& entry) {
+        entry.Maker = facts.Maker;
+        entry.Release = facts.Release;
+        entry.GameLanguage = facts.GameLanguage;
+        entry.Country = facts.Country;
+    });
     finding::RefillValueNodes(launcher.screens.tree, launcher.catalogue);
     ShowGameEntry(launcher, folder);
 }

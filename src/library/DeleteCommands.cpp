@@ -1,8 +1,8 @@
 #include "library/DeleteCommands.h"
 
 #include "finding/FilterCommands.h"
+#include "library/Catalogue.h"
 #include "library/CatalogueCommands.h"
-#include "library/CatalogueEdits.h"
 #include "library/DeleteQuestion.h"
 #include "library/ListCommands.h"
 #include "library/ShowinfoCommands.h"
@@ -105,7 +105,7 @@ QStringList Neighbours(const finding::GameList& list)
     }
     for (int row = 0; row < static_cast<int>(list.items.size()); ++row) {
         if (!chosen[static_cast<std::size_t>(row)]) {
-            const QString& folder = list.items[static_cast<std::size_t>(row)].folder;
+            const QString& folder = list.items[static_cast<std::size_t>(row)].Folder();
             row > last ? below.append(folder) : above.prepend(folder);
         }
     }
@@ -123,7 +123,7 @@ void SelectAfterwards(
     }
     std::vector<int> rows;
     for (int row = 0; row < static_cast<int>(list.items.size()); ++row) {
-        if (chosen.contains(list.items[static_cast<std::size_t>(row)].folder)) {
+        if (chosen.contains(list.items[static_cast<std::size_t>(row)].Folder())) {
             rows.push_back(row);
         }
     }

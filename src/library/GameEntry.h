@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace pelorin::library {
@@ -25,6 +26,7 @@ struct GameEntry {
 /// Positions are 16-bit signed, so that is the bound.
 inline constexpr int kMostGames = 32767;
 
-using Catalogue = std::vector<GameEntry>;
+using GameEntries = std::vector<GameEntry>;
+using GamesView = std::span<const GameEntry>;
 
 } // namespace pelorin::library

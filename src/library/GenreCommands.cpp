@@ -1,8 +1,8 @@
 #include "library/GenreCommands.h"
 
 #include "finding/TreeNodes.h"
+#include "library/Catalogue.h"
 #include "library/CatalogueCommands.h"
-#include "library/CatalogueEdits.h"
 #include "library/GameFiles.h"
 #include "platform/Paths.h"
 #include "platform/Prompts.h"
@@ -74,7 +74,7 @@ void SetGenre(Launcher& launcher, const QString& folder, GenreFile which, const 
     }
     const int position = PositionOf(launcher.catalogue, folder);
     if (position >= 0) {
-        launcher.catalogue[static_cast<std::size_t>(position)].*place.field = genre;
+        launcher.catalogue.Edit(position, [&](GameEntry& entry) { entry.*place.field = genre; });
         finding::RefillValueNodes(launcher.screens.tree, launcher.catalogue);
         ShowGameEntry(launcher, folder);
     }

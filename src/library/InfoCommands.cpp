@@ -1,7 +1,7 @@
 #include "library/InfoCommands.h"
 
+#include "library/Catalogue.h"
 #include "library/CatalogueCommands.h"
-#include "library/CatalogueEdits.h"
 #include "library/Drafts.h"
 #include "library/GameFiles.h"
 #include "platform/Paths.h"

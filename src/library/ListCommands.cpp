@@ -135,7 +135,7 @@ std::vector<ListedGame> SelectedGames(const Launcher& launcher)
     for (const int row : list.selectedRows) {
         if (row >= 0 && row < static_cast<int>(list.items.size())) {
             const finding::GameItem& item = list.items[static_cast<std::size_t>(row)];
-            games.push_back({item.folder, item.text[0]});
+            games.push_back({item.Folder(), item.text[0]});
         }
     }
     return games;

@@ -1,8 +1,8 @@
 #include "library/RenameCommands.h"
 
 #include "archives/FileOperations.h"
+#include "library/Catalogue.h"
 #include "library/CatalogueCommands.h"
-#include "library/CatalogueEdits.h"
 #include "library/FolderCommands.h"
 #include "library/FolderName.h"
 #include "library/ListCommands.h"
@@ -68,11 +68,11 @@ void FollowRename(Launcher& launcher, const QString& oldName, const QString& new
     const platform::RedrawLock lock(launcher.screens.gate);
     const int position = PositionOf(launcher.catalogue, oldName);
     if (position >= 0) {
-        launcher.catalogue[static_cast<std::size_t>(position)].Folder = newName;
+        launcher.catalogue.Edit(position, [&](GameEntry& entry) { entry.Folder = newName; });
     }
     finding::GameList& list = launcher.screens.list;
     if (const int row = list.RowOf(oldName); row >= 0) {
-        list.items[static_cast<std::size_t>(row)].folder = newName;
+        list.items[static_cast<std::size_t>(row)].text[finding::kFolderColumn] = newName;
         list.changed.Tell(finding::GameList::Rows);
     }
     for (QString* const name :

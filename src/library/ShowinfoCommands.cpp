@@ -5,8 +5,8 @@
 #include "dosboxconf/ConfReportCommands.h"
 #include "dosboxconf/StartCommandsFile.h"
 #include "dosboxconf/StartPageCommands.h"
+#include "library/Catalogue.h"
 #include "library/CatalogueCommands.h"
-#include "library/CatalogueEdits.h"
 #include "library/GameFiles.h"
 #include "library/GameInfo.h"
 #include "library/InfoCommands.h"
@@ -46,9 +46,10 @@ void TakeGenres(Launcher& launcher, GameFiles& files)
     }
     Troubles troubles; // a scan tells of them
     const Genres genres = ReadGenres(files, GenreForm::Panel, troubles);
-    GameEntry& entry = launcher.catalogue[static_cast<std::size_t>(position)];
-    entry.GenreK = genres.korean;
-    entry.GenreE = genres.english;
+    launcher.catalogue.Edit(position, [&](GameEntry& entry) {
+        entry.GenreK = genres.korean;
+        entry.GenreE = genres.english;
+    });
     ShowGenres(launcher, genres.korean, genres.english);
 }
 
@@ -120,7 +121,7 @@ void ShowCaption(Launcher& launcher)
 QString SelectedTag(const finding::GameList& list)
 {
     const auto row = static_cast<std::size_t>(list.selected);
-    return list.selected >= 0 && row < list.items.size() ? list.items[row].tag : QString();
+    return list.selected >= 0 && row < list.items.size() ? list.items[row].Tag() : QString();
 }
 
 } // namespace
@@ -187,7 +188,7 @@ void LVGamelist_ItemClick(Launcher& launcher)
         return;
     }
     const finding::GameItem& item = list.items[static_cast<std::size_t>(list.selected)];
-    launcher.current.CurrentFolder = item.folder;
+    launcher.current.CurrentFolder = item.Folder();
     launcher.current.CurrentTitle = item.text[0];
 }
 

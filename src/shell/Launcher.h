@@ -2,8 +2,8 @@
 
 #include "dosboxconf/OptionGrid.h"
 #include "finding/TitleOrder.h"
+#include "library/Catalogue.h"
 #include "library/Drafts.h"
-#include "library/GameEntry.h"
 #include "library/IconSheet.h"
 #include "platform/Ports.h"
 #include "shell/Current.h"

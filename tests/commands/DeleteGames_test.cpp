@@ -49,7 +49,7 @@ public:
     {
         QString folders;
         for (const finding::GameItem& item : launcher->screens.list.items) {
-            folders += item.folder;
+            folders += item.Folder();
         }
         return folders;
     }
@@ -73,7 +73,7 @@ public:
         const int selected = launcher->screens.list.selected;
         EXPECT_EQ(
             selected < 0 ? QString()
-                         : launcher->screens.list.items.at(std::size_t(selected)).folder,
+                         : launcher->screens.list.items.at(std::size_t(selected)).Folder(),
             current);
     }
 
@@ -197,8 +197,12 @@ TEST_F(DeleteGames, ASearchThatHitsNothingElseLeavesNoGameShown)
 {
     StartWith(4);
     launcher->screens.search.txtFind = u"게임 1"_s;
-    launcher->screens.list.items.erase(
-        launcher->screens.list.items.begin(), launcher->screens.list.items.begin() + 2);
+    finding::GameRows& rows = launcher->screens.list.items;
+    const finding::GameItem c = rows[2];
+    const finding::GameItem d = rows[3];
+    rows.clear();
+    rows.push_back(c);
+    rows.push_back(d);
     Select({u"c"_s, u"d"_s});
     app.fakes.prompts.WillAnswer(Answer::Yes);
     library::DeleteSelectedGames(*launcher);

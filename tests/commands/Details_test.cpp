@@ -1,7 +1,7 @@
 #include "dosboxconf/ConfFiles.h"
 #include "finding/TreeNodes.h"
+#include "library/Catalogue.h"
 #include "library/CatalogueCommands.h"
-#include "library/CatalogueEdits.h"
 #include "library/ConfigDetailCommands.h"
 #include "library/GenreCommands.h"
 #include "library/InfoCommands.h"
@@ -156,7 +156,7 @@ TEST_F(Details, TheGenreMenuHoldsEveryValueOfTheTree)
         library::GameEntry entry;
         entry.Folder = u"more%1"_s.arg(i);
         entry.GenreK = u"R&B %1"_s.arg(i, 3);
-        catalogue.push_back(entry);
+        catalogue.Append(entry);
     }
     finding::RefillValueNodes(m_launcher->screens.tree, catalogue);
     const shell::MenuModel menu = library::GenreMenu(*m_launcher, GenreFile::Korean);
@@ -170,7 +170,11 @@ TEST_F(Details, TheGenreMenuHoldsEveryValueOfTheTree)
     EXPECT_FALSE(menu[101].checked);
 
     // The tree changes and another game is shown before the menu is answered.
-    catalogue.erase(catalogue.begin() + 2, catalogue.begin() + 50);
+    QSet<QString> gone;
+    for (int i = 0; i < 48; ++i) {
+        gone << u"more%1"_s.arg(i);
+    }
+    catalogue.Remove(gone);
     finding::RefillValueNodes(m_launcher->screens.tree, catalogue);
     Click(*m_launcher, u"둘"_s);
     library::mnuGenre_Click(*m_launcher, GenreFile::Korean, 101);
@@ -196,7 +200,7 @@ TEST_F(Details, ANewGenreReachesFileEntryTreeAndList)
     library::mnuGenre_Click(*m_launcher, GenreFile::Korean, 0);
     EXPECT_EQ(m_app.folder.ReadText(Meta(u"하나"_s, u"GenreK.dat"_s)), u"퍼즐?\r\n"_s);
     EXPECT_EQ(list().at(row).text[1], u"퍼즐?"_s);
-    EXPECT_EQ(list().at(row).tag, u"퍼즐?"_s);
+    EXPECT_EQ(list().at(row).Tag(), u"퍼즐?"_s);
     EXPECT_EQ(Panel().lblGenreK, u"기타"_s) << "another game is shown by now";
     EXPECT_THAT(
         finding::ChildTexts(m_launcher->screens.tree, u"genrek"_s),

@@ -148,8 +148,9 @@ TEST_F(Filter, TheBoxTakesTheKeyboardWhileTheListIsHidden)
 
 TEST_F(Filter, StoredGamesAndTheOtherTitlesAreFound)
 {
-    m_launcher->catalogue[1].TitleK += m_launcher->lang[257];
-    m_launcher->catalogue[2].TitleE = u"Eggplant"_s;
+    library::Catalogue& catalogue = m_launcher->catalogue;
+    catalogue.Edit(1, [&](auto& entry) { entry.TitleK += m_launcher->lang[257]; });
+    catalogue.Edit(2, [&](auto& entry) { entry.TitleE = u"Eggplant"_s; });
     finding::TreeView1_NodeCheck(*m_launcher, {u"store"_s, 0}, true);
     EXPECT_EQ(Titles(), QStringList{u"Beta"_s + m_launcher->lang[257]});
     finding::TreeView1_NodeCheck(*m_launcher, {u"store"_s, 1}, true);

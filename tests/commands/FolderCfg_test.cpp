@@ -117,7 +117,7 @@ TEST_F(FolderCfg, ChangedRootsAreMadeAndScannedAtTheNextStart)
     Boxes().txtGames = u"OTHER\\"_s;
     ASSERT_TRUE(shell::AcceptRoots(*m_launcher));
     EXPECT_EQ(m_launcher->places.gamesRoot, Path(u"Other"));
-    EXPECT_EQ(m_launcher->catalogue.front().Folder, u"하나"_s);
+    EXPECT_EQ(m_launcher->catalogue[0].Folder, u"하나"_s);
     EXPECT_EQ(m_launcher->screens.status.notes.size(), 1U);
     ASSERT_TRUE(shell::Form_Unload(*m_launcher));
     EXPECT_FALSE(m_app.folder.Exists(u"Gamelist.lst"_s));
@@ -126,13 +126,13 @@ TEST_F(FolderCfg, ChangedRootsAreMadeAndScannedAtTheNextStart)
     const auto next = m_app.Start();
     EXPECT_EQ(next->places.exportRoot, Path(u"Out/of/it"));
     ASSERT_EQ(next->catalogue.size(), 1U);
-    EXPECT_EQ(next->catalogue.front().Folder, u"셋"_s);
+    EXPECT_EQ(next->catalogue[0].Folder, u"셋"_s);
     // A scan in the same session saves the new list at its end.
     shell::frmFolderCFG_Load(*next);
     next->screens.folderCfg.txtGames = Path(u"Games");
     ASSERT_TRUE(shell::AcceptRoots(*next));
     library::cmdRefresh_Click(*next);
-    EXPECT_EQ(next->catalogue.front().Folder, u"하나"_s);
+    EXPECT_EQ(next->catalogue[0].Folder, u"하나"_s);
     ASSERT_TRUE(shell::Form_Unload(*next));
     EXPECT_TRUE(m_app.folder.Exists(u"Gamelist.lst"_s));
 }

@@ -110,7 +110,7 @@ TEST(Lifecycle, NoCacheIsReadUnderAnotherRootThanItsOwn)
     const auto startsAtHome = [&](const char* why) {
         const auto launcher = app.Start();
         ASSERT_EQ(launcher->catalogue.size(), 1U) << why;
-        EXPECT_EQ(launcher->catalogue.front().Folder, u"집"_s) << why;
+        EXPECT_EQ(launcher->catalogue[0].Folder, u"집"_s) << why;
         EXPECT_FALSE(launcher->screens.status.notes.empty()) << why;
         ASSERT_TRUE(shell::Form_Unload(*launcher));
         EXPECT_TRUE(app.folder.ReadRaw(u"Gamelist.lst"_s).startsWith("\xc1\xfd\x01")) << why;
@@ -265,9 +265,9 @@ TEST(GameList, AHeaderClickSortsAndASecondOneReverses)
         finding::LVGamelist_ColumnClick(*launcher, column);
         QString order;
         for (const finding::GameItem& item : list.items) {
-            order += item.folder;
+            order += item.Folder();
         }
-        EXPECT_EQ(list.items.at(static_cast<std::size_t>(list.selected)).folder, u"나"_s);
+        EXPECT_EQ(list.items.at(static_cast<std::size_t>(list.selected)).Folder(), u"나"_s);
         return order;
     };
     constexpr int kMaker = 4;
@@ -286,8 +286,9 @@ TEST(GameList, RowsMakeThePanelsUsableAtOnceOrAtTheEndOfTheJob)
     const shell::MainFrame& frame = launcher->screens.frame;
     finding::RefreshGameList(*launcher);
     EXPECT_FALSE(frame.picBack0Enabled);
-    launcher->catalogue.emplace_back();
-    launcher->catalogue.back().Folder = u"새"_s;
+    library::GameEntry entry;
+    entry.Folder = u"새"_s;
+    launcher->catalogue.Append(entry);
     {
         const shell::Job job(*launcher);
         finding::RefreshGameList(*launcher);

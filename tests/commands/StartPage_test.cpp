@@ -122,7 +122,7 @@ TEST(Catalogue, AGameLeavesOnlyWhenTheBinTookIt)
     EXPECT_TRUE(library::MoveGameToBin(*launcher, u"둘"_s));
     library::RemoveGameEntries(*launcher, {u"둘"_s});
     ASSERT_EQ(launcher->catalogue.size(), 1U);
-    EXPECT_EQ(launcher->catalogue.front().ListIndex, 1);
+    EXPECT_EQ(launcher->catalogue[0].ListIndex, 1);
     EXPECT_EQ(launcher->icons.Count(), 1);
 
     library::RemoveGameEntries(*launcher, {u"하나"_s});

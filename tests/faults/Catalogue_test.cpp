@@ -120,9 +120,9 @@ TEST(ScanFaults, MoreThan32767Folders)
     const QStringList before = app.folder.Tree(u"Elsewhere"_s);
     const auto launcher = app.Start();
     ASSERT_EQ(launcher->catalogue.size(), 32'767U);
-    EXPECT_EQ(launcher->catalogue.front().Folder, u"100001"_s);
-    EXPECT_EQ(launcher->catalogue.back().Folder, u"132767"_s);
-    EXPECT_EQ(launcher->catalogue.back().ListIndex, 32'767);
+    EXPECT_EQ(launcher->catalogue[0].Folder, u"100001"_s);
+    EXPECT_EQ(launcher->catalogue[32'766].Folder, u"132767"_s);
+    EXPECT_EQ(launcher->catalogue[32'766].ListIndex, 32'767);
     EXPECT_EQ(Notes(*launcher), launcher->lang.Text(352, {u"3"_s}) + u'\n');
     EXPECT_TRUE(app.fakes.prompts.Asked().empty());
     EXPECT_EQ(app.folder.Tree(u"Elsewhere"_s), before);
@@ -187,7 +187,7 @@ TEST(CodePageFaults, TitleOrFolderNameOutsideIt)
         } else {
             EXPECT_THAT(Folders(*launcher), ElementsAre(u"별"_s, u"Café"_s, u"utf-8"_s));
         }
-        EXPECT_EQ(launcher->catalogue.back().ListIndex, 3);
+        EXPECT_EQ(launcher->catalogue[2].ListIndex, 3);
         EXPECT_EQ(launcher->icons.Count(), 3);
         EXPECT_EQ(Notes(*launcher), launcher->lang.Text(354, {u"2"_s}) + u'\n');
         EXPECT_EQ(Stories(*launcher), u"Café\nutf-8\n"_s);

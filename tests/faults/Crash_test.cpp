@@ -28,7 +28,7 @@ using Files = QMap<QString, QByteArray>;
 using Saving = std::function<void()>;
 
 struct Library {
-    library::Catalogue catalogue;
+    library::GameEntries catalogue;
     library::IconSheet icons;
 };
 

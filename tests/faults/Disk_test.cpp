@@ -58,7 +58,7 @@ TEST_F(DiskFaults, ReadOnlyAtExit)
     ASSERT_TRUE(shell::Form_Unload(*launcher));
     launcher->flags.Ending = false;
     launcher->screens.list.view = finding::View::Details;
-    launcher->catalogue.front().TitleK = u"새 이름"_s;
+    launcher->catalogue.Edit(0, [](auto& entry) { entry.TitleK = u"새 이름"_s; });
     launcher->icons.Set(0, launcher->icons.Small(0));
     const auto before = Files();
     m_disk.MakeReadOnly();

@@ -11,7 +11,7 @@ using finding::GameItem;
 using finding::GameList;
 using finding::ListOutcome;
 using finding::TitleOrder;
-using library::Catalogue;
+using library::GameEntries;
 using library::GameEntry;
 using testing::ElementsAre;
 
@@ -62,7 +62,7 @@ protected:
         return texts;
     }
 
-    Catalogue m_catalogue;
+    GameEntries m_catalogue;
     QStringList m_builds{u"0.74"_s, u"Windows"_s};
     bool m_korean = true;
     TitleOrder m_orderK{QLocale(QLocale::Korean), true};
@@ -86,7 +86,7 @@ TEST_F(BuildGameListTest, ARowOfTheTitleLanguage)
     EXPECT_THAT(
         m_list.items[0].text,
         ElementsAre(u"가"_s, u"액션"_s, u"Folder"_s, u"Windows"_s, u"M"_s, u"R"_s, u"L"_s, u"C"_s));
-    EXPECT_EQ(m_list.items[0].tag, u"액션"_s);
+    EXPECT_EQ(m_list.items[0].Tag(), u"액션"_s);
     EXPECT_EQ(m_list.items[0].listIndex, 2);
     EXPECT_EQ(m_list.selected, 0);
     EXPECT_THAT(m_list.selectedRows, ElementsAre(0));
@@ -208,7 +208,7 @@ TEST(TitleOrderTest, FollowsEveryChangeOfTheCatalogue)
     const auto title = [&] { return QString(QChar(u'a' + static_cast<char16_t>(pick(6)))); };
     const QLocale locale(QLocale::English);
     TitleOrder kept(locale, true);
-    Catalogue catalogue;
+    GameEntries catalogue;
     int made = 0;
     for (int round = 0; round < 400; ++round) {
         const std::size_t deed = pick(4);
@@ -232,7 +232,7 @@ TEST(TitleOrderTest, FollowsEveryChangeOfTheCatalogue)
 
 TEST(TitleOrderTest, HangulComesFirstInKoreanOnly)
 {
-    const Catalogue catalogue{Game(u"1"_s, u"apple"_s), Game(u"2"_s, u"가"_s)};
+    const GameEntries catalogue{Game(u"1"_s, u"apple"_s), Game(u"2"_s, u"가"_s)};
     TitleOrder korean(QLocale(QLocale::Korean), true);
     EXPECT_THAT(korean.Sorted(catalogue), ElementsAre(1, 0));
     TitleOrder english(QLocale(QLocale::English), true);

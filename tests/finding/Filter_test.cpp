@@ -9,7 +9,7 @@ using namespace pelorin;
 using finding::FilterNode;
 using finding::FilterRoot;
 using finding::FilterTree;
-using library::Catalogue;
+using library::GameEntries;
 using library::GameEntry;
 using testing::ElementsAre;
 using testing::Optional;
@@ -93,7 +93,7 @@ protected:
     }
 
     FilterTree m_tree;
-    Catalogue m_catalogue;
+    GameEntries m_catalogue;
     QStringList m_builds{u"0.74"_s, u"Windows"_s};
     bool m_korean = true;
 };

@@ -9,7 +9,7 @@ using namespace pelorin;
 using finding::ChildTexts;
 using finding::FilterRoot;
 using finding::FilterTree;
-using library::Catalogue;
+using library::GameEntries;
 using library::GameEntry;
 using testing::ElementsAre;
 
@@ -101,7 +101,7 @@ TEST_F(TreeNodesTest, ARebuildDropsChecksAndKeepsWhatStandsOpen)
 
 /// The order by definition: each new value is put before the first smaller one of a falling list,
 /// which is then read from its end.
-QStringList ByInsertion(const Catalogue& catalogue, QString GameEntry::*field)
+QStringList ByInsertion(const GameEntries& catalogue, QString GameEntry::*field)
 {
     const auto below = [](const QString& a, const QString& b) {
         return std::lexicographical_compare(
@@ -147,7 +147,7 @@ TEST_F(TreeNodesTest, ValuesRiseByCode)
         u"\U0001F600"_s, // two codes below those of U+FFxx
         u"\uFF21"_s,
         u"한"_s};
-    Catalogue catalogue;
+    GameEntries catalogue;
     for (const QString& value : values) {
         GameEntry entry;
         entry.Maker = value;
@@ -155,7 +155,7 @@ TEST_F(TreeNodesTest, ValuesRiseByCode)
     }
     Build();
     m_told.clear();
-    finding::RefillValueNodes(m_tree, catalogue);
+    finding::RefillValueNodes(m_tree, library::Catalogue(catalogue));
     EXPECT_EQ(ChildTexts(m_tree, u"publisher"_s), ByInsertion(catalogue, &GameEntry::Maker));
     EXPECT_THAT(
         ChildTexts(m_tree, u"publisher"_s),
@@ -184,7 +184,7 @@ TEST_F(TreeNodesTest, EachCategoryReadsItsFieldAndStartsUnchecked)
     entry.Country = u"KR"_s;
     Build({u"0.74"_s});
     for (int round = 0; round < 2; ++round) {
-        finding::RefillValueNodes(m_tree, {entry});
+        finding::RefillValueNodes(m_tree, library::Catalogue({entry}));
         const std::vector<std::pair<QString, QString>> keys{
             {u"genrek"_s, u"findgenrek_gk"_s},
             {u"genree"_s, u"findgenree_ge"_s},
@@ -208,7 +208,7 @@ TEST_F(TreeNodesTest, EachCategoryReadsItsFieldAndStartsUnchecked)
 TEST(ValueNodes, WithoutATreeNothingHappens)
 {
     FilterTree tree;
-    finding::RefillValueNodes(tree, Catalogue(3));
+    finding::RefillValueNodes(tree, library::Catalogue(GameEntries(3)));
     EXPECT_TRUE(tree.roots.empty());
 }
 

@@ -227,7 +227,10 @@ TEST_F(GameListViewTest, ARebuildIsOneResetAndKeepsAwayFromLostRows)
     QObject::connect(Icons()->model(), &QAbstractItemModel::modelReset, Icons(), [&] { ++resets; });
     {
         const platform::RedrawLock lock(screens.gate);
-        screens.list.items.resize(2);
+        const finding::GameItem kept = screens.list.items[0];
+        screens.list.items.clear();
+        screens.list.items.push_back(kept);
+        screens.list.items.push_back(kept);
         screens.list.changed.Tell(GameList::Reset);
         // The views are asked to paint while they still believe in five rows.
         EXPECT_EQ(Icons()->model()->data(Icons()->model()->index(4, 0)), QVariant());
@@ -277,10 +280,11 @@ TEST(GameListModelTest, IconsComeFromTheSheetInTheSizeOfTheView)
     icons.Append(library::PlainIcon(32, 200, 100, 50));
     icons.Append(library::PlainIcon(32, 10, 20, 30));
     GameList list;
-    list.items.resize(4);
-    list.items[0].listIndex = 2;
-    list.items[1].listIndex = 3; // none of the sheet's
-    list.items[2].listIndex = 0;
+    for (const int listIndex : {2, 3, 0}) { // 3 is none of the sheet's
+        finding::GameItem item;
+        item.listIndex = static_cast<std::int16_t>(listIndex);
+        list.items.push_back(item);
+    }
     forms::GameListModel model(list, icons);
     const auto icon = [&](int row) {
         return model.data(model.index(row, 0), Qt::DecorationRole).value<QIcon>();
@@ -303,8 +307,9 @@ TEST(GameListModelTest, ToolTipsShowTitlesAsTheyStand)
 {
     library::IconSheet icons;
     GameList list;
-    list.items.resize(1);
-    list.items[0].text[0] = u"<b>A & B</b>"_s;
+    finding::GameItem item;
+    item.text[0] = u"<b>A & B</b>"_s;
+    list.items.push_back(item);
     const forms::GameListModel model(list, icons);
     EXPECT_EQ(model.data(model.index(0, 0), Qt::ToolTipRole), u"&lt;b&gt;A &amp; B&lt;/b&gt;"_s);
     EXPECT_EQ(model.data(model.index(0, 1), Qt::ToolTipRole), QVariant());

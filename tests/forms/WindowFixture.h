@@ -33,9 +33,8 @@ public:
         lang = NumberedLanguage();
         for (int i = 0; i < 5; ++i) {
             finding::GameItem item;
-            item.folder = QStringLiteral("GAME%1").arg(i);
             item.text[0] = QStringLiteral("Title %1").arg(i);
-            item.text[2] = item.folder;
+            item.text[finding::kFolderColumn] = QStringLiteral("GAME%1").arg(i);
             item.listIndex = static_cast<std::int16_t>(i + 1);
             screens.list.items.push_back(item);
         }

@@ -25,7 +25,7 @@ namespace {
 constexpr char16_t kRecord[] = u"게임%1|제목%1 [CD]^Title %1 [CD]|기타|ETC|%2|M|R|L|C";
 
 struct Library {
-    library::Catalogue catalogue;
+    library::GameEntries catalogue;
     IconSheet icons;
 
     explicit Library(int count)

@@ -138,19 +138,20 @@ TEST_F(CatalogueScanTest, OneMoreGameGoesBehindTheOthers)
     ScanResult scan = Scan();
     m_root.MakeTree({u"Games/0 new/play.exe"_s});
     library::GameFiles files = library::ListGame(m_library.places, u"0 new"_s);
+    library::Catalogue catalogue(scan.catalogue);
     const auto add = [&] {
         return library::AddGame(
-            files, {m_lang, 2}, m_defaultIcon, scan.catalogue, scan.icons, scan.troubles);
+            files, {m_lang, 2}, m_defaultIcon, catalogue, scan.icons, scan.troubles);
     };
     ASSERT_TRUE(add());
-    EXPECT_EQ(scan.catalogue[1].Folder, u"0 new"_s);
-    EXPECT_EQ(scan.catalogue[1].ListIndex, 2);
+    EXPECT_EQ(catalogue[1].Folder, u"0 new"_s);
+    EXPECT_EQ(catalogue[1].ListIndex, 2);
     EXPECT_EQ(scan.icons.Count(), 2);
     EXPECT_EQ(m_root.ReadText(u"Games/0 new/DosBox/autoexec.conf"_s), u"play.exe\r\n"_s);
 
-    scan.catalogue.resize(library::kMostGames);
+    catalogue = library::Catalogue(library::GameEntries(library::kMostGames));
     EXPECT_FALSE(add());
-    EXPECT_EQ(scan.catalogue.size(), std::size_t{library::kMostGames});
+    EXPECT_EQ(catalogue.size(), std::size_t{library::kMostGames});
 }
 
 TEST(ProgressSteps, EachTenthIsToldInWords)
