@@ -5,7 +5,7 @@
 #include "library/GameInfo.h"
 #include "library/IconSheetFile.h"
 #include "library/private/TextPool.h"
-#include "platform/FileReplacement.h"
+#include "platform/CacheReplacement.h"
 #include "platform/Numbers.h"
 #include "platform/Paths.h"
 #include "platform/TextFile.h"
@@ -103,42 +103,47 @@ bool HoldsUnfitText(const shell::Places& places, const QString& folder)
     return false;
 }
 
-/// Positions whose records go into the files; the others' folders go into `leftOut`.
-std::vector<int> PositionsToSave(GamesView catalogue, QStringList& leftOut)
+/// The list as it goes into its file, and what it is made of.
+struct Records {
+    QString line;
+    std::vector<int> positions; // of the games in it
+    QStringList leftOut;        // the folders of the others
+};
+
+/// Whether all of it is certainly in code page 949; most records are, and need no closer look.
+bool IsSurelyFit(QStringView record)
 {
-    std::vector<int> positions;
-    positions.reserve(catalogue.size());
-    for (std::size_t i = 0; i < catalogue.size(); ++i) {
-        if (FitsList(catalogue[i])) {
-            positions.push_back(static_cast<int>(i));
-        } else {
-            leftOut << catalogue[i].Folder;
-        }
-    }
-    return positions;
+    return std::all_of(record.begin(), record.end(), [](QChar c) {
+        return platform::IsSurelyCp949(c) || c == kFieldBreak || c == kTitleBreak;
+    });
 }
 
-/// The list's content, in a file that has still to take its place.
-platform::Done WriteList(
-    platform::FileReplacement& file,
-    GamesView catalogue,
-    const std::vector<int>& positions,
-    ScanProgress& progress)
+Records ComposeRecords(GamesView catalogue, ScanProgress& progress)
 {
-    const int count = static_cast<int>(positions.size());
+    const int count = static_cast<int>(catalogue.size());
     progress.Begin(Phase::SavingList, std::max(1, count - 1));
     ProgressSteps steps(progress, Phase::SavingList, count);
-    QString line;
+    Records records;
     for (int i = 0; i < count; ++i) {
-        const int position = positions[static_cast<std::size_t>(i)];
-        if (i > 0) {
-            line += kRecordBreak;
+        const GameEntry& entry = catalogue[static_cast<std::size_t>(i)];
+        const qsizetype before = records.line.size();
+        if (before > 0) {
+            records.line += kRecordBreak;
         }
-        AppendRecord(line, catalogue[static_cast<std::size_t>(position)]);
+        const qsizetype start = records.line.size();
+        AppendRecord(records.line, entry);
+        const bool fits = IsSurelyFit(QStringView(records.line).mid(start))
+                              ? CanNameInList(entry.Folder)
+                              : FitsList(entry);
+        if (fits) {
+            records.positions.push_back(i);
+        } else {
+            records.line.truncate(before);
+            records.leftOut << entry.Folder;
+        }
         steps.At(i);
     }
-    line += u"\r\n"_s;
-    return file.Append(platform::EncodeFittingCp949(line));
+    return records;
 }
 
 platform::Done SaveSheet(
@@ -274,16 +279,17 @@ platform::Outcome<CacheReport> SaveCatalogueCache(
     }
     CacheReport report;
     const QString listPath = ListPath(places); // before it is deleted, in its spelling
-    const std::vector<int> positions = PositionsToSave(catalogue, report.leftOut);
-    if (positions.empty()) {
+    const Records records = ComposeRecords(catalogue, progress);
+    report.leftOut = records.leftOut;
+    if (records.positions.empty()) {
         const platform::Done gone = archives::DeleteFileIfThere(listPath);
         return gone ? platform::Outcome<CacheReport>(report) : gone.Failure();
     }
-    // Both are on the disk before either takes the place of an old file.
-    platform::FileReplacement list(listPath);
-    platform::Done saved = WriteList(list, catalogue, positions, progress);
+    // Both are whole before either takes the place of an old file.
+    platform::CacheReplacement list(listPath);
+    platform::Done saved = list.Append(platform::EncodeFittingCp949(records.line + u"\r\n"_s));
     if (saved) {
-        saved = SaveSheet(places, listPath, icons, positions);
+        saved = SaveSheet(places, listPath, icons, records.positions);
     }
     if (saved) {
         saved = list.Replace();
@@ -304,7 +310,11 @@ platform::Done DeleteCatalogueCache(const shell::Places& places)
 QStringList GamesWithoutCache(GamesView catalogue)
 {
     QStringList leftOut;
-    PositionsToSave(catalogue, leftOut);
+    for (const GameEntry& entry : catalogue) {
+        if (!FitsList(entry)) {
+            leftOut << entry.Folder;
+        }
+    }
     return leftOut;
 }
 

@@ -1,6 +1,6 @@
 #include "library/IconSheetFile.h"
 
-#include "platform/FileReplacement.h"
+#include "platform/CacheReplacement.h"
 
 #include <QFile>
 #include <QtEndian>
@@ -208,7 +208,7 @@ platform::Done WriteIconSheet(
     const std::function<platform::Done()>& beforeReplacing)
 {
     const SheetSize size = SheetSizeOf(static_cast<int>(positions.size()));
-    platform::FileReplacement file(path);
+    platform::CacheReplacement file(path);
     platform::Done written = file.Append(HeaderOf(size));
     for (int band = size.height / kLargeIcon - 1; written && band >= 0; --band) {
         written = file.Append(FileBand(icons, positions, size, band));

@@ -31,12 +31,6 @@ QByteArray EncodeAll(const QString& text)
     return encoder.encode(text);
 }
 
-/// What most texts are made of: printable ASCII and the syllables of modern Korean.
-bool IsSurelyKept(QChar c)
-{
-    return (c >= u' ' && c <= u'~') || (c >= u'\uAC00' && c <= u'\uD7A3');
-}
-
 QStringList CharactersOf(const QString& text)
 {
     QStringList characters;
@@ -180,7 +174,7 @@ Encoded EncodeCp949(const QString& text)
 
 bool FitsCp949(const QString& text)
 {
-    if (std::all_of(text.begin(), text.end(), IsSurelyKept)) {
+    if (std::all_of(text.begin(), text.end(), IsSurelyCp949)) {
         return true;
     }
     // A control character or "?" is itself in every code page; the codec's stand-in for a loss

@@ -20,6 +20,13 @@ struct Encoded {
 /// lost unless its bytes decode to it again. Lone surrogates are lost.
 Encoded EncodeCp949(const QString& text);
 
+/// What most texts are made of: printable ASCII and the syllables of modern Korean. Nothing of it is
+/// lost in code page 949.
+constexpr bool IsSurelyCp949(QChar c)
+{
+    return (c >= u' ' && c <= u'~') || (c >= u'\uAC00' && c <= u'\uD7A3');
+}
+
 /// Whether EncodeCp949 would lose nothing; much cheaper on long texts that lose something.
 bool FitsCp949(const QString& text);
 
