@@ -5,7 +5,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -30,21 +29,14 @@ struct GameItem {
 /// texts until the next rebuild, whatever becomes of the game meanwhile.
 class GameRows {
 public:
-    template <class Item, class Rows>
+    /// As much of an iterator as a loop over all rows needs.
     class Iterator {
     public:
-        using iterator_category = std::forward_iterator_tag;
-        using value_type = GameItem;
-        using difference_type = std::ptrdiff_t;
-        using pointer = Item*;
-        using reference = Item&;
-
-        Iterator(Rows* rows, std::size_t row)
+        Iterator(const GameRows* rows, std::size_t row)
             : m_rows(rows)
             , m_row(row)
         {}
-        Item& operator*() const { return (*m_rows)[m_row]; }
-        Item* operator->() const { return &(*m_rows)[m_row]; }
+        const GameItem& operator*() const { return (*m_rows)[m_row]; }
         Iterator& operator++()
         {
             ++m_row;
@@ -53,21 +45,23 @@ public:
         bool operator==(const Iterator& other) const { return m_row == other.m_row; }
 
     private:
-        Rows* m_rows;
+        const GameRows* m_rows;
         std::size_t m_row;
     };
 
+    // Named as a standard container has them. NOLINTBEGIN(readability-identifier-naming)
     std::size_t size() const { return m_order.size(); }
     bool empty() const { return m_order.empty(); }
     const GameItem& operator[](std::size_t row) const { return m_kept[Place(m_order[row])]; }
     GameItem& operator[](std::size_t row) { return m_kept[Place(m_order[row])]; }
     const GameItem& at(std::size_t row) const { return m_kept.at(Place(m_order.at(row))); }
-    auto begin() const { return Iterator<const GameItem, const GameRows>(this, 0); }
-    auto end() const { return Iterator<const GameItem, const GameRows>(this, size()); }
+    Iterator begin() const { return {this, 0}; }
+    Iterator end() const { return {this, size()}; }
 
     /// A row behind the others. Not for rows that were laid.
     void push_back(const GameItem& item);
     void clear();
+    // NOLINTEND(readability-identifier-naming)
 
     /// Lays rows anew: row r shows the game at position order[r] of a Catalogue of `games` games.
     /// `update` is called with the position and the kept item of each of them, which holds what

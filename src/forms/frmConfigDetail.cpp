@@ -33,6 +33,11 @@ frmConfigDetail::frmConfigDetail(const Shown& shown, const Deeds& deeds, QWidget
 {
     setObjectName(u"frmConfigDetail"_s);
     setWindowModality(Qt::WindowModal);
+}
+
+/// The start of the program does not wait for what few of its runs show.
+void frmConfigDetail::Build()
+{
     auto* column = new QVBoxLayout(this);
     column->setSpacing(2 * Gap(*this));
     BuildBoxes();
@@ -91,6 +96,9 @@ void frmConfigDetail::BuildButtons()
 
 void frmConfigDetail::Follow(std::uint32_t changed)
 {
+    if (layout() == nullptr) {
+        Build();
+    }
     if ((changed & ConfigDetail::Open) != 0) {
         TakeTexts();
     }

@@ -23,6 +23,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void Build();
     void BuildBoxes();
     void BuildButtons();
     void Follow(std::uint32_t changed);

@@ -32,12 +32,14 @@ public:
     Catalogue() = default;
     explicit Catalogue(GameEntries games);
 
+    // Named as a standard container has them. NOLINTBEGIN(readability-identifier-naming)
     const GameEntry& operator[](std::size_t position) const { return m_games[position]; }
     const GameEntry& at(std::size_t position) const { return m_games.at(position); }
     std::size_t size() const { return m_games.size(); }
     bool empty() const { return m_games.empty(); }
     auto begin() const { return m_games.begin(); }
     auto end() const { return m_games.end(); }
+    // NOLINTEND(readability-identifier-naming)
 
     /// Calls `change` with the game at that position, 0 to size() - 1.
     template <class Change>
