@@ -128,17 +128,6 @@ void AddSaving(const BenchInstallation& installation, const QStringList& cacheFi
             [&] { place.Clear(); },
             [&] { return fail(state, CopyByCp(place.former, place.folder.path())); });
     });
-    AddFigure("save_new_on_disk/floor", [=, &installation](benchmark::State& state) {
-        const SavePlace place(installation, cacheFiles);
-        TimeEach(
-            state,
-            [&] { place.Clear(); },
-            [&] {
-                const bool copied = CopyByCp(place.former, place.folder.path());
-                FlushFiles(place.former, place.folder.path());
-                return fail(state, copied);
-            });
-    });
     AddFigure("save_unchanged/is", [=, &installation](benchmark::State& state) {
         const SavePlace place(installation, cacheFiles);
         fail(state, Save(place, installation, installation.icons));

@@ -1,7 +1,6 @@
 #include "Floors.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QProcess>
 
 #include <FreeImage.h>
@@ -140,18 +139,6 @@ std::size_t LookAtGame(const QString& gameDir)
 bool CopyByCp(const QStringList& files, const QString& folder)
 {
     return QProcess::execute(QStringLiteral("cp"), QStringList(files) << folder) == 0;
-}
-
-void FlushFiles(const QStringList& files, const QString& folder)
-{
-    for (const QString& file : files) {
-        const QString copy = folder + u'/' + QFileInfo(file).fileName();
-        const int descriptor = open(QFile::encodeName(copy).constData(), O_RDONLY | O_CLOEXEC);
-        if (descriptor >= 0) {
-            fdatasync(descriptor);
-            close(descriptor);
-        }
-    }
 }
 
 } // namespace pelorin::bench

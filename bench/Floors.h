@@ -29,7 +29,4 @@ std::size_t LookAtGame(const QString& gameDir);
 /// The program cp, as somebody would type it. False when it fails.
 bool CopyByCp(const QStringList& files, const QString& folder);
 
-/// Puts files that stand in a folder on the disk, as far as the system tells.
-void FlushFiles(const QStringList& files, const QString& folder);
-
 } // namespace pelorin::bench

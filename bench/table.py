@@ -25,7 +25,6 @@ ROWS = [
     Row("The same until the list can be painted", "cache_list_ready/is", "cache_read/floor"),
     Row("Full scan", "scan/is", "scan/floor", 1.5),
     Row("Both cache files saved where none stood", "save_new/is", "save_new/floor", 2),
-    Row("The same beside `cp` that waits for the disk too", "save_new/is", "save_new_on_disk/floor"),
     Row("Saved again, nothing has changed", "save_unchanged/is", "save_new/floor", 2),
     Row("Saved again, one icon has changed", "save_one_icon/is", "save_new/floor"),
     Row("Start to the first list, 500 games", "start_500/is", "start_500/floor", 1.5),

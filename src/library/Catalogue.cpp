@@ -75,7 +75,7 @@ std::vector<int> Catalogue::Remove(const QSet<QString>& folders)
 
 const ValueCounts& Catalogue::Values(QString GameEntry::*fact) const
 {
-    const auto hit = std::find(kSharedFacts.begin(), kSharedFacts.end(), fact);
+    const auto* const hit = std::find(kSharedFacts.begin(), kSharedFacts.end(), fact);
     return m_values[static_cast<std::size_t>(hit - kSharedFacts.begin())];
 }
 
