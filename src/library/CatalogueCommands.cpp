@@ -174,11 +174,6 @@ bool FillByCache(Launcher& launcher)
 
 } // namespace
 
-ShownProgress::ShownProgress(Launcher& launcher)
-    : m_launcher(launcher)
-    , m_eventsRan(launcher.ports.timers.NowMs())
-{}
-
 ShownProgress::~ShownProgress()
 {
     m_launcher.screens.progress.visible = false;
@@ -202,7 +197,7 @@ bool ShownProgress::Step(Phase phase, int value, int percent)
     panel.value = value;
     panel.text = ProgressText(m_launcher.lang, phase, percent);
     panel.changed.Tell(shell::ProgressPanel::All);
-    return Breathe();
+    return RunEvents();
 }
 
 bool ShownProgress::Breathe()

@@ -46,11 +46,13 @@ void TellEmptyLibrary(shell::Launcher& launcher);
 /// were filled, so that the next start scans. Games that the files can't hold are told.
 platform::Done SaveCatalogue(shell::Launcher& launcher);
 
-/// Shows a long job's progress in picProgress and lets window events run some fifty times a second.
-/// A job that takes less shows nothing, for a picture of the window would take longer.
+/// Shows a long job's progress in picProgress and lets window events run at each step, and between
+/// two steps some fifty times a second.
 class ShownProgress : public ScanProgress {
 public:
-    explicit ShownProgress(shell::Launcher& launcher);
+    explicit ShownProgress(shell::Launcher& launcher)
+        : m_launcher(launcher)
+    {}
     ~ShownProgress() override;
 
     void Begin(Phase phase, int maximum) override;
@@ -61,7 +63,7 @@ private:
     bool RunEvents();
 
     shell::Launcher& m_launcher;
-    qint64 m_eventsRan; // when
+    qint64 m_eventsRan = 0; // when
 };
 
 } // namespace pelorin::library

@@ -63,13 +63,7 @@ public:
             onPendingEvents();
         }
     }
-    /// While somebody acts on pending events the machine is slow: jobs serve them as often as they can.
-    qint64 NowMs() const override
-    {
-        constexpr qint64 kSlowLookMs = 1000;
-        m_slowMs += onPendingEvents ? kSlowLookMs : 0;
-        return m_now + m_slowMs;
-    }
+    qint64 NowMs() const override { return m_now; }
 
 private:
     struct Timer {
@@ -80,8 +74,7 @@ private:
 
     std::map<Id, Timer> m_timers;
     Id m_lastId = 0;
-    mutable qint64 m_slowMs = 0; // what looks at the clock have taken
-    qint64 m_now = 1'000'000;    // away from zero: a moment that was never set must not look recent
+    qint64 m_now = 1'000'000; // away from zero: a moment that was never set must not look recent
 };
 
 } // namespace pelorin::test
