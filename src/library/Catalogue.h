@@ -12,16 +12,6 @@
 
 namespace pelorin::library {
 
-/// The facts that many games share, in the order of FactCount.
-inline constexpr std::array<QString GameEntry::*, 6> kSharedFacts{
-    &GameEntry::GenreK,
-    &GameEntry::GenreE,
-    &GameEntry::Maker,
-    &GameEntry::Release,
-    &GameEntry::GameLanguage,
-    &GameEntry::Country,
-};
-
 /// How many games have each value of one fact, by 16-bit code. Values that no game has are not in it.
 using ValueCounts = std::map<QString, int>;
 

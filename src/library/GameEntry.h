@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <array>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -21,6 +22,16 @@ struct GameEntry {
     QString GameLanguage;
     QString Release;
     QString Country;
+};
+
+/// The facts that many games share.
+inline constexpr std::array<QString GameEntry::*, 6> kSharedFacts{
+    &GameEntry::GenreK,
+    &GameEntry::GenreE,
+    &GameEntry::Maker,
+    &GameEntry::Release,
+    &GameEntry::GameLanguage,
+    &GameEntry::Country,
 };
 
 /// Positions are 16-bit signed, so that is the bound.

@@ -43,7 +43,7 @@ QString GenreFileName(GenreFile which)
 
 bool IsFieldBreak(QChar c)
 {
-    return c < u' ' && ((c >= u'\x0001' && c <= u'\x0003') || c == u'\r' || c == u'\n');
+    return (c >= u'\x0001' && c <= u'\x0003') || c == u'\r' || c == u'\n';
 }
 
 QString TrimBlanks(const QString& text)

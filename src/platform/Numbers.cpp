@@ -48,7 +48,8 @@ qsizetype NumberEnd(QStringView text, qsizetype start)
     return end;
 }
 
-/// Most numbers are a few digits, which are far cheaper to read than numbers in general.
+/// Most numbers are a few digits, which are far cheaper to read than numbers in general. No digit at
+/// all is 0.
 std::optional<double> FewDigits(QStringView number)
 {
     constexpr qsizetype kExact = 15;

@@ -10,20 +10,14 @@ namespace pelorin::library {
 /// few dozen makers. The pool itself may go before the texts do.
 class TextPool {
 public:
-    /// Genres, maker, release, language and country.
     void ShareFacts(GameEntry& entry)
     {
-        Share(entry.GenreK);
-        Share(entry.GenreE);
-        Share(entry.Maker);
-        Share(entry.GameLanguage);
-        Share(entry.Release);
-        Share(entry.Country);
+        for (QString GameEntry::*fact : kSharedFacts) {
+            entry.*fact = *m_texts.insert(entry.*fact);
+        }
     }
 
 private:
-    void Share(QString& text) { text = *m_texts.insert(text); }
-
     QSet<QString> m_texts;
 };
 
