@@ -79,13 +79,26 @@ QStringList SingleCharacters(QStringView characters)
     return texts;
 }
 
+/// A node for each value, unchecked. Both come in one order, and after a change of one game nearly
+/// all nodes are those that stood there: their texts stay where they are.
 void FillValues(FilterRoot& root, const library::ValueCounts& values)
 {
     const QString prefix = KeyPrefix(root.key);
+    std::vector<FilterNode> former = std::move(root.children);
     root.children.clear();
     root.children.reserve(values.size());
+    auto old = former.begin();
     for (const auto& [value, games] : values) {
-        if (!IsBlank(value)) {
+        if (IsBlank(value)) {
+            continue;
+        }
+        while (old != former.end() && old->text != value && old->text < value) {
+            ++old;
+        }
+        if (old != former.end() && old->text == value) {
+            old->checked = false;
+            root.children.push_back(std::move(*old++));
+        } else {
             root.children.push_back(FilterNode{prefix + value, value, false});
         }
     }

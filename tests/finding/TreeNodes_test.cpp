@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include <random>
+
 using namespace Qt::StringLiterals;
 using namespace pelorin;
 using finding::ChildTexts;
@@ -203,6 +205,30 @@ TEST_F(TreeNodesTest, EachCategoryReadsItsFieldAndStartsUnchecked)
         EXPECT_EQ(ChildTexts(m_tree, u"executer"_s).size(), 1) << "stays";
     }
     EXPECT_TRUE(ChildTexts(m_tree, u"nothing"_s).isEmpty());
+}
+
+// Nodes that stay are kept from one filling to the next, which must never show.
+TEST_F(TreeNodesTest, ARefilledTreeIsThatOfAFreshOne)
+{
+    std::mt19937 random(1109);
+    const auto pick = [&](int below) {
+        return std::uniform_int_distribution<int>(0, below - 1)(random);
+    };
+    Build();
+    for (int round = 0; round < 200; ++round) {
+        GameEntries games(static_cast<std::size_t>(pick(8)));
+        for (GameEntry& game : games) {
+            game.Maker = QString(1, QChar(u" abcdefg"[pick(8)]));
+        }
+        finding::RefillValueNodes(m_tree, library::Catalogue(games));
+        std::vector<finding::FilterNode>& children = m_tree.Root(u"publisher"_s)->children;
+        ASSERT_EQ(ChildTexts(m_tree, u"publisher"_s), ByInsertion(games, &GameEntry::Maker));
+        for (finding::FilterNode& node : children) {
+            ASSERT_EQ(node.key, u"findpublisher_"_s + node.text);
+            ASSERT_FALSE(node.checked);
+            node.checked = pick(2) == 0;
+        }
+    }
 }
 
 TEST(ValueNodes, WithoutATreeNothingHappens)
