@@ -9,7 +9,6 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -30,23 +29,6 @@ constexpr int kSettleMs = 40;
 double DotsScale(const QWidget& widget)
 {
     return widget.logicalDpiX() / 96.0;
-}
-
-/// Why the list is empty, and what to do about it.
-struct EmptyTexts {
-    OwnEntry reason;
-    OwnEntry hint;
-};
-
-EmptyTexts TextsOf(finding::ListOutcome outcome)
-{
-    using finding::ListOutcome;
-    switch (outcome) {
-    case ListOutcome::NoFilterHit: return {kOwnNoMatch, kOwnFilterHint};
-    case ListOutcome::NoSearchHit: return {kOwnNoMatch, kOwnSearchHint};
-    case ListOutcome::NoGames: return {kOwnNoGames, kOwnAddHint};
-    default: return {};
-    }
 }
 
 /// Keys whose release takes the selection over, also when it could not move.
@@ -116,7 +98,7 @@ ViewHooks GameListView::Hooks()
             SelectByUser(m_typeAhead.Type(m_list, text, m_clock.elapsed()));
         },
         [this](const QInputMethodEvent& event) { Composed(event); },
-        [this](QWidget& viewport) { PaintEmpty(viewport); }};
+        [this](QWidget& viewport) { m_empty.Paint(viewport); }};
 }
 
 QAbstractItemView* GameListView::View() const
@@ -182,12 +164,9 @@ void GameListView::TakeTexts()
 
 void GameListView::ShowEmpty()
 {
-    const EmptyTexts texts = TextsOf(m_list.outcome);
-    m_empty = m_list.items.empty() ? Own(m_shown.lang, texts.reason) : QString();
-    m_emptyHint = m_list.items.empty() ? Own(m_shown.lang, texts.hint) : QString();
-    const QString spoken = m_empty.isEmpty() ? QString() : m_empty + u". "_s + m_emptyHint;
-    m_icons->setAccessibleDescription(spoken);
-    m_details->setAccessibleDescription(spoken);
+    m_empty.Take(m_list, m_shown.lang);
+    m_icons->setAccessibleDescription(m_empty.Spoken());
+    m_details->setAccessibleDescription(m_empty.Spoken());
 }
 
 void GameListView::Follow(std::uint32_t changed)
@@ -427,28 +406,6 @@ void GameListView::ShowGameMenu(QPoint position)
     if (m_deeds.mnuGame && !m_list.selectedRows.empty()) {
         PopupMenu(*this, u"mnuGame"_s, m_deeds.mnuGame(), m_deeds.mnuGame_Click, position);
     }
-}
-
-void GameListView::PaintEmpty(QWidget& viewport) const
-{
-    if (m_model.rowCount() > 0 || m_empty.isEmpty()) {
-        return;
-    }
-    QPainter painter(&viewport);
-    // Also while the panel rests it is what one has to read.
-    painter.setPen(palette().color(QPalette::Active, QPalette::Text));
-    const int gap = Gap(*this);
-    const int flags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
-    QRect area = viewport.rect().adjusted(2 * gap, gap, -2 * gap, -gap);
-    area.setTop(area.top() + area.height() / 3);
-    QFont large = Scaled(font(), 1.25);
-    large.setBold(true);
-    painter.setFont(large);
-    QRect used;
-    painter.drawText(area, flags, m_empty, &used);
-    area.setTop(used.bottom() + gap);
-    painter.setFont(font());
-    painter.drawText(area, flags, m_emptyHint);
 }
 
 void GameListView::showEvent(QShowEvent* event)

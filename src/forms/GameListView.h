@@ -2,17 +2,15 @@
 
 #include "finding/TypeAhead.h"
 #include "forms/Deeds.h"
+#include "forms/EmptyListText.h"
 #include "forms/GameListModel.h"
+#include "forms/HookedView.h"
 #include "forms/Listening.h"
 #include "forms/Shown.h"
 
 #include <QElapsedTimer>
-#include <QFocusEvent>
-#include <QInputMethodEvent>
 #include <QItemSelectionModel>
-#include <QKeyEvent>
 #include <QListView>
-#include <QMouseEvent>
 #include <QStackedWidget>
 #include <QTimer>
 #include <QTreeView>
@@ -23,72 +21,6 @@
 namespace pelorin::forms {
 
 class CellDelegate;
-
-/// What one of the two views passes on before or after it has done its own work.
-struct ViewHooks {
-    std::function<bool(const QKeyEvent& event)> keyPressed; // true: done with it
-    std::function<void(const QKeyEvent& event)> keyReleased;
-    std::function<void(const QMouseEvent& event)> mouseReleased;
-    std::function<void()> focusLost;
-    std::function<void()> menuKeyPressed;
-    std::function<void(const QString& text)> typed; // letters that are no command
-    std::function<void(const QInputMethodEvent& event)> composed;
-    std::function<void(QWidget& viewport)> painted;
-};
-
-/// One of Qt's item views with hooks.
-template <class QtView>
-class HookedView : public QtView {
-public:
-    HookedView(ViewHooks hooks, QWidget* parent)
-        : QtView(parent)
-        , m_hooks(std::move(hooks))
-    {}
-
-    void keyboardSearch(const QString& text) override { m_hooks.typed(text); }
-
-protected:
-    void inputMethodEvent(QInputMethodEvent* event) override
-    {
-        m_hooks.composed(*event);
-        event->accept();
-    }
-    void keyPressEvent(QKeyEvent* event) override
-    {
-        if (!m_hooks.keyPressed(*event)) {
-            QtView::keyPressEvent(event);
-        }
-    }
-    void keyReleaseEvent(QKeyEvent* event) override
-    {
-        QtView::keyReleaseEvent(event);
-        m_hooks.keyReleased(*event);
-    }
-    void mouseReleaseEvent(QMouseEvent* event) override
-    {
-        QtView::mouseReleaseEvent(event);
-        m_hooks.mouseReleased(*event);
-    }
-    void focusOutEvent(QFocusEvent* event) override
-    {
-        QtView::focusOutEvent(event);
-        m_hooks.focusLost();
-    }
-    void contextMenuEvent(QContextMenuEvent* event) override
-    {
-        if (event->reason() == QContextMenuEvent::Keyboard) {
-            m_hooks.menuKeyPressed();
-        }
-    }
-    void paintEvent(QPaintEvent* event) override
-    {
-        QtView::paintEvent(event);
-        m_hooks.painted(*this->viewport());
-    }
-
-private:
-    ViewHooks m_hooks;
-};
 
 /// LVGamelist: the games as icons or list in one view, as details in another. Both show the same
 /// rows and share one selection, so that a change of view keeps it.
@@ -131,7 +63,6 @@ private:
     void Composed(const QInputMethodEvent& event);
     void SelectByUser(int row);
     void ShowGameMenu(QPoint position);
-    void PaintEmpty(QWidget& viewport) const;
     void ShowEmpty();
 
     Shown m_shown;
@@ -149,8 +80,7 @@ private:
     bool m_settled = false;   // it is since the last press of a key
     bool m_deleting = false;  // the Delete key is down
     bool m_following = false; // the program changes the views, not the user
-    QString m_empty;          // why the list is empty
-    QString m_emptyHint;      // and what to do about it
+    EmptyListText m_empty;
     std::function<void()> m_viewModeShown;
     Listening m_listening;
 };
