@@ -35,10 +35,8 @@ Done UnderNotice(
     const QString& destination)
 {
     const shell::Job job(launcher);
-    shell::ShowBusyMessage(launcher, launcher.lang[entry]);
-    Done done = operation(source, destination, Pumping(launcher));
-    shell::HideBusyMessage(launcher);
-    return done;
+    const shell::BusyMessage message(launcher, launcher.lang[entry]);
+    return operation(source, destination, Pumping(launcher));
 }
 
 } // namespace

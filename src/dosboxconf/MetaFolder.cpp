@@ -13,7 +13,7 @@ platform::Done MakeMetaDir(const shell::Places& places, const QString& folder)
 {
     const QString gameDir = places.GameDir(folder);
     if (!platform::IsPlainName(folder) || !QFileInfo(gameDir).isDir()) {
-        return platform::Error{platform::ErrorKind::Refused, u"%1: no such game"_s.arg(gameDir)};
+        return platform::Error::Worded(platform::ErrorKind::Refused, library::FolderIsGone(folder));
     }
     library::GameFiles files = library::ListGame(places, folder);
     return library::MakeMetaDir(files);

@@ -45,22 +45,14 @@ void ShowView(GameList& list, View view)
 }
 
 /// Rebuilds the list for what the user asked of the tree or the search box, and shows its first game.
-/// It is filled as a list, since icons take longer to place.
 void Search(Launcher& launcher)
 {
-    GameList& list = launcher.screens.list;
     const platform::RedrawLock lock(launcher.screens.gate);
-    const bool icons = list.view == View::LargeIcons;
-    if (icons) {
-        ShowView(list, View::List);
-    }
+    const ShownAsRows rows(launcher);
     RefreshGameList(launcher);
-    if (!list.items.empty()) {
+    if (!launcher.screens.list.items.empty()) {
         library::LVGamelist_ItemClick(launcher);
         library::ShowinfoProcess(launcher);
-    }
-    if (icons) {
-        ShowView(list, View::LargeIcons);
     }
 }
 
@@ -86,6 +78,22 @@ void EmptyTheBox(SearchBox& search)
 }
 
 } // namespace
+
+ShownAsRows::ShownAsRows(Launcher& launcher)
+    : m_list(launcher.screens.list)
+    , m_icons(m_list.view == View::LargeIcons)
+{
+    if (m_icons) {
+        ShowView(m_list, View::List);
+    }
+}
+
+ShownAsRows::~ShownAsRows()
+{
+    if (m_icons) {
+        ShowView(m_list, View::LargeIcons);
+    }
+}
 
 void RefreshGameList(Launcher& launcher)
 {

@@ -9,6 +9,19 @@ struct Launcher;
 
 namespace pelorin::finding {
 
+/// A list of large icons shows plain rows for as long as this stands: icons take longer to place.
+class ShownAsRows {
+public:
+    explicit ShownAsRows(shell::Launcher& launcher);
+    ~ShownAsRows();
+    ShownAsRows(const ShownAsRows&) = delete;
+    ShownAsRows& operator=(const ShownAsRows&) = delete;
+
+private:
+    GameList& m_list;
+    bool m_icons = false;
+};
+
 /// Rebuilds the list out of the games that the tree's marks and the search box pass, and gives it the
 /// keyboard with its first row selected; the search box gets it while the list is hidden. With a row
 /// the panels can be used, at the end of the job if one stands. When the marks pass no game, nothing

@@ -14,8 +14,6 @@ namespace {
 
 using library::GameEntry;
 
-constexpr int kMostBuilds = 101;
-
 /// Whether a game passes a category.
 using Test = std::function<bool(const GameEntry& entry)>;
 

@@ -9,6 +9,9 @@
 
 namespace pelorin::finding {
 
+/// Builds that can be filtered by; games of others are out of bounds.
+constexpr int kMostBuilds = 101;
+
 /// A child of a category, with a check mark.
 struct FilterNode {
     QString key; // prefix and value ("findgenrek_" and the genre)

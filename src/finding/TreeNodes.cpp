@@ -48,12 +48,6 @@ constexpr std::array<ValueCategory, 6> kValueCategories{{
 }};
 
 constexpr QStringView kInitials = u"ㄱㄴㄷㄹㅁㅂㅅㅇㅈㅊㅋㅌㅍㅎ";
-constexpr int kMostBuilds = 101;
-
-bool IsBlank(const QString& text)
-{
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c == u' '; });
-}
 
 /// What a child's key begins with; a word of the child's own follows.
 QString KeyPrefix(QStringView rootKey)
@@ -89,7 +83,7 @@ void FillValues(FilterRoot& root, const library::ValueCounts& values)
     root.children.reserve(values.size());
     auto old = former.begin();
     for (const auto& [value, games] : values) {
-        if (IsBlank(value)) {
+        if (IsBlankValue(value)) {
             continue;
         }
         while (old != former.end() && old->text != value && old->text < value) {
@@ -105,6 +99,11 @@ void FillValues(FilterRoot& root, const library::ValueCounts& values)
 }
 
 } // namespace
+
+bool IsBlankValue(const QString& text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c == u' '; });
+}
 
 void BuildTreeSkeleton(
     FilterTree& tree, const shell::LangTable& lang, const QStringList& buildNames)
@@ -126,7 +125,7 @@ void BuildTreeSkeleton(
     tree.Root(u"store"_s)->children = {
         FilterNode{store + u"no"_s, lang[41]}, FilterNode{store + u"yes"_s, lang[42]}};
     const QStringList possible = buildNames.mid(0, kMostBuilds);
-    const auto end = std::find_if(possible.begin(), possible.end(), IsBlank);
+    const auto end = std::find_if(possible.begin(), possible.end(), IsBlankValue);
     AddChildren(tree, u"executer", QStringList(possible.begin(), end));
     tree.changed.Tell(FilterTree::Nodes);
 }

@@ -12,6 +12,9 @@ class LangTable;
 
 namespace pelorin::finding {
 
+/// Nothing, or blanks alone: such a value has no node.
+bool IsBlankValue(const QString& text);
+
 /// The ten roots and their fixed children, one for each build name up to the first blank one among
 /// them. All check marks are lost; which roots stand open is kept. Tells Nodes.
 void BuildTreeSkeleton(

@@ -44,7 +44,7 @@ void TellTroubles(Launcher& launcher, const Troubles& troubles)
     }
     QStringList story;
     for (const platform::Error& error : troubles.kept) {
-        story << error.text;
+        story << launcher.lang.Told(error.Told());
     }
     const QString text = troubles.count == 1 ? story.first()
                                              : launcher.lang.OwnText(
@@ -69,9 +69,13 @@ void TellLeftOut(Launcher& launcher, const ScanResult& scan)
 {
     TellBeyondBound(launcher, scan.beyondBound);
     if (!scan.refused.isEmpty()) {
+        QStringList story;
+        for (const platform::Wording& reason : scan.refused) {
+            story << launcher.lang.Told(reason);
+        }
         const QString text = launcher.lang.OwnText(
             353, u"Folders that can't be games: <1>"_s, {QString::number(scan.refused.size())});
-        shell::TellNote(launcher, kCategory, text, scan.refused.join(u'\n'));
+        shell::TellNote(launcher, kCategory, text, story.join(u'\n'));
     }
 }
 
@@ -94,6 +98,7 @@ void FillTree(Launcher& launcher)
 
 void FillList(Launcher& launcher)
 {
+    const finding::ShownAsRows rows(launcher);
     launcher.screens.list.changed.Tell(finding::GameList::Icons);
     finding::RefreshGameList(launcher);
 }
@@ -323,9 +328,7 @@ void RemoveGameEntries(Launcher& launcher, const QStringList& folders)
 
 void TellEmptyLibrary(Launcher& launcher)
 {
-    if (const Done deleted = DeleteCatalogueCache(launcher.places); !deleted) {
-        shell::TellNote(launcher, kCategory, deleted.Failure());
-    }
+    shell::TellIfFailed(launcher, kCategory, DeleteCatalogueCache(launcher.places));
     launcher.ports.prompts.Ask(platform::MessageBox{
         launcher.lang[135] + u"\r\n\r\n"_s + launcher.lang[134],
         launcher.lang[1],

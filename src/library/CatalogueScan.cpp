@@ -14,6 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace pelorin::library {
 
+using platform::Wording;
+
 namespace {
 
 /// What the second pass needs of a folder's listing. A listing whole takes some 3 KB, and there
@@ -91,25 +93,19 @@ private:
         QStringList games;
         const platform::Listing root = platform::ListFolder(m_places.gamesRoot);
         for (const QString& folder : root.folders) {
-            const QString reason = WhyNoGame(m_places, folder);
-            if (reason.isEmpty()) {
-                games << folder;
+            if (const std::optional<Wording> reason = WhyNoGame(m_places, folder)) {
+                m_result.refused << *reason;
             } else {
-                Refuse(folder, reason);
+                games << folder;
             }
         }
         for (const QString& link : root.broken) {
             if (!link.startsWith(u'.')) {
-                Refuse(link, u"the link leads nowhere"_s);
+                m_result.refused << Wording{494, u"<1>: the link leads nowhere."_s, {link}};
             }
         }
         m_result.beyondBound = static_cast<int>(std::max<qsizetype>(0, games.size() - kMostGames));
         return games.mid(0, kMostGames);
-    }
-
-    void Refuse(const QString& folder, const QString& reason)
-    {
-        m_result.refused << folder + u": "_s + reason;
     }
 
     bool Prepare(const QStringList& folders)
@@ -124,7 +120,7 @@ private:
                 m_result.icons.Append(PrepareGameFolder(files, m_defaultIcon, m_result.troubles));
                 m_listed.push_back(Shorten(files));
             } else {
-                Refuse(folders[i], u"has vanished"_s);
+                m_result.refused << FolderIsGone(folders[i]);
             }
             if (!steps.At(i)) {
                 return false;

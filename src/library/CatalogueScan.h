@@ -16,11 +16,11 @@ namespace pelorin::library {
 
 struct ScanResult {
     GameEntries catalogue;
-    IconSheet icons;        // as many as games
-    int beyondBound = 0;    // folders left out behind the first kMostGames
-    QStringList refused;    // "name: reason" of what is left out else: folders that WhyNoGame
-                            // names, links that lead nowhere, folders that have vanished
-    bool abandoned = false; // the program is ending: the rest is not to be used
+    IconSheet icons;                  // as many as games
+    int beyondBound = 0;              // folders left out behind the first kMostGames
+    QList<platform::Wording> refused; // what is left out else, by name: folders that WhyNoGame
+                                      // names, links that lead nowhere, folders that have vanished
+    bool abandoned = false;           // the program is ending: the rest is not to be used
     Troubles troubles;
 };
 

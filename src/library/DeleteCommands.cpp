@@ -85,11 +85,9 @@ QStringList DeleteAll(Launcher& launcher, const std::vector<ListedGame>& games)
     if (games.size() == 1) {
         return BinAll(launcher, games);
     }
-    shell::ShowBusyMessage(
+    const shell::BusyMessage message(
         launcher, launcher.lang.OwnText(421, u"Moving games to the recycle bin."_s));
-    QStringList report = BinAll(launcher, games);
-    shell::HideBusyMessage(launcher);
-    return report;
+    return BinAll(launcher, games);
 }
 
 /// The folders of the rows that may take the selection, the best first: those below the selected

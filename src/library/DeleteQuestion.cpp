@@ -1,6 +1,7 @@
 #include "library/DeleteQuestion.h"
 
 #include "shell/LangTable.h"
+#include "shell/NameList.h"
 
 #include <QLocale>
 
@@ -10,7 +11,6 @@ namespace pelorin::library {
 
 namespace {
 
-constexpr qsizetype kMostNames = 10;
 constexpr qsizetype kMostCharacters = 60;
 
 QString Cut(const QString& text)
@@ -30,10 +30,7 @@ QString DeleteQuestion(
     const QStringList& names, const archives::FolderSize& size, const shell::LangTable& lang)
 {
     const QLocale locale(lang.IsKorean() ? QLocale::Korean : QLocale::English);
-    QStringList lines = names.mid(0, kMostNames);
-    if (names.size() > kMostNames) {
-        lines << lang.OwnText(416, u"and <1> more"_s, {locale.toString(names.size() - kMostNames)});
-    }
+    const QStringList lines = shell::FirstNames(names, lang);
     const QString question = names.size() == 1
                                  ? lang.OwnText(414, u"Move this game to the recycle bin?"_s)
                                  : lang.OwnText(

@@ -1,10 +1,28 @@
 #include "library/FolderCommands.h"
 
+#include "archives/FileOperations.h"
+#include "platform/Paths.h"
+#include "shell/FolderCfgCommands.h"
+#include "shell/JobCommands.h"
 #include "shell/Launcher.h"
+
+using namespace Qt::StringLiterals;
 
 namespace pelorin::library {
 
 using shell::Launcher;
+
+bool HasGameFolder(Launcher& launcher, const QString& folder)
+{
+    if (!platform::IsPlainName(folder) || shell::ShowsFormerRoot(launcher)) {
+        return false;
+    }
+    if (archives::FolderExists(launcher.places.GameDir(folder))) {
+        return true;
+    }
+    shell::TellNote(launcher, "pelorin.library", launcher.lang.Told(FolderIsGone(folder)));
+    return false;
+}
 
 void FolderRenamed(Launcher& launcher, const QString& oldName, const QString& newName)
 {

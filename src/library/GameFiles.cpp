@@ -12,6 +12,10 @@ using namespace Qt::StringLiterals;
 
 namespace pelorin::library {
 
+using platform::Error;
+using platform::ErrorKind;
+using platform::Wording;
+
 namespace {
 
 /// The metadata folder's name when one is made.
@@ -123,27 +127,35 @@ void GameFiles::ForgetMetaFile(const QString& name)
     }
 }
 
-QString WhyNoGame(const shell::Places& places, const QString& folder)
+Wording FolderIsGone(const QString& folder)
+{
+    return Wording{342, u"<1>: the game's folder is gone."_s, {folder}};
+}
+
+std::optional<Wording> WhyNoGame(const shell::Places& places, const QString& folder)
 {
     if (!platform::IsPlainName(folder)) {
-        return u"the name holds a backslash"_s;
+        return Wording{436, u"<1>: the name holds a backslash."_s, {folder}};
     }
     if (folder.contains(QChar::ReplacementCharacter)) {
-        return u"the name is in another encoding"_s;
+        return Wording{445, u"<1>: the name is in another encoding."_s, {folder}};
     }
     const QFileInfo info(places.GameDir(folder));
     if (!info.isSymLink()) {
-        return QString();
+        return std::nullopt;
     }
     const QString root = QFileInfo(places.gamesRoot).canonicalFilePath() + u'/';
     const QString target = info.canonicalFilePath();
     const bool leadsBack = root.startsWith(target.endsWith(u'/') ? target : target + u'/');
-    return leadsBack ? u"the link leads to where the games lie"_s : QString();
+    if (!leadsBack) {
+        return std::nullopt;
+    }
+    return Wording{493, u"<1>: the link leads to where the games lie."_s, {folder}};
 }
 
 bool MayBeGame(const shell::Places& places, const QString& folder)
 {
-    return WhyNoGame(places, folder).isEmpty();
+    return !WhyNoGame(places, folder);
 }
 
 GameFiles ListGame(const shell::Places& places, const QString& folder)
@@ -167,13 +179,14 @@ platform::Done MakeMetaDir(GameFiles& files)
     }
     const QString name = kMetaDirName.toString();
     if (!files.game.Find(name).isEmpty()) {
-        return platform::Error{
-            platform::ErrorKind::Refused, u"%1: not a folder"_s.arg(files.GamePath(name))};
+        return Error::Worded(
+            ErrorKind::Refused, Wording{495, u"<1> is no folder."_s, {files.GamePath(name)}});
     }
     // Not with the folders above it: a game folder that has vanished must not come back.
     if (!QDir().mkdir(files.metaDir)) {
-        return platform::Error{
-            platform::ErrorKind::Unwritable, u"%1: the folder can't be made"_s.arg(files.metaDir)};
+        return Error::Worded(
+            ErrorKind::Unwritable,
+            Wording{413, u"The folder <1> can't be made."_s, {files.metaDir}});
     }
     NoteName(files.game, files.game.folders, name);
     files.meta = platform::Listing();

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <vector>
 
 namespace pelorin::shell {
@@ -49,12 +50,15 @@ struct GameFiles {
     void ForgetMetaFile(const QString& name);
 };
 
+/// A game's folder that was there and is not any more, for the user.
+platform::Wording FolderIsGone(const QString& folder);
+
 /// Whether a sub-folder of GamesRoot can be a game: not when its name is no plain name or not in
 /// the system's encoding, and not when it is a link to GamesRoot or to a folder above that, since
 /// preparing it would put files among the games.
 bool MayBeGame(const shell::Places& places, const QString& folder);
-/// The reason for the user; empty when it can be one.
-QString WhyNoGame(const shell::Places& places, const QString& folder);
+/// The reason for the user, which names the folder; none when it can be one.
+std::optional<platform::Wording> WhyNoGame(const shell::Places& places, const QString& folder);
 
 /// Lists the game's folder and its metadata folder, whatever case that is written in. A folder that
 /// is missing or can't be read gives empty listings. `folder` must be a plain name.

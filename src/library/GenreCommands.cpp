@@ -44,11 +44,6 @@ const GenrePlace& PlaceOf(GenreFile which)
     return kPlaces[which == GenreFile::Korean ? 0 : 1];
 }
 
-bool IsBlank(const QString& text)
-{
-    return text.count(u' ') == text.size();
-}
-
 /// What the file gives back of it, since the tree shows the same at the next start.
 QString AsKept(const QString& genre)
 {
@@ -115,7 +110,7 @@ void mnuGenre_Click(Launcher& launcher, GenreFile which, int index)
             return;
         }
     }
-    if (!IsBlank(genre)) {
+    if (!finding::IsBlankValue(genre)) {
         SetGenre(launcher, menu.folder, which, AsKept(genre));
     }
 }

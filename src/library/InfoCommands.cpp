@@ -10,6 +10,7 @@
 #include "shell/JobCommands.h"
 #include "shell/Launcher.h"
 #include "shell/LossCommands.h"
+#include "shell/NameList.h"
 
 #include <utility>
 
@@ -68,19 +69,16 @@ QString TitleOf(const Launcher& launcher, const QString& folder)
 
 QString QuestionAboutDrafts(const Launcher& launcher)
 {
-    constexpr int kMostNamed = 10;
-    QStringList lines{
-        launcher.lang.OwnText(435, u"Titles or descriptions that are not saved:"_s), QString()};
-    int left = static_cast<int>(launcher.drafts.size());
+    QStringList titles;
     for (const auto& [folder, draft] : launcher.drafts) {
-        if (lines.size() == 2 + kMostNamed) {
-            lines << launcher.lang.OwnText(436, u"and <1> more"_s, {QString::number(left)});
-            break;
-        }
-        lines << TitleOf(launcher, folder);
-        --left;
+        titles << TitleOf(launcher, folder);
     }
-    lines << QString() << launcher.lang.OwnText(437, u"Save them?"_s);
+    const QStringList lines =
+        QStringList{
+            launcher.lang.OwnText(435, u"Titles or descriptions that are not saved:"_s),
+            QString()} +
+        shell::FirstNames(titles, launcher.lang) +
+        QStringList{QString(), launcher.lang.OwnText(437, u"Save them?"_s)};
     return lines.join(u'\n');
 }
 
@@ -101,7 +99,8 @@ void ShowInfo(Launcher& launcher, const GameFiles& files)
 void Info_Change(Launcher& launcher)
 {
     DetailsPanel& details = launcher.screens.details;
-    if (!platform::IsPlainName(details.folder) || details.savedInfo.state != InfoState::Whole) {
+    if (!platform::IsPlainName(details.folder) || details.savedInfo.state != InfoState::Whole ||
+        launcher.settings.rootsChanged) {
         return;
     }
     const InfoDraft draft = TypedDraft(details);

@@ -4,6 +4,7 @@
 #include "dosboxconf/ConfFiles.h"
 #include "library/CatalogueCommands.h"
 #include "library/DeleteCommands.h"
+#include "library/FolderCommands.h"
 #include "library/ListMenus.h"
 #include "library/ShowinfoCommands.h"
 #include "platform/Paths.h"
@@ -13,8 +14,7 @@
 #include "shell/FolderCfgCommands.h"
 #include "shell/JobCommands.h"
 #include "shell/Launcher.h"
-
-#include <QDir>
+#include "shell/RootFolders.h"
 
 #include <algorithm>
 #include <iterator>
@@ -37,9 +37,7 @@ struct MenuCommand {
 /// A link to a folder is opened under its own name; the desktop follows it.
 void Open(Launcher& launcher, const QString& path)
 {
-    if (const platform::Done opened = launcher.ports.shell.Open(path); !opened) {
-        shell::TellNote(launcher, kCategory, opened.Failure());
-    }
+    shell::TellIfFailed(launcher, kCategory, launcher.ports.shell.Open(path));
 }
 
 void OpenGameDir(Launcher& launcher)
@@ -75,14 +73,11 @@ void OpenGamesRoot(Launcher& launcher)
 void OpenExportRoot(Launcher& launcher)
 {
     const QString& root = launcher.places.exportRoot;
-    if (!archives::FolderExists(root) && !QDir().mkpath(root)) {
-        shell::TellNote(
-            launcher,
-            kCategory,
-            launcher.lang.OwnText(413, u"The folder <1> can't be made."_s, {root}));
-        return;
+    const platform::Done made = shell::MakeRoot(root);
+    shell::TellIfFailed(launcher, kCategory, made);
+    if (made) {
+        Open(launcher, root);
     }
-    Open(launcher, root);
 }
 
 constexpr MenuCommand kGameCommands[] = {
@@ -150,21 +145,6 @@ void FillBatchSelection(Launcher& launcher, const std::vector<ListedGame>& games
     for (const ListedGame& game : games) {
         launcher.current.BatchSelection << game.folder;
     }
-}
-
-bool HasGameFolder(Launcher& launcher, const QString& folder)
-{
-    if (!platform::IsPlainName(folder) || shell::ShowsFormerRoot(launcher)) {
-        return false;
-    }
-    if (archives::FolderExists(launcher.places.GameDir(folder))) {
-        return true;
-    }
-    shell::TellNote(
-        launcher,
-        kCategory,
-        launcher.lang.OwnText(342, u"<1>: the game's folder is gone."_s, {folder}));
-    return false;
 }
 
 shell::MenuModel mnuGame_Popup(Launcher& launcher, bool hasDetails)

@@ -24,9 +24,6 @@ std::vector<ListedGame> SelectedGames(const shell::Launcher& launcher);
 /// BatchSelection takes the games when there are several.
 void FillBatchSelection(shell::Launcher& launcher, const std::vector<ListedGame>& games);
 
-/// Whether the game's folder is there; if not, a note tells so.
-bool HasGameFolder(shell::Launcher& launcher, const QString& folder);
-
 /// mnuGame for the selection, which is taken over as the current game; BatchSelection takes the
 /// games when there are several. `hasDetails`: the entry for the details has a command.
 shell::MenuModel mnuGame_Popup(shell::Launcher& launcher, bool hasDetails);

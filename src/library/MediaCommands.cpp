@@ -77,13 +77,6 @@ QStringList FilesNow(const FileList& list, Media media)
     return Pictures(files);
 }
 
-void OpenFile(Launcher& launcher, const QString& path)
-{
-    if (const platform::Done opened = launcher.ports.shell.Open(path); !opened) {
-        shell::TellNote(launcher, kCategory, opened.Failure());
-    }
-}
-
 } // namespace
 
 void FillMedia(Launcher& launcher, const GameFiles& files)
@@ -131,7 +124,7 @@ void mnuMedia_Click(Launcher& launcher, Media media, int index)
             continue;
         }
         if (entry.act == Act::Open) {
-            OpenFile(launcher, path);
+            shell::TellIfFailed(launcher, kCategory, launcher.ports.shell.Open(path));
         } else {
             DeleteMediaFile(launcher, media);
         }
@@ -147,9 +140,7 @@ void DeleteMediaFile(Launcher& launcher, Media media)
     if (path.isEmpty() || !path.startsWith(game + u'/')) {
         return;
     }
-    if (const platform::Done gone = launcher.ports.bin.MoveToBin(path); !gone) {
-        shell::TellNote(launcher, kCategory, gone.Failure());
-    }
+    shell::TellIfFailed(launcher, kCategory, launcher.ports.bin.MoveToBin(path));
     const platform::RedrawLock lock(launcher.screens.gate);
     FileList& list = ListOf(panel, media);
     list.files = FilesNow(list, media);

@@ -27,8 +27,9 @@ Done DesktopShellVerbs::Start(const QString& what, const QString& workingFolder)
 {
     const QString opener = FindExecutable(m_searchPath, {u"xdg-open"_s});
     if (opener.isEmpty()) {
-        return Error{
-            ErrorKind::NotFound, u"%1 can't be opened: xdg-open is not installed"_s.arg(what)};
+        return Error::Worded(
+            ErrorKind::NotFound,
+            Wording{498, u"<1> can't be opened: xdg-open is not installed."_s, {what}});
     }
     ProcessRequest request;
     request.program = opener;
@@ -46,7 +47,7 @@ Done DesktopShellVerbs::Open(const QString& path)
 {
     const QFileInfo info(path);
     if (!info.isAbsolute() || !info.exists()) {
-        return Error{ErrorKind::NotFound, u"%1 is not there"_s.arg(path)};
+        return Error::Worded(ErrorKind::NotFound, Wording{427, u"<1> is not there."_s, {path}});
     }
     return Start(path, info.isDir() ? path : info.path());
 }
@@ -56,7 +57,8 @@ Done DesktopShellVerbs::OpenUrl(const QString& url)
     const QUrl address(url.trimmed());
     const bool isWeb = address.scheme() == u"http" || address.scheme() == u"https";
     if (!isWeb || address.host().isEmpty()) {
-        return Error{ErrorKind::Refused, u"%1 is no address of the web"_s.arg(url)};
+        return Error::Worded(
+            ErrorKind::Refused, Wording{497, u"<1> is no address of the web."_s, {url}});
     }
     return Start(QString::fromLatin1(address.toEncoded()), QDir::rootPath());
 }

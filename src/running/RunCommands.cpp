@@ -4,6 +4,7 @@
 #include "dosboxconf/ConfFiles.h"
 #include "dosboxconf/ConfReportCommands.h"
 #include "library/CatalogueCommands.h"
+#include "library/FolderCommands.h"
 #include "library/GameFiles.h"
 #include "library/ShowinfoCommands.h"
 #include "platform/Paths.h"
@@ -188,18 +189,6 @@ void OfferDosPrompt(Launcher& launcher)
     }
 }
 
-bool IsThere(Launcher& launcher, const QString& folder)
-{
-    if (archives::FolderExists(launcher.places.GameDir(folder))) {
-        return true;
-    }
-    shell::TellNote(
-        launcher,
-        kCategory,
-        launcher.lang.OwnText(342, u"<1>: the game's folder is gone."_s, {folder}));
-    return false;
-}
-
 bool IsPacked(Launcher& launcher, const QString& folder)
 {
     if (!library::IsGameStored(library::ListGame(launcher.places, folder))) {
@@ -238,7 +227,7 @@ void RunGame(Launcher& launcher)
     if (launcher.flags.JobHeld || !platform::IsPlainName(folder)) {
         return;
     }
-    if (!IsThere(launcher, folder) || IsPacked(launcher, folder)) {
+    if (!library::HasGameFolder(launcher, folder) || IsPacked(launcher, folder)) {
         return;
     }
     // A moving selection is a step ahead of what the controls hold.

@@ -40,8 +40,12 @@ Outcome<Endpoints> ReadEndpoints(const Places& places)
             continue;
         }
         if (!IsWebAddress(address)) {
-            return platform::LineError(
-                ErrorKind::Malformed, path, number, u"no http or https address"_s);
+            return platform::Error::Worded(
+                ErrorKind::Malformed,
+                platform::Wording{
+                    496,
+                    u"<1>: line <2>: no http or https address"_s,
+                    {path, QString::number(number)}});
         }
         endpoints.siteRoot = address.endsWith(u'/') ? address : address + u'/';
     }

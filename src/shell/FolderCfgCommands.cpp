@@ -130,11 +130,8 @@ void TakeDefaultRoot(Launcher& launcher, Root root)
 void OpenRoot(Launcher& launcher, Root root)
 {
     const QString path = RootPath(launcher.places, BoxOf(launcher, root));
-    if (path.isEmpty()) {
-        return;
-    }
-    if (const platform::Done opened = launcher.ports.shell.Open(path); !opened) {
-        TellNote(launcher, kCategory, opened.Failure());
+    if (!path.isEmpty()) {
+        TellIfFailed(launcher, kCategory, launcher.ports.shell.Open(path));
     }
 }
 
@@ -156,6 +153,7 @@ bool AcceptRoots(Launcher& launcher)
         launcher.places.gamesRoot = games;
         launcher.settings.rootsChanged = true;
         ShowsFormerRoot(launcher);
+        launcher.screens.details.changed.Tell(DetailsPanel::Texts); // not to be edited any more
     }
     return true;
 }

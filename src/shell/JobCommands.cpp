@@ -138,4 +138,11 @@ void TellNote(
     TellNote(launcher, category, launcher.lang.Told(failure.Told()), story);
 }
 
+void TellIfFailed(Launcher& launcher, const char* category, const platform::Done& done)
+{
+    if (!done) {
+        TellNote(launcher, category, done.Failure());
+    }
+}
+
 } // namespace pelorin::shell

@@ -34,6 +34,21 @@ void SetPanelsEnabled(Launcher& launcher, bool enabled);
 /// The notice over the list; its text blinks until HideBusyMessage.
 void ShowBusyMessage(Launcher& launcher, const QString& text);
 void HideBusyMessage(Launcher& launcher);
+/// The notice for as long as this stands.
+class BusyMessage {
+public:
+    BusyMessage(Launcher& launcher, const QString& text)
+        : m_launcher(launcher)
+    {
+        ShowBusyMessage(launcher, text);
+    }
+    ~BusyMessage() { HideBusyMessage(m_launcher); }
+    BusyMessage(const BusyMessage&) = delete;
+    BusyMessage& operator=(const BusyMessage&) = delete;
+
+private:
+    Launcher& m_launcher;
+};
 /// The notice's part for a job on several games, which has come to the game of that name, counted
 /// from 0. Window events run. False: the job is to end here, before that game.
 bool ShowBatchStep(Launcher& launcher, int index, int count, const QString& game);
@@ -55,5 +70,7 @@ void TellNote(
     const char* category,
     const platform::Error& failure,
     const QString& story = QString());
+/// The same, if it failed.
+void TellIfFailed(Launcher& launcher, const char* category, const platform::Done& done);
 
 } // namespace pelorin::shell

@@ -41,9 +41,7 @@ void ClearObsoleteFolder(Launcher& launcher)
     if (QDir().rmdir(path)) {
         return;
     }
-    if (const platform::Done gone = launcher.ports.bin.MoveToBin(path); !gone) {
-        TellNote(launcher, kCategory, gone.Failure());
-    }
+    TellIfFailed(launcher, kCategory, launcher.ports.bin.MoveToBin(path));
 }
 
 void LoadCatalogue(Launcher& launcher)
@@ -72,7 +70,7 @@ QStringList SaveAll(Launcher& launcher)
     QStringList failures;
     for (const platform::Done& done : {library::SaveCatalogue(launcher), SaveSettings(launcher)}) {
         if (!done) {
-            failures << done.Failure().text;
+            failures << launcher.lang.Told(done.Failure().Told());
         }
     }
     return failures;
@@ -119,6 +117,9 @@ platform::Done Form_Load(Launcher& launcher)
 
 bool Form_Unload(Launcher& launcher)
 {
+    if (launcher.screens.notice.batch.visible) {
+        Command1_Click(launcher);
+    }
     if (!launcher.flags.BusyReady || launcher.flags.CloseBlocked) {
         return false;
     }

@@ -77,7 +77,7 @@ platform::Done MakeRoot(const QString& path)
     }
     return platform::Error::Worded(
         platform::ErrorKind::Unwritable,
-        platform::Wording{445, u"The folder <1> can't be made."_s, {path}});
+        platform::Wording{413, u"The folder <1> can't be made."_s, {path}});
 }
 
 } // namespace pelorin::shell

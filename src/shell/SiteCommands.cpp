@@ -25,12 +25,9 @@ void LoadEndpoints(Launcher& launcher)
 
 void cmdVespra_Click(Launcher& launcher)
 {
-    if (launcher.endpoints.siteRoot.isEmpty()) {
-        return;
-    }
-    const platform::Done opened = launcher.ports.shell.OpenUrl(launcher.endpoints.siteRoot);
-    if (!opened) {
-        TellNote(launcher, kCategory, opened.Failure());
+    if (!launcher.endpoints.siteRoot.isEmpty()) {
+        TellIfFailed(
+            launcher, kCategory, launcher.ports.shell.OpenUrl(launcher.endpoints.siteRoot));
     }
 }
 

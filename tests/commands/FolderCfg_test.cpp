@@ -157,6 +157,7 @@ TEST_F(FolderCfg, FormerGamesAreNotTakenForThoseOfTheNewRoot)
     library::DeleteSelectedGames(*m_launcher);
     library::RenameGameFolder(*m_launcher);
     type(u"또"_s);
+    EXPECT_TRUE(m_launcher->drafts.empty()) << "it could not be saved";
     library::cmdSaveInfo_Click(*m_launcher);
     EXPECT_EQ(m_app.folder.ReadText(info), u"다른 게임\u0003Another"_s);
     EXPECT_FALSE(m_launcher->screens.status.notes.empty());

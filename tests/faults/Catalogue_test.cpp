@@ -154,7 +154,7 @@ TEST(ScanFaults, FolderUnreadableOrVanishingOrALinkThatLoopsOrLeadsNowhere)
         EXPECT_PRED2(Holds, Notes(*launcher), app.folder.Path(u"Games/locked: "_s));
         EXPECT_PRED2(Holds, Notes(*launcher), launcher->lang.Text(353, {u"4"_s}));
         for (const QString& name : {u"loop"_s, u"nowhere"_s, u"self"_s, u"vanishing"_s}) {
-            EXPECT_TRUE(Stories(*launcher).contains(u'\n' + name + u": "_s)) << name.toStdString();
+            EXPECT_TRUE(Stories(*launcher).contains(u'\n' + name + u" : "_s)) << name.toStdString();
         }
         app.fakes.timers.onPendingEvents = nullptr;
         EXPECT_TRUE(shell::Form_Unload(*launcher));

@@ -454,6 +454,7 @@ TEST_F(WindowDeedsTest, TitlesAndDescriptionAreWrittenByTheUserOnly)
     QTest::keyClicks(info, u"4"_s);
     EXPECT_EQ(details.txtInfo, u"one\r\ntwo\r\n3"_s);
     EXPECT_TRUE(Find("lblInfoNote")->isVisible());
+    EXPECT_FALSE(Find("cmdSaveInfo")->isEnabled());
 }
 
 TEST_F(WindowDeedsTest, AGenreMenuOpensByEitherButtonAndTheMenuKey)

@@ -30,6 +30,14 @@ protected:
         }
         return folders;
     }
+    static QStringList Refused(const ScanResult& scan)
+    {
+        QStringList reasons;
+        for (const platform::Wording& reason : scan.refused) {
+            reasons << reason.English();
+        }
+        return reasons;
+    }
 
     test::LibraryFolder m_library;
     test::TestFolder& m_root = m_library.root;
@@ -51,11 +59,11 @@ TEST_F(CatalogueScanTest, GamesInOrderWithTheirIcons)
     const ScanResult scan = Scan();
     EXPECT_THAT(Folders(scan), ElementsAre(u"Alpha"_s, u"beta"_s, u"Gamma"_s));
     EXPECT_THAT(
-        scan.refused,
+        Refused(scan),
         ElementsAre(
-            u"self: the link leads to where the games lie"_s,
-            u"loop: the link leads nowhere"_s,
-            u"nowhere: the link leads nowhere"_s));
+            u"self: the link leads to where the games lie."_s,
+            u"loop: the link leads nowhere."_s,
+            u"nowhere: the link leads nowhere."_s));
     ASSERT_EQ(scan.icons.Count(), 3);
     EXPECT_EQ(scan.icons.Large(0).bgr, m_defaultIcon.bgr);
     EXPECT_NE(scan.icons.Large(1).bgr, m_defaultIcon.bgr);
@@ -98,7 +106,7 @@ TEST_F(CatalogueScanTest, FoldersThatVanishDoNoHarm)
     };
     const ScanResult scan = Scan();
     EXPECT_THAT(Folders(scan), ElementsAre(u"a"_s, u"c"_s));
-    EXPECT_THAT(scan.refused, ElementsAre(u"b: has vanished"_s));
+    EXPECT_THAT(Refused(scan), ElementsAre(u"b: the game's folder is gone."_s));
     EXPECT_EQ(scan.troubles.count, 2) << "c is listed by its name, and can't get its genre files";
     EXPECT_EQ(scan.icons.Count(), 2);
     EXPECT_EQ(scan.catalogue[1].ListIndex, 2);

@@ -59,7 +59,7 @@ InformationPage::InformationPage(const Shown& shown, const Deeds& deeds, QWidget
     auto* save = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_S), this);
     save->setContext(Qt::WidgetWithChildrenShortcut);
     save->setAutoRepeat(false);
-    connect(save, &QShortcut::activated, this, [this] { Do(m_deeds.cmdSaveInfo_Click); });
+    connect(save, &QShortcut::activated, m_cmdSaveInfo, &QAbstractButton::click);
 }
 
 QLayout* InformationPage::BuildHead()
@@ -113,13 +113,13 @@ QLayout* InformationPage::BuildInfoHead()
     row->setSpacing(2 * Gap(*this));
     m_lblDraft = new QLabel(this);
     m_lblDraft->setObjectName(u"lblDraft"_s);
-    QAbstractButton* const save =
-        AddPush(u"cmdSaveInfo"_s, static_cast<bool>(m_deeds.cmdSaveInfo_Click));
-    connect(save, &QAbstractButton::clicked, this, [this] { Do(m_deeds.cmdSaveInfo_Click); });
+    m_cmdSaveInfo = AddPush(u"cmdSaveInfo"_s, static_cast<bool>(m_deeds.cmdSaveInfo_Click));
+    connect(
+        m_cmdSaveInfo, &QAbstractButton::clicked, this, [this] { Do(m_deeds.cmdSaveInfo_Click); });
     row->addWidget(AddHeading(u"lblInfo"_s));
     row->addStretch();
     row->addWidget(m_lblDraft);
-    row->addWidget(save);
+    row->addWidget(m_cmdSaveInfo);
     return row;
 }
 
@@ -221,8 +221,10 @@ void InformationPage::ShowTexts()
 void InformationPage::ShowInfoState()
 {
     const library::InfoState state = m_shown.screens.details.savedInfo.state;
-    const bool editable =
-        state == library::InfoState::Whole && static_cast<bool>(m_deeds.Info_Change);
+    // The games of a former root are not saved any more.
+    const bool editable = state == library::InfoState::Whole && !m_shown.settings.rootsChanged &&
+                          static_cast<bool>(m_deeds.Info_Change);
+    m_cmdSaveInfo->setEnabled(editable && static_cast<bool>(m_deeds.cmdSaveInfo_Click));
     for (QLineEdit* title : m_txtTitle) {
         title->setReadOnly(!editable);
     }

@@ -46,6 +46,7 @@ private:
     QPlainTextEdit* m_txtInfo = nullptr;
     QLabel* m_lblDraft = nullptr;
     QLabel* m_lblInfoNote = nullptr;
+    QAbstractButton* m_cmdSaveInfo = nullptr;
     QString m_folder;       // whose texts the boxes hold
     bool m_showing = false; // the program changes the boxes, not the user
     Listening m_listening;
