@@ -1,7 +1,8 @@
 """Plays a sample game in the real DOSBox, from its title to the DOS prompt.
 
 The game runs on a copy in a temporary folder, with a dosbox.conf such as the launcher writes. The
-recorded keys are sent by the clock; what came of them is read from the files that the game leaves.
+recorded keys are sent by the clock, from screen to screen; what came of them is read from the files
+that the game leaves.
 A test names what is its game's own in a Game and calls play_sample.
 """
 
@@ -46,6 +47,8 @@ game.com
 exit
 """
 
+COMMANDS = {"down": "keydown", "up": "keyup", "tap": "key"}
+
 
 @dataclasses.dataclass
 class Game:
@@ -80,14 +83,16 @@ class Playing:
 
 
 def read_keys(path):
-    """Rows of milliseconds, key and "down" or "up"."""
-    rows = []
+    """Scenes, each a list of rows of milliseconds, key and "down", "up" or "tap"."""
+    scenes = [[]]
     for line in path.read_text("utf-8").splitlines():
-        if line.strip() and not line.startswith("#"):
+        if line == "screen":
+            scenes.append([])
+        elif line.strip() and not line.startswith("#"):
             milliseconds, key, direction = line.split()
-            assert direction in ("down", "up"), line
-            rows.append((int(milliseconds), key, direction))
-    return rows
+            assert direction in COMMANDS, line
+            scenes[-1].append((int(milliseconds), key, direction))
+    return scenes
 
 
 def install(root, sample, staged, dos):
@@ -115,6 +120,20 @@ def check_title(screen, window):
     wait_until(lambda: len(screen.colours(window) - {0}) >= 8, 3, "the title in eight colours")
 
 
+def wait_for_another_screen(screen, window, before):
+    """Until most of the picture is another one in full light: a game forgets keys while it fades."""
+    lights = []
+
+    def stands():
+        now = screen.pixels(window)
+        lights.append(max(max(colour.to_bytes(3, "big")) for colour in set(now)) if now else 0)
+        changed = sum(a != b for a, b in zip(before, now, strict=False))
+        full = len(lights) > 3 and len(set(lights[-4:])) == 1 and lights[-1] > 150
+        return full and changed > len(before) / 4
+
+    wait_until(stands, 20, "another screen in full light")
+
+
 def play(screen, rows, is_done):
     """Sends the keys by the clock until all are sent or the night is done; none stays down."""
     start = time.monotonic()
@@ -124,7 +143,7 @@ def play(screen, rows, is_done):
             time.sleep(0.02)
         if is_done():
             break
-        screen.run(["xdotool", "key" + direction, key])
+        screen.run(["xdotool", COMMANDS[direction], key])
         held = held | {key} if direction == "down" else held - {key}
     for key in held:
         screen.run(["xdotool", "keyup", key])
@@ -132,7 +151,7 @@ def play(screen, rows, is_done):
 
 def run(root, sample, staged, dos):
     game, conf = install(root, sample.sample, staged, dos)
-    rows = read_keys(REPOSITORY / "samples" / sample.sample / sample.keys)
+    scenes = read_keys(REPOSITORY / "samples" / sample.sample / sample.keys)
     with Screen(root) as screen:
         playing = Playing(screen, Dosbox(screen, conf), game)
         dosbox = playing.dosbox
@@ -142,8 +161,13 @@ def run(root, sample, staged, dos):
 
         try:
             wait_until((game / "READY.TXT").exists, 10, "READY.TXT, that is, the title")
-            check_title(screen, dosbox.window())
-            play(screen, rows, is_done)
+            window = dosbox.window()
+            check_title(screen, window)
+            for number, rows in enumerate(scenes):
+                before = screen.pixels(window)
+                play(screen, rows, is_done)
+                if number + 1 < len(scenes):
+                    wait_for_another_screen(screen, window, before)
             wait_until(is_done, 5, f"{sample.done!r} in the log, which is {playing.log()!r}")
             sample.leave(playing)
             assert dosbox.process.returncode == 0, f"DOSBox: {dosbox.process.returncode}"
