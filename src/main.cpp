@@ -2,6 +2,8 @@
 // rule.
 
 #include "archives/FileCommands.h"
+#include "dosboxconf/EditorCommands.h"
+#include "dosboxconf/PresetCommands.h"
 #include "dosboxconf/StartCommandsFile.h"
 #include "dosboxconf/StartPageCommands.h"
 #include "finding/FilterCommands.h"
@@ -82,6 +84,27 @@ void WireStartPage(forms::Deeds& deeds, shell::Launcher& launcher)
     deeds.chkMountCD_Click = [&](bool checked) { dosboxconf::chkMountCD_Click(launcher, checked); };
     deeds.mnuCD_Click = [&](int index) { dosboxconf::mnuCD_Click(launcher, index); };
     deeds.cmdSaveCD_Click = [&] { dosboxconf::cmdSaveCD_Click(launcher); };
+}
+
+void WireConfigPage(forms::Deeds& deeds, shell::Launcher& launcher)
+{
+    using dosboxconf::GroupStep;
+    deeds.chkEditConfig_Click = [&](bool on) { dosboxconf::chkEditConfig_Click(launcher, on); };
+    deeds.cmbConfigSub_Click = [&](int group) { dosboxconf::cmbConfigSub_Click(launcher, group); };
+    deeds.lstConfigTitle_Click = [&](int row) { dosboxconf::lstConfigTitle_Click(launcher, row); };
+    deeds.lstConfigTitle_CtrlTab = [&](int step) {
+        dosboxconf::lstConfigTitle_CtrlTab(
+            launcher, step > 0 ? GroupStep::Next : GroupStep::Previous);
+    };
+    deeds.lstConfig_Row = [&](int row) { dosboxconf::lstConfig_Row(launcher, row); };
+    deeds.lstConfig_Click = [&](int row) { dosboxconf::lstConfig_Click(launcher, row); };
+    deeds.cmbConfig_Click = [&](int index) { dosboxconf::cmbConfig_Click(launcher, index); };
+    deeds.cmbConfig_Leave = [&] { dosboxconf::cmbConfig_Leave(launcher); };
+    deeds.lstEdit_Click = [&](int row) { dosboxconf::lstEdit_Click(launcher, row); };
+    deeds.cmdSaveConfig_Click = [&] { dosboxconf::cmdSaveConfig_Click(launcher); };
+    deeds.cmdDeleteConfig_Click = [&] { dosboxconf::cmdDeleteConfig_Click(launcher); };
+    deeds.cmdOpenPreset_Click = [&] { dosboxconf::cmdOpenPreset_Click(launcher); };
+    deeds.cmdSavePreset_Click = [&] { dosboxconf::cmdSavePreset_Click(launcher); };
 }
 
 void OpenFolderCFG(shell::Launcher& launcher)
@@ -197,6 +220,7 @@ void Wire(forms::Deeds& deeds, shell::Launcher& launcher)
     deeds.Form_Unload = [&] { return shell::Form_Unload(launcher); };
     WireTree(deeds, launcher);
     WireStartPage(deeds, launcher);
+    WireConfigPage(deeds, launcher);
     WireWindow(deeds, launcher);
     WireListMenu(deeds, launcher);
     WireDetails(deeds, launcher);

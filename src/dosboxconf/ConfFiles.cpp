@@ -2,6 +2,7 @@
 
 #include "dosboxconf/ConfDefaults.h"
 #include "dosboxconf/ConfUpgrade.h"
+#include "dosboxconf/private/ConfPaths.h"
 #include "dosboxconf/private/MetaFolder.h"
 #include "dosboxconf/private/StoredConf.h"
 #include "library/GameFiles.h"
@@ -18,16 +19,6 @@ namespace pelorin::dosboxconf {
 namespace {
 
 using platform::Outcome;
-
-QString DefaultConfPath(const shell::Places& places)
-{
-    return places.InAppDir(u"Default.conf"_s);
-}
-
-QString GameConfPath(const shell::Places& places, const QString& folder)
-{
-    return places.InMetaDir(folder, u"edit.conf"_s);
-}
 
 /// The file as it stands; nothing whole where it can't be read.
 StoredConf ReadConf(const QString& path)
@@ -295,6 +286,7 @@ LoadedConf LoadGameConf(
     if (files.meta.Find(name).isEmpty()) {
         return loaded;
     }
+    loaded.hasOwn = true;
     const Selection global = grid.OptionSelection;
     const QString path = files.MetaPath(name);
     const Outcome<QStringList> lines = platform::ReadLines(path);

@@ -42,6 +42,7 @@ struct Difference {
 };
 
 struct LoadedConf {
+    bool hasOwn = false; // the game has an edit.conf
     ConfReport report;
     std::vector<Difference> differences; // groups outside, items inside
 };

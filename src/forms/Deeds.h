@@ -96,6 +96,21 @@ struct Deeds {
     IndexDeed mnuCD_Click; // 0 the game's folder, 1 images
     Deed cmdSaveCD_Click;
 
+    // The configuration page.
+    CheckDeed chkEditConfig_Click;
+    IndexDeed cmbConfigSub_Click;     // the group
+    IndexDeed lstConfigTitle_Click;   // the row
+    IndexDeed lstConfigTitle_CtrlTab; // 1 forward, -1 back
+    IndexDeed lstConfig_Row;          // gone to
+    IndexDeed lstConfig_Click;        // clicked, or Enter
+    IndexDeed cmbConfig_Click;        // the value chosen
+    Deed cmbConfig_Leave;
+    IndexDeed lstEdit_Click; // the row
+    Deed cmdSaveConfig_Click;
+    Deed cmdDeleteConfig_Click;
+    Deed cmdOpenPreset_Click;
+    Deed cmdSavePreset_Click;
+
     // The settings page.
     Deed cmdSetPos_Click;
     Deed cmdRememberPos_Click;

@@ -68,5 +68,15 @@ inline constexpr OwnEntry kOwnPictureLarge{
 inline constexpr OwnEntry kOwnNoSite{
     451, u"No site is set. A line site=ADDRESS in Endpoints.cfg sets one."};
 inline constexpr OwnEntry kOwnPicture{452, u"Picture shown"};
+inline constexpr OwnEntry kOwnPreview{453, u"What a start writes"};
+inline constexpr OwnEntry kOwnPreviewSaved{454, u"A start writes this:"};
+inline constexpr OwnEntry kOwnPreviewDiffers{
+    455, u"Not saved yet. Once saved, a start writes this:"};
+inline constexpr OwnEntry kOwnPreviewUnsaved{
+    456, u"Not saved yet. A start writes this before and after:"};
+inline constexpr OwnEntry kOwnPreviewNone{457, u"A start from here writes no dosbox.conf."};
+inline constexpr OwnEntry kOwnDifferentGroups{459, u"Groups of what differs"};
+inline constexpr OwnEntry kOwnDifferentOptions{460, u"Options that differ"};
+inline constexpr OwnEntry kOwnDifferentValues{461, u"Values that differ"};
 
 } // namespace pelorin::forms

@@ -115,6 +115,25 @@ QString QtPrompts::ChooseFolder(const QString& title, const QString& start)
     return QFileDialog::getExistingDirectory(Parent(), title, start);
 }
 
+QString QtPrompts::OpenFile(const platform::FileDialog& asked)
+{
+    return QFileDialog::getOpenFileName(
+        Parent(), asked.title, asked.folder, asked.filters.join(u";;"_s));
+}
+
+QString QtPrompts::SaveFile(const platform::FileDialog& asked)
+{
+    QFileDialog dialog(Parent(), asked.title, asked.folder);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilters(asked.filters);
+    const auto followFilter = [&dialog](const QString& filter) {
+        dialog.setDefaultSuffix(filter.section(u"(*."_s, 1).section(u')', 0, 0).remove(u'*'));
+    };
+    followFilter(asked.filters.value(0));
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, followFilter);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
 void QtPrompts::ShowReport(const QString& title, const QString& text)
 {
     frmOutput(frmOutput::Words{title, text, Words(kOwnOk)}, Parent()).exec();

@@ -23,6 +23,8 @@ public:
     platform::Answer Ask(const platform::MessageBox& box) override;
     QString InputText(const QString& prompt, const QString& title, const QString& preset) override;
     QString ChooseFolder(const QString& title, const QString& start) override;
+    QString OpenFile(const platform::FileDialog& asked) override;
+    QString SaveFile(const platform::FileDialog& asked) override;
     void ShowReport(const QString& title, const QString& text) override;
 
 private:

@@ -3,6 +3,7 @@
 #include "dosboxconf/CdFile.h"
 #include "dosboxconf/ConfFiles.h"
 #include "dosboxconf/ConfReportCommands.h"
+#include "dosboxconf/EditorCommands.h"
 #include "dosboxconf/StartCommandsFile.h"
 #include "dosboxconf/StartPageCommands.h"
 #include "library/Catalogue.h"
@@ -85,27 +86,17 @@ void ShowStartPage(Launcher& launcher, const GameFiles& files)
     dosboxconf::FillCdList(launcher, files);
 }
 
-bool ShowsConf(const Launcher& launcher)
-{
-    constexpr int kGlobalPage = 3;
-    constexpr int kGamePage = 4;
-    const int tab = launcher.screens.frame.tabInfo;
-    return tab == kGlobalPage || tab == kGamePage;
-}
-
 /// A configuration of an older layout is rewritten here, and its build read anew, so that a start
 /// finds the build where it looks for it.
 void LoadConf(Launcher& launcher, const GameFiles& files)
 {
-    const dosboxconf::ConfReport report =
-        dosboxconf::LoadGameConf(launcher.places, files, launcher.options).report;
-    dosboxconf::TellReport(launcher, report);
-    if (report.upgraded) {
+    const dosboxconf::LoadedConf loaded =
+        dosboxconf::LoadGameConf(launcher.places, files, launcher.options);
+    dosboxconf::TellReport(launcher, loaded.report);
+    if (loaded.report.upgraded) {
         RereadGameEntry(launcher, files.folder);
     }
-    if (ShowsConf(launcher)) {
-        launcher.screens.frame.changed.Tell(shell::MainFrame::Tab); // it shows what is loaded
-    }
+    dosboxconf::ShowConfigPage(launcher, loaded);
 }
 
 void ShowCaption(Launcher& launcher)
@@ -174,9 +165,8 @@ void ShowNoGame(Launcher& launcher)
 
 void tabInfo_Click(Launcher& launcher)
 {
-    const QString folder = launcher.screens.details.folder;
-    if (ShowsConf(launcher) && platform::IsPlainName(folder)) {
-        LoadConf(launcher, ListGame(launcher.places, folder));
+    if (dosboxconf::ShowsConfigPage(launcher)) {
+        dosboxconf::ShowConfigPage(launcher);
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace pelorin::platform {
 
@@ -16,6 +17,13 @@ struct MessageBox {
     bool noByDefault = false; // Enter answers with the last button, which takes no step
 };
 
+/// A dialog for a file.
+struct FileDialog {
+    QString title;
+    QString folder;      // where it starts; a native path
+    QStringList filters; // "Preset files (*.conf)"; the first one is chosen
+};
+
 /// Asks people. Each call shows a modal dialog and comes back with the answer; window events run
 /// meanwhile. Never called under a RedrawLock.
 class Prompts {
@@ -29,6 +37,11 @@ public:
         const QString& prompt, const QString& title, const QString& preset) = 0;
     /// A native folder path, empty when cancelled.
     virtual QString ChooseFolder(const QString& title, const QString& start) = 0;
+    /// The native path of an existing file, empty when cancelled.
+    virtual QString OpenFile(const FileDialog& dialog) = 0;
+    /// The native path of a file to be written, empty when cancelled. An existing one is asked about.
+    /// A name without an ending gets that of the filter chosen.
+    virtual QString SaveFile(const FileDialog& dialog) = 0;
     /// A long report to read, with one button.
     virtual void ShowReport(const QString& title, const QString& text) = 0;
 };

@@ -31,6 +31,7 @@ Screens::Screens()
         &media.changed,
         &configDetail.changed,
         &start.changed,
+        &config.changed,
         &cd.changed,
         &placement.changed,
         &folderCfg.changed,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dosboxconf/ConfigEditor.h"
 #include "dosboxconf/StartCommands.h"
 #include "finding/FilterTree.h"
 #include "finding/GameList.h"
@@ -169,6 +170,7 @@ struct Screens {
     library::MediaPanel media;
     library::ConfigDetail configDetail;
     dosboxconf::StartCommands start;
+    dosboxconf::ConfigEditor config;
     dosboxconf::CdPanel cd;
     PlacementPanel placement;
     FolderCfg folderCfg;

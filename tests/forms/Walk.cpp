@@ -31,7 +31,15 @@ namespace {
 const QStringList kShortened{
     u"SBDirectory_1"_s, u"SBDirectory_2"_s, u"SBDirectory_3"_s, u"SBDirectory_4"_s};
 /// They lie over the list on purpose.
-const QStringList kOverlays{u"lblMessage"_s, u"lblMessage2"_s, u"lblProgress"_s, u"pbProgress"_s};
+const QStringList kOverlays{
+    u"lblMessage"_s,
+    u"lblMessage2"_s,
+    u"Label3"_s,
+    u"Label4"_s,
+    u"ProgressBar1"_s,
+    u"Command1"_s,
+    u"lblProgress"_s,
+    u"pbProgress"_s};
 
 /// Large and bold in colours that are fixed; 3 to 1 serves there.
 const QStringList kLarge{u"lblMessage"_s};

@@ -3,7 +3,6 @@
 
 #include <QAbstractItemView>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -359,27 +358,14 @@ TEST_F(WindowDeedsTest, StatusPanelsHandOnTheirClicks)
 TEST_F(WindowDeedsTest, TabsAreCountedFromOneAndTwoShareAPage)
 {
     deeds.tabInfo_Click = NoteIndex(u"tab"_s);
-    options.GroupCaption = {u"sdl"_s, u"cpu"_s};
-    const dosboxconf::Cell cell{1, 0};
-    const auto at = dosboxconf::OptionGrid::Index(cell);
-    options.OptionTitle[at] = u"Core"_s;
-    options.OptionKinds[at] = dosboxconf::OptionKind::Index;
-    options.OptionValue[at] = {u"auto"_s, u"dynamic"_s};
     Open();
     EXPECT_EQ(window->findChild<QWidget*>(u"picInfo_2"_s), nullptr);
     auto* tabs = Find<QTabBar>("tabInfo");
     tabs->setCurrentIndex(2);
     EXPECT_TRUE(Find("picInfo_2")->isVisible());
     EXPECT_EQ(screens.frame.tabInfo, 3);
-    Find<QComboBox>("cmbConfigSub")->setCurrentIndex(1);
-    auto* values = Find<QAbstractItemView>("lstConfig");
-    ASSERT_EQ(values->model()->rowCount(), 1);
-    EXPECT_EQ(values->model()->index(0, 0).data(), u"auto"_s);
-    // Another game's settings were loaded meanwhile.
-    options.OptionSelection[at] = 1;
     tabs->setCurrentIndex(3);
     EXPECT_TRUE(Find("picInfo_2")->isVisible());
-    EXPECT_EQ(values->model()->index(0, 0).data(), u"dynamic"_s);
     EXPECT_EQ(did, (QStringList{u"tab 3"_s, u"tab 4"_s}));
     // The program's choice is shown and not reported as the user's.
     ShowTab(1);

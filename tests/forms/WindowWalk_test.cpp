@@ -94,15 +94,17 @@ protected:
         const auto nothing = [] {};
         const auto menu = [] { return shell::MenuModel{{0, u"menu"_s}}; };
         for (forms::Deeds::Deed* deed :
-             {&deeds.FocusTitle,       &deeds.RenameGameFolder,   &deeds.OpenDetails,
-              &deeds.cmdRun_Click,     &deeds.cmdRefresh_Click,   &deeds.Picture2_Click,
-              &deeds.cmdFind_Click,    &deeds.txtFind_Esc,        &deeds.cmdFind_Esc,
-              &deeds.picAddGame_Click, &deeds.cmdVespra_Click,    &deeds.cmdSaveInfo_Click,
-              &deeds.cmdAddExec_Click, &deeds.cmdAddEmpty_Click,  &deeds.cmdDelete_Click,
-              &deeds.cmdUp_Click,      &deeds.cmdDown_Click,      &deeds.cmdSaveExec_Click,
-              &deeds.cmdSaveCD_Click,  &deeds.cmdSetPos_Click,    &deeds.cmdRememberPos_Click,
-              &deeds.cmdCompact_Click, &deeds.cmdFolderCFG_Click, &deeds.cmdUpdate_Click,
-              &deeds.Info_Change,      &deeds.SaveDetails,        &deeds.DeleteDetails}) {
+             {&deeds.FocusTitle,          &deeds.RenameGameFolder,      &deeds.OpenDetails,
+              &deeds.cmdRun_Click,        &deeds.cmdRefresh_Click,      &deeds.Picture2_Click,
+              &deeds.cmdFind_Click,       &deeds.txtFind_Esc,           &deeds.cmdFind_Esc,
+              &deeds.picAddGame_Click,    &deeds.cmdVespra_Click,       &deeds.cmdSaveInfo_Click,
+              &deeds.cmdAddExec_Click,    &deeds.cmdAddEmpty_Click,     &deeds.cmdDelete_Click,
+              &deeds.cmdUp_Click,         &deeds.cmdDown_Click,         &deeds.cmdSaveExec_Click,
+              &deeds.cmdSaveCD_Click,     &deeds.cmdSetPos_Click,       &deeds.cmdRememberPos_Click,
+              &deeds.cmdCompact_Click,    &deeds.cmdFolderCFG_Click,    &deeds.cmdUpdate_Click,
+              &deeds.Info_Change,         &deeds.SaveDetails,           &deeds.DeleteDetails,
+              &deeds.cmdSaveConfig_Click, &deeds.cmdDeleteConfig_Click, &deeds.cmdOpenPreset_Click,
+              &deeds.cmdSavePreset_Click}) {
             *deed = nothing;
         }
         for (forms::Deeds::IndexDeed* deed :
@@ -143,10 +145,34 @@ protected:
         screens.details.savedInfo.state = library::InfoState::Cut;
         screens.details.lblGenreK = lang[30];
         screens.details.lblGenreE = lang[13];
+        FillConfig();
         screens.status.game = u"Title 0"_s;
         screens.status.folder = lang[106] + u" /games/GAME0"_s;
         screens.status.count = lang[3] + u"5 / 5"_s;
         screens.status.Tell(u"A note"_s, {});
+    }
+
+    void FillConfig()
+    {
+        dosboxconf::ConfigEditor& config = screens.config;
+        dosboxconf::ShowGroup(config, options, 1);
+        const QString title = config.lstConfigTitle[0];
+        dosboxconf::ShowDifferences(config, {{{1, 0}, options.GroupCaption[1], title, u"true"_s}});
+        config.txtDesc = title;
+        config.preview = {dosboxconf::ConfPreview::State::Differs, u"[sdl]"_s};
+    }
+
+    /// The page of options as it is for all games, and for a game with settings of its own.
+    void ShowTab(int tab)
+    {
+        using dosboxconf::ConfigTab;
+        screens.config.page = dosboxconf::StateOf(
+            tab == dosboxconf::kGameTab ? ConfigTab::Game : ConfigTab::Global,
+            true,
+            tab == dosboxconf::kGameTab,
+            dosboxconf::EditCheck::Arranged);
+        screens.config.changed.Tell(dosboxconf::ConfigEditor::State);
+        WindowTest::ShowTab(tab);
     }
 
     void Activate(int tab)
@@ -253,6 +279,8 @@ TEST_P(WindowWalkTest, TheTabKeyGoesFromPartToPart)
 TEST_P(WindowWalkTest, TheNoticeInEachColourOverAnyList)
 {
     screens.notice.visible = true;
+    screens.notice.lblMessage = lang[4];
+    screens.notice.batch = {true, 4, 1, u"2 / 4"_s, u"제목"_s};
     Open();
     for (const bool dark : {false, true}) {
         SetPalette(dark);
@@ -293,7 +321,8 @@ TEST_P(WindowWalkTest, TitlesOfAllOptionsHaveRoom)
     const auto* titles = Find<forms::RowList>("lstConfigTitle");
     ASSERT_EQ(groups->count(), options.GroupCaption.size());
     for (int group = 0; group < groups->count(); ++group) {
-        groups->setCurrentIndex(group);
+        dosboxconf::ShowGroup(screens.config, options, group);
+        screens.config.changed.Tell(dosboxconf::ConfigEditor::Rows);
         for (int row = 0; row < titles->model()->rowCount(); ++row) {
             const QModelIndex index = titles->model()->index(row, 0);
             EXPECT_LE(titles->sizeHintForIndex(index).width(), titles->viewport()->width())

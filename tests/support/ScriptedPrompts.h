@@ -18,7 +18,7 @@ namespace pelorin::test {
 /// test. Boxes with nothing but OK and reports are recorded and need no answer.
 class ScriptedPrompts : public platform::Prompts {
 public:
-    enum class Kind { Box, Input, Folder, Report };
+    enum class Kind { Box, Input, Folder, Open, Save, Report };
     struct Question {
         Kind kind = Kind::Box;
         QString text;
@@ -48,6 +48,14 @@ public:
     void WillChoose(const QString& folder, std::function<void()> whileOpen = nullptr)
     {
         m_replies.push_back({Kind::Folder, platform::Answer::Ok, folder, std::move(whileOpen)});
+    }
+    void WillOpen(const QString& file, std::function<void()> whileOpen = nullptr)
+    {
+        m_replies.push_back({Kind::Open, platform::Answer::Ok, file, std::move(whileOpen)});
+    }
+    void WillSave(const QString& file, std::function<void()> whileOpen = nullptr)
+    {
+        m_replies.push_back({Kind::Save, platform::Answer::Ok, file, std::move(whileOpen)});
     }
 
     /// All that was shown, in order.
@@ -87,6 +95,16 @@ public:
     {
         m_asked.push_back({Kind::Folder, QString(), title, start});
         return Next(Kind::Folder, title).text;
+    }
+    QString OpenFile(const platform::FileDialog& dialog) override
+    {
+        m_asked.push_back({Kind::Open, dialog.filters.join(u'|'), dialog.title, dialog.folder});
+        return Next(Kind::Open, dialog.title).text;
+    }
+    QString SaveFile(const platform::FileDialog& dialog) override
+    {
+        m_asked.push_back({Kind::Save, dialog.filters.join(u'|'), dialog.title, dialog.folder});
+        return Next(Kind::Save, dialog.title).text;
     }
     void ShowReport(const QString& title, const QString& text) override
     {

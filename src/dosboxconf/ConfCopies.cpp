@@ -1,0 +1,88 @@
+#include "dosboxconf/ConfCopies.h"
+
+#include "dosboxconf/ConfFiles.h"
+#include "dosboxconf/private/ConfPaths.h"
+#include "dosboxconf/private/MetaFolder.h"
+#include "platform/TextFile.h"
+
+#include <QFile>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::dosboxconf {
+
+namespace {
+
+/// Far more than 41 groups of 81 numbers need.
+constexpr qint64 kMostPresetBytes = 1024 * 1024;
+constexpr qsizetype kMostFirstLine = 64;
+
+platform::Done Replace(const QString& path, const QByteArray& bytes)
+{
+    const platform::Done kept = platform::KeepBackup(path);
+    return kept ? platform::WriteBytes(path, bytes) : kept;
+}
+
+} // namespace
+
+platform::Done KeepDefaultConf(const shell::Places& places)
+{
+    return platform::KeepBackup(DefaultConfPath(places));
+}
+
+platform::Done RemoveGameConf(const shell::Places& places, const QString& folder)
+{
+    if (!HasGameConf(places, folder)) {
+        return platform::Success();
+    }
+    const QString path = GameConfPath(places, folder);
+    if (const platform::Done kept = platform::KeepBackup(path); !kept) {
+        return kept;
+    }
+    QFile file(path);
+    return file.remove()
+               ? platform::Success()
+               : platform::Done(platform::Error{
+                     platform::ErrorKind::Unwritable, u"%1: %2"_s.arg(path, file.errorString())});
+}
+
+platform::Outcome<QByteArray> ReadPreset(const QString& path)
+{
+    platform::Outcome<QByteArray> bytes = platform::ReadPlainFile(path, kMostPresetBytes);
+    if (!bytes) {
+        return bytes;
+    }
+    const QByteArray start = bytes.Value().left(kMostFirstLine);
+    const QByteArray first = start.left(start.indexOf('\n')).trimmed();
+    const QRegularExpression number(u"^[+-]?[0-9]+$"_s);
+    const QString line = QString::fromLatin1(first);
+    if (!line.startsWith(u"ver."_s) && !number.match(line).hasMatch()) {
+        return platform::Error::Worded(
+            platform::ErrorKind::Malformed,
+            platform::Wording{458, u"<1> is no saved configuration."_s, {path}});
+    }
+    return bytes;
+}
+
+platform::Done ReplaceDefaultConf(const shell::Places& places, const QByteArray& bytes)
+{
+    return Replace(DefaultConfPath(places), bytes);
+}
+
+platform::Done ReplaceGameConf(
+    const shell::Places& places, const QString& folder, const QByteArray& bytes)
+{
+    const platform::Done made = MakeMetaDir(places, folder);
+    return made ? Replace(GameConfPath(places, folder), bytes) : made;
+}
+
+platform::Done SavePreset(const shell::Places& places, const QString& folder, const QString& path)
+{
+    const QString source =
+        HasGameConf(places, folder) ? GameConfPath(places, folder) : DefaultConfPath(places);
+    const platform::Outcome<QByteArray> bytes = platform::ReadBytes(source);
+    return bytes ? platform::WriteBytes(path, bytes.Value()) : platform::Done(bytes.Failure());
+}
+
+} // namespace pelorin::dosboxconf

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "shell/Places.h"
+
+#include <QString>
+
+namespace pelorin::dosboxconf {
+
+inline QString DefaultConfPath(const shell::Places& places)
+{
+    return places.InAppDir(QStringLiteral("Default.conf"));
+}
+
+inline QString GameConfPath(const shell::Places& places, const QString& folder)
+{
+    return places.InMetaDir(folder, QStringLiteral("edit.conf"));
+}
+
+} // namespace pelorin::dosboxconf

@@ -1,0 +1,30 @@
+#include "running/PreviewCommands.h"
+
+#include "dosboxconf/ConfCompose.h"
+#include "platform/Paths.h"
+#include "running/DosboxLaunch.h"
+#include "running/RunPlan.h"
+#include "shell/Launcher.h"
+
+namespace pelorin::running {
+
+QString PreviewGameText(const shell::Launcher& launcher)
+{
+    RunRequest request;
+    request.folder = launcher.screens.details.folder;
+    request.title = launcher.current.CurrentTitle;
+    request.startCommands = launcher.screens.start.lstAutoexec;
+    request.cd = dosboxconf::ChoiceOf(launcher.screens.cd);
+    const QString build = launcher.options.SelectedText(dosboxconf::kVersionCell);
+    if (!platform::IsPlainName(request.folder) || !CheckRequest(request, build) ||
+        BranchOf(request.mode, build, request.startCommands.size()) != RunBranch::Dos) {
+        return QString();
+    }
+    const dosboxconf::RunFacts facts =
+        dosboxconf::LoadRunFacts(launcher.places, ConfRequestOf(request, build));
+    const platform::HostText composed = dosboxconf::ComposeDosboxConf(facts, launcher.options).text;
+    const RunEnding ending{request.mode, request.startCommands, request.typedLine, false, {}};
+    return FinishRunText(composed, ending).Preview(platform::PathForm::Posix);
+}
+
+} // namespace pelorin::running
