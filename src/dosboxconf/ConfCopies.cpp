@@ -15,12 +15,12 @@ namespace pelorin::dosboxconf {
 namespace {
 
 /// Far more than 41 groups of 81 numbers need.
-constexpr qint64 kMostPresetBytes = 1024 * 1024;
+constexpr qint64 kMostPresetBytes = qint64{1024} * 1024;
 constexpr qsizetype kMostFirstLine = 64;
 
 platform::Done Replace(const QString& path, const QByteArray& bytes)
 {
-    const platform::Done kept = platform::KeepBackup(path);
+    platform::Done kept = platform::KeepBackup(path);
     return kept ? platform::WriteBytes(path, bytes) : kept;
 }
 
@@ -37,7 +37,7 @@ platform::Done RemoveGameConf(const shell::Places& places, const QString& folder
         return platform::Success();
     }
     const QString path = GameConfPath(places, folder);
-    if (const platform::Done kept = platform::KeepBackup(path); !kept) {
+    if (platform::Done kept = platform::KeepBackup(path); !kept) {
         return kept;
     }
     QFile file(path);
@@ -73,7 +73,7 @@ platform::Done ReplaceDefaultConf(const shell::Places& places, const QByteArray&
 platform::Done ReplaceGameConf(
     const shell::Places& places, const QString& folder, const QByteArray& bytes)
 {
-    const platform::Done made = MakeMetaDir(places, folder);
+    platform::Done made = MakeMetaDir(places, folder);
     return made ? Replace(GameConfPath(places, folder), bytes) : made;
 }
 

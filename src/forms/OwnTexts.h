@@ -70,10 +70,9 @@ inline constexpr OwnEntry kOwnNoSite{
 inline constexpr OwnEntry kOwnPicture{452, u"Picture shown"};
 inline constexpr OwnEntry kOwnPreview{453, u"What a start writes"};
 inline constexpr OwnEntry kOwnPreviewSaved{454, u"A start writes this:"};
-inline constexpr OwnEntry kOwnPreviewDiffers{
-    455, u"Not saved yet. Once saved, a start writes this:"};
+inline constexpr OwnEntry kOwnPreviewDiffers{455, u"Not saved. Once saved, a start writes this:"};
 inline constexpr OwnEntry kOwnPreviewUnsaved{
-    456, u"Not saved yet. A start writes this before and after:"};
+    456, u"Not saved. A start writes the same either way:"};
 inline constexpr OwnEntry kOwnPreviewNone{457, u"A start from here writes no dosbox.conf."};
 inline constexpr OwnEntry kOwnDifferentGroups{459, u"Groups of what differs"};
 inline constexpr OwnEntry kOwnDifferentOptions{460, u"Options that differ"};

@@ -18,17 +18,18 @@ using dosboxconf::ConfigEditor;
 
 namespace {
 
-enum Part { kLists, kDifferences, kMessage, kNothing };
+/// Of the stack, in its order.
+enum Part { Lists, Differences, Message, Nothing };
 
 Part PartOf(const dosboxconf::ConfigPageState& page)
 {
     if (page.lists) {
-        return kLists;
+        return Lists;
     }
     if (page.picEdit) {
-        return kDifferences;
+        return Differences;
     }
-    return page.message ? kMessage : kNothing;
+    return page.message ? Message : Nothing;
 }
 
 QHBoxLayout* RowOf(QWidget& part)
@@ -283,6 +284,8 @@ void ConfigPage::ShowState()
     for (QAbstractButton* command : m_commands) {
         command->setVisible(page.commands);
     }
+    m_txtDesc->setVisible(page.lists || page.picEdit);
+    m_preview->setVisible(!page.message);
 }
 
 void ConfigPage::ShowRows()

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QScrollBar>
+#include <QTimer>
 #include <QWheelEvent>
 
 #include <utility>
@@ -36,7 +37,7 @@ ValueCombo::ValueCombo(
 void ValueCombo::Show(const dosboxconf::OptionCombo& combo, const QString& title)
 {
     if (!combo.visible) {
-        hidePopup();
+        QComboBox::hidePopup();
         hide();
         return;
     }
@@ -54,6 +55,17 @@ void ValueCombo::Show(const dosboxconf::OptionCombo& combo, const QString& title
     showPopup();
 }
 
+void ValueCombo::hidePopup()
+{
+    QComboBox::hidePopup();
+    // A value that was chosen is told of in a moment; without one the user is done here.
+    QTimer::singleShot(0, this, [this] {
+        if (isVisible() && !view()->isVisible()) {
+            m_left();
+        }
+    });
+}
+
 void ValueCombo::keyPressEvent(QKeyEvent* event)
 {
     switch (event->key()) {
@@ -67,8 +79,10 @@ void ValueCombo::keyPressEvent(QKeyEvent* event)
 void ValueCombo::focusOutEvent(QFocusEvent* event)
 {
     QComboBox::focusOutEvent(event);
-    // Its own list of values takes the keyboard too.
-    if (event->reason() != Qt::PopupFocusReason && isVisible()) {
+    // Its own list of values takes the keyboard too, and so may another window for a while.
+    const bool comesBack = view()->isVisible() || event->reason() == Qt::PopupFocusReason ||
+                           event->reason() == Qt::ActiveWindowFocusReason;
+    if (!comesBack && isVisible()) {
         m_left();
     }
 }

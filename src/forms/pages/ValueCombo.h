@@ -22,6 +22,8 @@ public:
     /// `title`: what a screen reader calls it.
     void Show(const dosboxconf::OptionCombo& combo, const QString& title);
 
+    void hidePopup() override;
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
