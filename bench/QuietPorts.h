@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Bin.h"
+#include "platform/Desktop.h"
 #include "platform/Ports.h"
 #include "platform/Processes.h"
 #include "platform/Prompts.h"
@@ -54,7 +55,14 @@ public:
     }
     QString InputText(const QString&, const QString&, const QString&) override { return {}; }
     QString ChooseFolder(const QString&, const QString&) override { return {}; }
+    QString OpenFile(const platform::FileDialog&) override { return {}; }
+    QString SaveFile(const platform::FileDialog&) override { return {}; }
     void ShowReport(const QString&, const QString&) override {}
+};
+
+class NoDesktop : public platform::Desktop {
+public:
+    bool NumLockOn() override { return false; }
 };
 
 struct QuietPorts {
@@ -63,7 +71,8 @@ struct QuietPorts {
     NoBin bin;
     NoPrompts prompts;
     platform::QtTimers timers;
-    platform::Ports ports{processes, shell, bin, prompts, timers};
+    NoDesktop desktop;
+    platform::Ports ports{processes, shell, bin, prompts, timers, desktop};
 
     QuietPorts() = default;
     QuietPorts(const QuietPorts&) = delete; // `ports` points into this one

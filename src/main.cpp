@@ -29,8 +29,10 @@
 #include "platform/DetachedProcesses.h"
 #include "platform/ProgramHost.h"
 #include "platform/QtTimers.h"
+#include "platform/X11Desktop.h"
 #include "platform/XdgBin.h"
 #include "running/RunCommands.h"
+#include "running/RunMenuCommands.h"
 #include "shell/CommandLine.h"
 #include "shell/FolderCfgCommands.h"
 #include "shell/JobCommands.h"
@@ -79,6 +81,7 @@ void WireStartPage(forms::Deeds& deeds, shell::Launcher& launcher)
     deeds.cmdUp_Click = [&] { dosboxconf::MoveLineUp(start); };
     deeds.cmdDown_Click = [&] { dosboxconf::MoveLineDown(start); };
     deeds.lstAutoexec_DblClick = [&](int row) { dosboxconf::lstAutoexec_DblClick(launcher, row); };
+    deeds.fileEXE_DblClick = [&](int) { running::RunFileWithArgs(launcher); };
     deeds.cmdSaveExec_Click = [&] { dosboxconf::WriteAutoexecConf(launcher); };
     deeds.chkCD_Click = [&](bool checked) { dosboxconf::chkCD_Click(launcher, checked); };
     deeds.chkMountCD_Click = [&](bool checked) { dosboxconf::chkMountCD_Click(launcher, checked); };
@@ -239,7 +242,8 @@ int RunWindow(int argc, char** argv)
     platform::DesktopShellVerbs shellVerbs(processes, platform::SearchPath());
     platform::XdgBin bin(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
     platform::QtTimers timers;
-    platform::Ports ports{processes, shellVerbs, bin, prompts, timers};
+    platform::X11Desktop desktop;
+    platform::Ports ports{processes, shellVerbs, bin, prompts, timers, desktop};
 
     shell::Launcher launcher(ports);
     launcher.places.appDir = AppDir();

@@ -7,7 +7,7 @@ packages_of() {
     case $1 in
     build) # compiling the program, its data and the sample
         echo cmake ninja-build g++ pkg-config nasm python3 \
-            qt6-base-dev libgl-dev libfreeimage-dev ;;
+            qt6-base-dev libgl-dev libfreeimage-dev libx11-dev ;;
     run) # what the program starts, and what a window needs to look right (Korean, icons, file types)
         echo dosbox dosbox-debug 7zip libqt6svg6 fonts-nanum \
             xdg-utils file shared-mime-info ;;

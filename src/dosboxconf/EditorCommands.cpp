@@ -3,9 +3,7 @@
 #include "dosboxconf/ConfCopies.h"
 #include "dosboxconf/ConfDefaults.h"
 #include "dosboxconf/ConfReportCommands.h"
-#include "dosboxconf/StartPageCommands.h"
 #include "library/CatalogueCommands.h"
-#include "library/GameFiles.h"
 #include "platform/Paths.h"
 #include "platform/Prompts.h"
 #include "platform/TextFile.h"
@@ -258,14 +256,8 @@ void ShowConfigPage(Launcher& launcher, const LoadedConf& loaded)
 
 void ShowConfigPage(Launcher& launcher)
 {
-    const bool hasGame = HasGame(launcher);
-    const library::GameFiles files =
-        hasGame ? library::ListGame(launcher.places, ShownGame(launcher)) : library::GameFiles();
-    const LoadedConf loaded = LoadGameConf(launcher.places, files, launcher.options);
+    const LoadedConf loaded = LoadGameConf(launcher.places, ShownGame(launcher), launcher.options);
     TellReport(launcher, loaded.report);
-    if (hasGame && ShowsConfigPage(launcher)) {
-        FillCdList(launcher, files);
-    }
     ShowConfigPage(launcher, loaded);
 }
 

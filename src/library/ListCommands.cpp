@@ -82,6 +82,9 @@ void OpenExportRoot(Launcher& launcher)
 
 constexpr MenuCommand kGameCommands[] = {
     {0, running::RunGame},
+    {1, running::RunDosPrompt},
+    {3, running::RunNetHost},
+    {4, running::RunNetClient},
     {6, OpenGameDir},
     {7, OpenGameDir},
     {8, OpenMetaDir},

@@ -165,9 +165,17 @@ void ShowNoGame(Launcher& launcher)
 
 void tabInfo_Click(Launcher& launcher)
 {
-    if (dosboxconf::ShowsConfigPage(launcher)) {
-        dosboxconf::ShowConfigPage(launcher);
+    if (!dosboxconf::ShowsConfigPage(launcher)) {
+        return;
     }
+    const QString folder = launcher.screens.details.folder;
+    if (!platform::IsPlainName(folder)) {
+        dosboxconf::ShowConfigPage(launcher);
+        return;
+    }
+    const GameFiles files = ListGame(launcher.places, folder);
+    dosboxconf::FillCdList(launcher, files);
+    LoadConf(launcher, files);
 }
 
 void LVGamelist_ItemClick(Launcher& launcher)

@@ -3,6 +3,7 @@
 namespace pelorin::platform {
 
 class Bin;
+class Desktop;
 class Processes;
 class Prompts;
 class ShellVerbs;
@@ -16,6 +17,7 @@ struct Ports {
     Bin& bin;
     Prompts& prompts;
     Timers& timers;
+    Desktop& desktop;
 };
 
 } // namespace pelorin::platform

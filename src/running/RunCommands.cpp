@@ -2,36 +2,35 @@
 
 #include "archives/FileOperations.h"
 #include "dosboxconf/ConfFiles.h"
-#include "dosboxconf/ConfReportCommands.h"
-#include "library/CatalogueCommands.h"
 #include "library/FolderCommands.h"
 #include "library/GameFiles.h"
 #include "library/ShowinfoCommands.h"
 #include "platform/Paths.h"
-#include "platform/ProgramHost.h"
 #include "platform/Prompts.h"
-#include "platform/TextFile.h"
-#include "running/DosboxLaunch.h"
-#include "running/LaunchStory.h"
+#include "running/GlideIni.h"
+#include "running/LaunchCommands.h"
+#include "running/NetAddress.h"
 #include "running/RunPlan.h"
 #include "shell/JobCommands.h"
 #include "shell/Launcher.h"
-#include "shell/RecentFile.h"
 
-#include <QFileInfo>
+#include <QRandomGenerator>
 
 using namespace Qt::StringLiterals;
 
 namespace pelorin::running {
 
-using platform::Outcome;
 using shell::Launcher;
 
 namespace {
 
 constexpr auto kCategory = "pelorin.running";
 constexpr int kStartPage = 2;
-constexpr int kFirstRecent = 10; // of mnuRun's indexes
+
+bool IsNetwork(RunMode mode)
+{
+    return mode == RunMode::NetHost || mode == RunMode::NetClient;
+}
 
 RunRequest RequestOf(const Launcher& launcher, RunMode mode)
 {
@@ -44,155 +43,48 @@ RunRequest RequestOf(const Launcher& launcher, RunMode mode)
     return request;
 }
 
-/// A start ready to go: what to run, and the text that lies in its folder as dosbox.conf.
-struct Launch {
-    Outcome<platform::ProcessRequest> request; // or why there is no program
-    QString confPath;
-    QByteArray confBytes;
-    QString confShown;
-    QList<platform::Wording> notes;
-};
-
-/// Without a program: of the Windows program that is there and can't be run, else our own.
-platform::PathForm FormOf(const Outcome<platform::HostProgram>& found, const QString& asked)
+QString Paragraphs(const Launcher& launcher, std::initializer_list<int> entries)
 {
-    if (found) {
-        return found.Value().pathForm;
+    QStringList paragraphs;
+    for (const int entry : entries) {
+        paragraphs << launcher.lang[entry];
     }
-    return QFileInfo::exists(asked) ? platform::PathForm::Windows : platform::PathForm::Posix;
+    return paragraphs.join(u"\r\n\r\n"_s);
 }
 
-/// Composes and checks without writing anything. A missing program is no error yet.
-Outcome<Launch> PrepareLaunch(Launcher& launcher, const RunRequest& request, const QString& build)
+void Warn(Launcher& launcher, const QString& text, int title)
 {
-    const dosboxconf::RunFacts facts =
-        dosboxconf::LoadRunFacts(launcher.places, ConfRequestOf(request, build));
-    const Outcome<dosboxconf::ConfText> composed = BuildDosboxConf(launcher, request, facts);
-    if (!composed) {
-        return composed.Failure();
-    }
-    const CommandLine command = DosboxCommandLine(launcher.options);
-    const QString workingFolder =
-        launcher.places.InAppDir(u"DOSBox/"_s + ConfigFolder(request.mode, build));
-    const QString asked = platform::ResolvePath(workingFolder, command.program);
-    const platform::ProgramHost host(launcher.places.appDir, launcher.searchPath);
-    const Outcome<platform::HostProgram> found = host.Find(asked);
-    const platform::PathForm form = FormOf(found, asked);
-
-    if (const platform::Done possible = CheckCommands(request, form); !possible) {
-        return possible.Failure();
-    }
-    const RunEnding ending{request.mode, request.startCommands, request.typedLine, false, {}};
-    const platform::HostText text = FinishRunText(composed.Value().text, ending);
-    if (const platform::Done fits = CheckLaunch(facts, text, form); !fits) {
-        return fits.Failure();
-    }
-    Launch launch{
-        platform::ProcessRequest(),
-        platform::ResolvePath(workingFolder, u"dosbox.conf"_s),
-        text.Print(form),
-        text.Preview(form),
-        LaunchNotes(request, text, form)};
-    if (found) {
-        launch.request =
-            found.Value().Request(command.arguments, workingFolder, ShowStateOf(request.mode));
-    } else {
-        launch.request = found.Failure();
-    }
-    return launch;
-}
-
-/// A program that was started and is gone too soon.
-void TellEnd(
-    Launcher& launcher, const QString& title, const Launch& launch, const platform::ProcessEnd& end)
-{
-    if (end.runMs >= kTooShortMs) {
-        return;
-    }
-    const QString headline = launcher.lang.OwnText(
-        340,
-        u"<1>: DOSBox ended after <2> s."_s,
-        {title, QString::number(static_cast<double>(end.runMs) / 1000.0, 'f', 1)});
-    const QString output = QString::fromLocal8Bit(end.output);
-    shell::TellNote(
-        launcher,
-        kCategory,
-        headline,
-        LaunchStory(launcher.lang, launch.request.Value(), launch.confShown, output));
-}
-
-/// It is not waited for. What holds it back is told.
-void StartEmulator(Launcher& launcher, const RunRequest& run, const Launch& launch)
-{
-    if (!launch.request) {
-        shell::TellNote(launcher, kCategory, launch.request.Failure());
-        return;
-    }
-    const platform::ProcessRequest& request = launch.request.Value();
-    const platform::Done started = launcher.ports.processes.StartDetached(
-        request, [&launcher, run, launch](const platform::ProcessEnd& end) {
-            launcher.runningGames.removeOne(run.folder);
-            TellEnd(launcher, run.title, launch, end);
-        });
-    if (started) {
-        launcher.runningGames << run.folder;
-    } else {
-        shell::TellNote(
-            launcher,
-            kCategory,
-            started.Failure(),
-            LaunchStory(launcher.lang, request, launch.confShown, QString()));
-    }
-}
-
-void LaunchDosbox(Launcher& launcher, const RunRequest& request, const QString& build)
-{
-    const Outcome<Launch> prepared = PrepareLaunch(launcher, request, build);
-    if (!prepared) {
-        shell::TellNote(launcher, kCategory, prepared.Failure());
-        return;
-    }
-    const Launch& launch = prepared.Value();
-    for (const platform::Wording& note : launch.notes) {
-        shell::TellNote(launcher, kCategory, launcher.lang.Told(note));
-    }
-    if (const platform::Done written = platform::WriteBytes(launch.confPath, launch.confBytes);
-        !written) {
-        // No folder, no program: the latter names what the user can do something about.
-        shell::TellNote(
-            launcher, kCategory, launch.request ? written.Failure() : launch.request.Failure());
-        return;
-    }
-    // Whether the emulator came up does not matter to the recent list: the user asked for the game.
-    StartEmulator(launcher, request, launch);
-    if (EntersRecentList(request.mode)) {
-        shell::AddRecent(launcher.recent, request.folder, request.title);
-    }
+    launcher.ports.prompts.Ask(platform::MessageBox{
+        text, launcher.lang[title], platform::Buttons::Ok, platform::BoxIcon::Exclamation});
 }
 
 /// A game without start commands: shows the start page and offers the bare DOS prompt.
-void OfferDosPrompt(Launcher& launcher)
+void OfferDosPrompt(Launcher& launcher, RunMode mode)
 {
+    const QString folder = launcher.current.CurrentFolder;
     launcher.screens.frame.tabInfo = kStartPage;
     launcher.screens.frame.changed.Tell(shell::MainFrame::Tab);
-    const QStringList paragraphs{launcher.lang[177], launcher.lang[178], launcher.lang[179]};
+    const bool network = IsNetwork(mode);
     const platform::Answer answer = launcher.ports.prompts.Ask(platform::MessageBox{
-        paragraphs.join(u"\r\n\r\n"_s),
-        launcher.lang[149],
+        network ? Paragraphs(launcher, {168, 169, 170}) : Paragraphs(launcher, {177, 178, 179}),
+        launcher.lang[network ? 171 : 149],
         platform::Buttons::YesNo,
         platform::BoxIcon::Question});
-    if (answer == platform::Answer::Yes) {
-        shell::TellNote(
-            launcher,
-            kCategory,
-            launcher.lang.OwnText(341, u"The DOS prompt can't be started yet."_s));
+    // Windows events ran: the prompt was offered for the game that was current.
+    if (answer == platform::Answer::Yes && launcher.current.CurrentFolder == folder) {
+        RunDosPrompt(launcher);
     }
 }
 
-bool IsPacked(Launcher& launcher, const QString& folder)
+bool IsPacked(Launcher& launcher, const QString& folder, RunMode mode)
 {
     if (!library::IsGameStored(library::ListGame(launcher.places, folder))) {
         return false;
+    }
+    if (mode == RunMode::FileWithArgs) {
+        launcher.ports.prompts.Ask(
+            platform::MessageBox{launcher.lang[258], launcher.lang[259], platform::Buttons::Ok});
+        return true;
     }
     shell::TellNote(
         launcher,
@@ -201,44 +93,97 @@ bool IsPacked(Launcher& launcher, const QString& folder)
     return true;
 }
 
-} // namespace
-
-Outcome<dosboxconf::ConfText> BuildDosboxConf(
-    Launcher& launcher, const RunRequest& request, const dosboxconf::RunFacts& facts)
+/// Asks a network game's address into the request. False: there is to be no start.
+bool AskForAddress(Launcher& launcher, RunRequest& request)
 {
-    if (const platform::Done possible = CheckRequest(request, facts.request.build); !possible) {
-        return possible.Failure();
+    const QString typed = launcher.ports.prompts.InputText(
+        launcher.lang[270], launcher.lang[271], ReadNetAddress(launcher.places));
+    if (typed.isEmpty()) {
+        return false;
     }
-    const bool hasOwn = dosboxconf::HasGameConf(launcher.places, request.folder);
-    if (UsesGlobalConf(request.mode, hasOwn)) {
-        dosboxconf::TellReport(
-            launcher, dosboxconf::ReadDefaultConf(launcher.places, launcher.options));
-    } else {
-        dosboxconf::TellReport(
-            launcher,
-            dosboxconf::LoadGameConf(launcher.places, request.folder, launcher.options).report);
+    const platform::Outcome<QString> address = NetAddressOf(typed);
+    if (!address) {
+        Warn(launcher, launcher.lang.Told(address.Failure().Told()), 271);
+        return false;
     }
-    return dosboxconf::ComposeDosboxConf(facts, launcher.options);
+    request.ipxAddress = address.Value();
+    shell::TellIfFailed(launcher, kCategory, WriteNetAddress(launcher.places, request.ipxAddress));
+    return true;
 }
 
-void RunGame(Launcher& launcher)
+/// Asks for the file's arguments. False: there is to be no start.
+bool AskForArguments(Launcher& launcher, RunRequest& request)
+{
+    const dosboxconf::StartCommands& start = launcher.screens.start;
+    const QString file = start.fileEXE.value(start.fileRow);
+    request.typedLine =
+        launcher.ports.prompts.InputText(launcher.lang[224], launcher.lang[225], file + u' ');
+    if (request.typedLine.isEmpty()) {
+        Warn(launcher, launcher.lang[114], 223);
+        return false;
+    }
+    return true;
+}
+
+/// Guests run no single files. The settings are processed all the same, and that is said.
+void RefuseGuest(Launcher& launcher, const RunRequest& request, const QString& build)
+{
+    const platform::Outcome<dosboxconf::ConfText> composed = BuildDosboxConf(
+        launcher,
+        request,
+        dosboxconf::LoadRunFacts(launcher.places, ConfRequestOf(request, build)));
+    if (!composed) {
+        shell::TellNote(launcher, kCategory, composed.Failure());
+        return;
+    }
+    if (composed.Value().glideOn) {
+        shell::TellIfFailed(launcher, kCategory, WriteGlideIni(launcher.places, launcher.options));
+    }
+    Warn(launcher, Paragraphs(launcher, {221, 222}), 223);
+}
+
+/// What a mode has to know yet before the start. False: there is to be none.
+bool Complete(Launcher& launcher, RunRequest& request)
+{
+    switch (request.mode) {
+    case RunMode::NetHost: request.serverPort = FreeServerPort(); return true;
+    case RunMode::NetClient: return AskForAddress(launcher, request);
+    case RunMode::FileWithArgs: return AskForArguments(launcher, request);
+    default: return true;
+    }
+}
+
+void Start(Launcher& launcher, RunRequest request, const QString& build)
+{
+    // A question lets windows events run: another game may be current then, and this one gone.
+    if (Complete(launcher, request) && !launcher.flags.JobHeld &&
+        library::HasGameFolder(launcher, request.folder)) {
+        LaunchDosbox(launcher, request, build);
+    }
+}
+
+void Run(Launcher& launcher, RunMode mode)
 {
     const QString folder = launcher.current.CurrentFolder;
     if (launcher.flags.JobHeld || !platform::IsPlainName(folder)) {
         return;
     }
-    if (!library::HasGameFolder(launcher, folder) || IsPacked(launcher, folder)) {
+    if (!library::HasGameFolder(launcher, folder) || IsPacked(launcher, folder, mode) ||
+        (IsNetwork(mode) && launcher.screens.list.items.empty())) {
         return;
     }
     // A moving selection is a step ahead of what the controls hold.
     if (launcher.screens.details.folder != folder) {
         library::ShowinfoProcess(launcher);
     }
-    const RunRequest request = RequestOf(launcher, RunMode::Game);
+    const RunRequest request = RequestOf(launcher, mode);
     const QString build = dosboxconf::ReadGameBuild(launcher.places, folder, launcher.options);
-    switch (BranchOf(request.mode, build, request.startCommands.size())) {
-    case RunBranch::Dos: LaunchDosbox(launcher, request, build); break;
-    case RunBranch::AskForPrompt: OfferDosPrompt(launcher); break;
+    switch (BranchOf(mode, build, request.startCommands.size())) {
+    case RunBranch::Nothing: break;
+    case RunBranch::Dos:
+    case RunBranch::GuestWindows: Start(launcher, request, build); break;
+    case RunBranch::AskForPrompt: OfferDosPrompt(launcher, mode); break;
+    case RunBranch::RefuseGuest: RefuseGuest(launcher, request, build); break;
     case RunBranch::NoSuchBuild:
         shell::TellNote(
             launcher,
@@ -255,55 +200,69 @@ void RunGame(Launcher& launcher)
     }
 }
 
-shell::MenuModel RunMenu(const Launcher& launcher)
+} // namespace
+
+void RunGame(Launcher& launcher)
 {
-    const QStringList title{shell::MenuTitle(launcher.current.CurrentTitle)};
-    const bool windowsGame =
-        launcher.options.SelectedText(dosboxconf::kDirectXCell) == u"Windows"_s;
-    const bool hasGame = !launcher.current.CurrentFolder.isEmpty();
-    // What can't be started yet is shown, so that the menu keeps its places.
-    shell::MenuModel menu{
-        {0, launcher.lang.OwnText(346, u"Run a random game"_s), false},
-        {1, QString(), false, true},
-        {2, launcher.lang.Text(140, title), hasGame},
-        {3, launcher.lang.Text(windowsGame ? 255 : 141, title), false},
-        {4, QString(), false, true},
-        {5, launcher.lang.Text(142, title), false},
-        {6, launcher.lang.Text(143, title), false},
-        {7, QString(), false, true},
-        {8, launcher.lang.OwnText(347, u"DOS prompt over all games"_s), false},
-        {9, QString(), false, true},
-    };
-    for (int i = 0; i < shell::kRecentGames; ++i) {
-        const auto slot = static_cast<std::size_t>(i);
-        if (launcher.recent.RecentFolders[slot].isEmpty()) {
-            break;
-        }
-        menu.push_back({kFirstRecent + i, shell::MenuTitle(launcher.recent.RecentTitles[slot])});
-    }
-    return menu;
+    Run(launcher, RunMode::Game);
 }
 
-void mnuRun_Click(Launcher& launcher, int index)
+void RunDosPrompt(Launcher& launcher)
 {
-    constexpr int kRunGame = 2;
-    if (index == kRunGame) {
-        RunGame(launcher);
+    Run(launcher, RunMode::DosPrompt);
+}
+
+void RunNetHost(Launcher& launcher)
+{
+    Run(launcher, RunMode::NetHost);
+}
+
+void RunNetClient(Launcher& launcher)
+{
+    Run(launcher, RunMode::NetClient);
+}
+
+void RunFileWithArgs(Launcher& launcher)
+{
+    const dosboxconf::StartCommands& start = launcher.screens.start;
+    if (start.fileRow >= 0 && start.fileRow < start.fileEXE.size()) {
+        Run(launcher, RunMode::FileWithArgs);
+    }
+}
+
+void RunLibraryShell(Launcher& launcher)
+{
+    const QString emulators = launcher.places.InAppDir(u"DOSBox"_s);
+    if (launcher.flags.JobHeld) {
         return;
     }
-    const bool isRecent = index >= kFirstRecent && index < kFirstRecent + shell::kRecentGames;
-    if (!isRecent || launcher.flags.JobHeld) {
+    if (!archives::FolderExists(emulators)) {
+        shell::TellNote(
+            launcher, kCategory, launcher.lang.OwnText(427, u"<1> is not there."_s, {emulators}));
         return;
     }
-    const auto slot = static_cast<std::size_t>(index - kFirstRecent);
-    const QString folder = launcher.recent.RecentFolders[slot];
-    const QString title = launcher.recent.RecentTitles[slot];
-    if (!platform::IsPlainName(folder) ||
-        !archives::FolderExists(launcher.places.GameDir(folder))) {
+    const QString build = dosboxconf::ReadGameBuild(
+        launcher.places, launcher.current.CurrentFolder, launcher.options);
+    LaunchDosbox(launcher, RequestOf(launcher, RunMode::LibraryShell), build);
+}
+
+void RunRandomGame(Launcher& launcher)
+{
+    if (launcher.flags.JobHeld || launcher.catalogue.empty()) {
         return;
     }
-    launcher.current.CurrentFolder = folder;
-    launcher.current.CurrentTitle = title;
+    const auto games = static_cast<int>(launcher.catalogue.size());
+    const library::GameEntry& entry =
+        launcher.catalogue[static_cast<std::size_t>(QRandomGenerator::global()->bounded(games))];
+    launcher.current.CurrentFolder = entry.Folder;
+    launcher.current.CurrentTitle =
+        launcher.settings.TitleLanguageKorean ? entry.TitleK : entry.TitleE;
+    // Where the list shows it, it is selected there.
+    finding::GameList& list = launcher.screens.list;
+    if (const int row = list.RowOf(entry.Folder); row >= 0) {
+        list.Select(row);
+        library::LVGamelist_ItemClick(launcher);
+    }
     library::ShowinfoProcess(launcher);
     RunGame(launcher);
 }

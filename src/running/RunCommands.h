@@ -1,34 +1,30 @@
 #pragma once
 
-#include "dosboxconf/ConfCompose.h"
-#include "platform/Outcome.h"
-#include "running/RunRequest.h"
-#include "shell/MenuModel.h"
-
-#include <QString>
-
 namespace pelorin::shell {
 struct Launcher;
 }
 
+// The run modes. Each starts something of the current game (LibraryShell: of all games) under the
+// build that its settings name. The right panel shows that game then: its unsaved start commands
+// and CD count. What can't be started is told, and nothing is written then. Nothing while a job
+// stands.
+
 namespace pelorin::running {
 
-/// Starts the current game with its start commands, under the build that its settings name. The
-/// right panel shows that game then: its unsaved start commands and CD count. What can't be started
-/// is told in the status bar's fourth panel, and nothing is written then; of an emulator that is
-/// missing or does not come up, dosbox.conf is written and the game enters the recent list.
+/// With its start commands; without any the DOS prompt is offered.
 void RunGame(shell::Launcher& launcher);
+/// Without them: a file manager in DOS, or the bare guest.
+void RunDosPrompt(shell::Launcher& launcher);
+/// As RunGame, as the host of a network game.
+void RunNetHost(shell::Launcher& launcher);
+/// As RunGame, joining a host whose address is asked for and kept.
+void RunNetClient(shell::Launcher& launcher);
+/// The file manager over the whole games root, with the settings of all games.
+void RunLibraryShell(shell::Launcher& launcher);
+/// The file selected in fileEXE, with what is typed behind its name.
+void RunFileWithArgs(shell::Launcher& launcher);
 
-/// The text of a start: loads the configuration of the run into the grid, which keeps it, and
-/// composes. `facts` are those of the request. Error Refused when it can't become a text.
-platform::Outcome<dosboxconf::ConfText> BuildDosboxConf(
-    shell::Launcher& launcher, const RunRequest& request, const dosboxconf::RunFacts& facts);
-
-/// mnuRun, the popup of cmdRun(1).
-shell::MenuModel RunMenu(const shell::Launcher& launcher);
-
-/// An entry of mnuRun was chosen. The recent games are 10 to 24; one whose folder is gone does
-/// nothing. Nothing while a job stands.
-void mnuRun_Click(shell::Launcher& launcher, int index);
+/// Picks one of all games, makes it the current one and starts it.
+void RunRandomGame(shell::Launcher& launcher);
 
 } // namespace pelorin::running

@@ -1,5 +1,6 @@
 #include "library/ShowinfoCommands.h"
 #include "running/RunCommands.h"
+#include "running/RunMenuCommands.h"
 #include "shell/JobCommands.h"
 #include "support/Installation.h"
 

@@ -2,6 +2,7 @@
 
 #include "platform/Ports.h"
 #include "support/FakeBin.h"
+#include "support/FakeDesktop.h"
 #include "support/FakeProcesses.h"
 #include "support/FakeShellVerbs.h"
 #include "support/ManualTimers.h"
@@ -16,7 +17,8 @@ struct FakePorts {
     FakeBin bin;
     ScriptedPrompts prompts;
     ManualTimers timers;
-    platform::Ports ports{processes, shell, bin, prompts, timers};
+    FakeDesktop desktop;
+    platform::Ports ports{processes, shell, bin, prompts, timers, desktop};
 
     FakePorts() = default;
     FakePorts(const FakePorts&) = delete; // `ports` points into this one

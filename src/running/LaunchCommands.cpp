@@ -1,0 +1,206 @@
+#include "running/LaunchCommands.h"
+
+#include "dosboxconf/ConfFiles.h"
+#include "dosboxconf/ConfReportCommands.h"
+#include "dosboxconf/EditorCommands.h"
+#include "platform/Desktop.h"
+#include "platform/Paths.h"
+#include "platform/ProgramHost.h"
+#include "platform/TextFile.h"
+#include "running/DosboxLaunch.h"
+#include "running/GlideIni.h"
+#include "running/GuestWindows.h"
+#include "running/LaunchStory.h"
+#include "running/RunPlan.h"
+#include "shell/JobCommands.h"
+#include "shell/Launcher.h"
+#include "shell/RecentFile.h"
+
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace pelorin::running {
+
+using platform::Outcome;
+using shell::Launcher;
+
+namespace {
+
+constexpr auto kCategory = "pelorin.running";
+
+/// A start ready to go: what to run, and the text that lies in its folder as dosbox.conf.
+struct Launch {
+    bool glideOn = false;                      // glide.ini is to be rewritten
+    Outcome<platform::ProcessRequest> request; // or why there is no program
+    QString confPath;
+    QByteArray confBytes;
+    QString confShown;
+    QList<platform::Wording> notes;
+};
+
+/// Without a program: of the Windows program that is there and can't be run, else our own.
+platform::PathForm FormOf(const Outcome<platform::HostProgram>& found, const QString& asked)
+{
+    if (found) {
+        return found.Value().pathForm;
+    }
+    return QFileInfo::exists(asked) ? platform::PathForm::Windows : platform::PathForm::Posix;
+}
+
+RunEnding EndingOf(const Launcher& launcher, const RunRequest& request, const QString& build)
+{
+    RunEnding ending{request.mode, request.startCommands, request.typedLine, false, {}};
+    ending.addkey = WantsAddkey(
+        request.mode,
+        launcher.options,
+        launcher.places.gamesRoot,
+        launcher.ports.desktop.NumLockOn());
+    if (BranchOf(request.mode, build, request.startCommands.size()) == RunBranch::GuestWindows) {
+        ending.guestLines =
+            GuestWindowsLines(request.mode, build, request.startCommands, launcher.places);
+    }
+    return ending;
+}
+
+/// Composes and checks without writing anything. A missing program is no error yet.
+Outcome<Launch> PrepareLaunch(Launcher& launcher, const RunRequest& request, const QString& build)
+{
+    const dosboxconf::RunFacts facts =
+        dosboxconf::LoadRunFacts(launcher.places, ConfRequestOf(request, build));
+    const Outcome<dosboxconf::ConfText> composed = BuildDosboxConf(launcher, request, facts);
+    if (!composed) {
+        return composed.Failure();
+    }
+    const CommandLine command = DosboxCommandLine(launcher.options);
+    const QString workingFolder =
+        launcher.places.InAppDir(u"DOSBox/"_s + ConfigFolder(request.mode, build));
+    const QString asked = platform::ResolvePath(workingFolder, command.program);
+    const platform::ProgramHost host(launcher.places.appDir, launcher.searchPath);
+    const Outcome<platform::HostProgram> found = host.Find(asked);
+    const platform::PathForm form = FormOf(found, asked);
+
+    if (const platform::Done possible = CheckCommands(request, form); !possible) {
+        return possible.Failure();
+    }
+    const platform::HostText text =
+        FinishRunText(composed.Value().text, EndingOf(launcher, request, build));
+    if (const platform::Done fits = CheckLaunch(facts, text, form); !fits) {
+        return fits.Failure();
+    }
+    Launch launch{
+        composed.Value().glideOn,
+        platform::ProcessRequest(),
+        platform::ResolvePath(workingFolder, u"dosbox.conf"_s),
+        text.Print(form),
+        text.Preview(form),
+        LaunchNotes(request, text, form)};
+    if (found) {
+        launch.request =
+            found.Value().Request(command.arguments, workingFolder, ShowStateOf(request.mode));
+    } else {
+        launch.request = found.Failure();
+    }
+    return launch;
+}
+
+/// A program that was started and is gone too soon.
+void TellEnd(
+    Launcher& launcher, const QString& title, const Launch& launch, const platform::ProcessEnd& end)
+{
+    if (end.runMs >= kTooShortMs) {
+        return;
+    }
+    const QString headline = launcher.lang.OwnText(
+        340,
+        u"<1>: DOSBox ended after <2> s."_s,
+        {title, QString::number(static_cast<double>(end.runMs) / 1000.0, 'f', 1)});
+    const QString output = QString::fromLocal8Bit(end.output);
+    shell::TellNote(
+        launcher,
+        kCategory,
+        headline,
+        LaunchStory(launcher.lang, launch.request.Value(), launch.confShown, output));
+}
+
+/// It is not waited for. What holds it back is told.
+void StartEmulator(Launcher& launcher, const RunRequest& run, const Launch& launch)
+{
+    if (!launch.request) {
+        shell::TellNote(launcher, kCategory, launch.request.Failure());
+        return;
+    }
+    const platform::ProcessRequest& request = launch.request.Value();
+    const platform::Done started = launcher.ports.processes.StartDetached(
+        request, [&launcher, run, launch](const platform::ProcessEnd& end) {
+            launcher.runningGames.removeOne(run.folder);
+            TellEnd(launcher, run.title, launch, end);
+        });
+    if (started) {
+        launcher.runningGames << run.folder;
+    } else {
+        shell::TellNote(
+            launcher,
+            kCategory,
+            started.Failure(),
+            LaunchStory(launcher.lang, request, launch.confShown, QString()));
+    }
+}
+
+void WriteAndStart(Launcher& launcher, const RunRequest& request, const QString& build)
+{
+    const Outcome<Launch> prepared = PrepareLaunch(launcher, request, build);
+    if (!prepared) {
+        shell::TellNote(launcher, kCategory, prepared.Failure());
+        return;
+    }
+    const Launch& launch = prepared.Value();
+    for (const platform::Wording& note : launch.notes) {
+        shell::TellNote(launcher, kCategory, launcher.lang.Told(note));
+    }
+    if (launch.glideOn) {
+        shell::TellIfFailed(launcher, kCategory, WriteGlideIni(launcher.places, launcher.options));
+    }
+    if (const platform::Done written = platform::WriteBytes(launch.confPath, launch.confBytes);
+        !written) {
+        // No folder, no program: the latter names what the user can do something about.
+        shell::TellNote(
+            launcher, kCategory, launch.request ? written.Failure() : launch.request.Failure());
+        return;
+    }
+    // Whether the emulator came up does not matter to the recent list: the user asked for the game.
+    StartEmulator(launcher, request, launch);
+    if (EntersRecentList(request.mode)) {
+        shell::AddRecent(launcher.recent, request.folder, request.title);
+    }
+}
+
+} // namespace
+
+Outcome<dosboxconf::ConfText> BuildDosboxConf(
+    Launcher& launcher, const RunRequest& request, const dosboxconf::RunFacts& facts)
+{
+    if (const platform::Done possible = CheckRequest(request, facts.request.build); !possible) {
+        return possible.Failure();
+    }
+    const bool hasOwn = dosboxconf::HasGameConf(launcher.places, request.folder);
+    if (UsesGlobalConf(request.mode, hasOwn)) {
+        dosboxconf::TellReport(
+            launcher, dosboxconf::ReadDefaultConf(launcher.places, launcher.options));
+    } else {
+        dosboxconf::TellReport(
+            launcher,
+            dosboxconf::LoadGameConf(launcher.places, request.folder, launcher.options).report);
+    }
+    return dosboxconf::ComposeDosboxConf(facts, launcher.options);
+}
+
+void LaunchDosbox(Launcher& launcher, const RunRequest& request, const QString& build)
+{
+    WriteAndStart(launcher, request, build);
+    if (dosboxconf::ShowsConfigPage(launcher)) {
+        dosboxconf::ShowConfigPage(launcher);
+    }
+}
+
+} // namespace pelorin::running

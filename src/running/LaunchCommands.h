@@ -1,0 +1,28 @@
+#pragma once
+
+#include "dosboxconf/ConfCompose.h"
+#include "platform/Outcome.h"
+#include "running/RunRequest.h"
+
+#include <QString>
+
+namespace pelorin::shell {
+struct Launcher;
+}
+
+// From a request to the running emulator: the same for all run modes.
+
+namespace pelorin::running {
+
+/// The text of a start: loads the configuration of the run into the grid, which keeps it, and
+/// composes. `facts` are those of the request. Error Refused when it can't become a text.
+platform::Outcome<dosboxconf::ConfText> BuildDosboxConf(
+    shell::Launcher& launcher, const RunRequest& request, const dosboxconf::RunFacts& facts);
+
+/// Composes, writes dosbox.conf (and glide.ini) into the folder of the build and starts the emulator
+/// there. What holds it back is told in the status bar's fourth panel, and nothing is written then;
+/// of an emulator that is missing or does not come up, dosbox.conf is written and the game enters
+/// the recent list. Afterwards the page of options shows what it edits again.
+void LaunchDosbox(shell::Launcher& launcher, const RunRequest& request, const QString& build);
+
+} // namespace pelorin::running
