@@ -272,8 +272,103 @@ def write_network(row, text):
         text.add(CRLF + "ipxnet connect " + row["address"] + CRLF)
 
 
+# Guests: in the place of {guest} and {disk} stand paths of the host.
+KOREAN = """
+Mount W {guest}
+
+CALL VESPRA.BAT
+PATH %PATH%;W:\\WINDOWS;W:\\WINDOWS\\SYSTEM32
+SET TEMP=W:\\WINDOWS\\TEMP
+copy W:\\WINDOWS\\aaa W:\\WINDOWS\\시작프로.GRP
+copy W:\\WINDOWS\\bbb W:\\WINDOWS\\IMEINFO.INI
+copy c:\\DosBox\\시작프로.GRP W:\\WINDOWS\\
+copy c:\\DosBox\\SYSTEM.INI W:\\WINDOWS\\
+copy c:\\DosBox\\WIN.INI W:\\WINDOWS\\
+copy c:\\DosBox\\IMEINFO.INI W:\\WINDOWS\\
+SHARE.EXE
+ADDKEY p500 enter
+W:\\WINDOWS\\WIN
+COPY W:\\WINDOWS\\시작프로.GRP C:\\DosBox\\
+COPY W:\\WINDOWS\\SYSTEM.INI C:\\DosBox\\
+COPY W:\\WINDOWS\\WIN.INI C:\\DosBox\\
+COPY W:\\WINDOWS\\IMEINFO.INI C:\\DosBox\\
+exit
+
+"""
+ENGLISH = """
+Mount W {guest}
+
+CALL VESPRA.BAT
+PATH %PATH%;W:\\WINDOWS;W:\\WINDOWS\\SYSTEM32
+SET TEMP=W:\\WINDOWS\\TEMP
+copy W:\\WINDOWS\\aaa W:\\WINDOWS\\STARTUP.GRP
+copy c:\\DosBox\\STARTUP.GRP W:\\WINDOWS\\
+copy c:\\DosBox\\SYSTEM.INI W:\\WINDOWS\\
+copy c:\\DosBox\\WIN.INI W:\\WINDOWS\\
+SHARE.EXE
+W:\\WINDOWS\\WIN
+COPY W:\\WINDOWS\\STARTUP.GRP C:\\DosBox\\
+COPY W:\\WINDOWS\\SYSTEM.INI C:\\DosBox\\
+COPY W:\\WINDOWS\\WIN.INI C:\\DosBox\\
+exit
+
+"""
+WIN98 = """
+imgmount 2 {guest} -t hdd -fs none -size 512,63,64,520 -ide 1m
+imgmount 3 "{disk}" -t hdd -fs none -size {size} -ide 1s
+boot -l c
+"""
+WIN98_PROMPT = """
+imgmount 0 {floppy} -t floppy -fs none
+
+imgmount 2 {guest} -t hdd -fs none -size 512,63,64,520 -ide 1m
+[imgmount 3 "{disk}" -t hdd -fs none -size {size} -ide 1s
+]boot -l a
+
+"""
+
+
+def guest_lines(row):
+    """The template of a guest's start; the prompt brings nothing of the game and takes nothing back."""
+    template = {"Win31KOR": KOREAN, "Win31ENG": ENGLISH, "Win98": WIN98}[row["build"]]
+    if row["mode"] != "RunDosPrompt":
+        return template
+    if row["build"] == "Win98":
+        with_disk = WIN98_PROMPT.replace("[", "").replace("]", "")
+        without = WIN98_PROMPT[:WIN98_PROMPT.index("[")] + WIN98_PROMPT[WIN98_PROMPT.index("]") + 1:]
+        return with_disk if row["commands"] else without
+    lines = template.split("\n")
+    del lines[2:4]
+    return "\n".join(line for line in lines
+                     if not line.startswith("COPY ") and not line.startswith("copy c:")
+                     or line.startswith("copy c:") and not line.split()[1].endswith(".GRP"))
+
+
+def finish_guest(row, text):
+    commands = row["commands"]
+    disk, size = (commands + ["", ""])[:2]
+    folder = Place("..\\..\\DOSBOX", "../../DOSBOX") / row["build"]
+    places = {
+        "{guest}": folder / "Win98.img" if row["build"] == "Win98" else folder,
+        "{floppy}": folder / "dos6.ima",
+        "{disk}": Place("%gameroot%", "%gameroot%") / disk,
+    }
+    if row["mode"] == "RunDosPrompt" and row["addkey"]:
+        text.add(CRLF + "addkey 62")
+    rest = guest_lines(row).replace("{size}", size).replace("\n", CRLF)
+    while rest:
+        name = min(places, key=lambda n: rest.find(n) if n in rest else len(rest))
+        before, found, rest = rest.partition(name)
+        text.add(before)
+        if found:
+            text.add(value_of(places[name]))
+
+
 def finish(row, text):
     mode = row["mode"]
+    if row["build"] in GUESTS and mode != "RunLibraryShell":
+        finish_guest(row, text)
+        return
     if mode in ("RunDosPrompt", "RunLibraryShell"):
         if row["addkey"]:
             text.add(CRLF + "addkey 62")
@@ -288,6 +383,10 @@ def finish(row, text):
             text.add("M" + CRLF, CRLF)
 
 
+def mode_starts_guests(mode):
+    return mode != "RunFileWithArgs"
+
+
 def compose(world, table, row):
     text, state = Text(), {"mixer": "MIXER ", "glide": False, "skip": False}
     write_sections(world, table, row, text, state)
@@ -296,7 +395,7 @@ def compose(world, table, row):
     write_autoexec(world, row, text, state["mixer"])
     write_cd(world, row, text)
     write_network(row, text)
-    row["finished"] = row["build"] not in GUESTS
+    row["finished"] = row["build"] not in GUESTS or mode_starts_guests(row["mode"])
     if row["finished"]:
         finish(row, text)
     row["glide"] = state["glide"]
