@@ -63,6 +63,10 @@ public:
 class NoDesktop : public platform::Desktop {
 public:
     bool NumLockOn() override { return false; }
+    std::optional<platform::WindowId> FindWindow(const QString&) override { return {}; }
+    std::optional<platform::WindowPlace> PlaceOf(platform::WindowId) override { return {}; }
+    void Move(platform::WindowId, QPoint) override {}
+    void BringToFront(platform::WindowId) override {}
 };
 
 struct QuietPorts {

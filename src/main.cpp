@@ -31,6 +31,7 @@
 #include "platform/QtTimers.h"
 #include "platform/X11Desktop.h"
 #include "platform/XdgBin.h"
+#include "running/PlacementCommands.h"
 #include "running/RunCommands.h"
 #include "running/RunMenuCommands.h"
 #include "shell/CommandLine.h"
@@ -127,6 +128,12 @@ void OpenFolderCFG(shell::Launcher& launcher)
 
 void WireWindow(forms::Deeds& deeds, shell::Launcher& launcher)
 {
+    deeds.cmdSetPos_Click = [&] { running::cmdSetPos_Click(launcher); };
+    deeds.cmdRememberPos_Click = [&] { running::cmdRememberPos_Click(launcher); };
+    deeds.cmdMoveDosbox_Click = [&](int index) { running::cmdMoveDosbox_Click(launcher, index); };
+    deeds.txtDosboxPos_Step = [&](int box, int step) {
+        running::txtDosboxPos_Step(launcher, box, step);
+    };
     deeds.cmdFolderCFG_Click = [&] { OpenFolderCFG(launcher); };
     deeds.cmdVespra_Click = [&] { shell::cmdVespra_Click(launcher); };
 }

@@ -114,7 +114,8 @@ struct Deeds {
     // The settings page.
     Deed cmdSetPos_Click;
     Deed cmdRememberPos_Click;
-    IndexDeed cmdMoveDosbox_Click; // 0 up, 1 left, 2 right, 3 down
+    std::function<void(int box, int step)> txtDosboxPos_Step; // Up and Down in a box
+    IndexDeed cmdMoveDosbox_Click;                            // 0 up, 1 left, 2 right, 3 down
     Deed cmdCompact_Click;
     Deed cmdFolderCFG_Click;
     Deed cmdUpdate_Click;

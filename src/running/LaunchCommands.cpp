@@ -11,6 +11,7 @@
 #include "running/GlideIni.h"
 #include "running/GuestWindows.h"
 #include "running/LaunchStory.h"
+#include "running/PlacementCommands.h"
 #include "running/RunPlan.h"
 #include "shell/JobCommands.h"
 #include "shell/Launcher.h"
@@ -170,6 +171,7 @@ void WriteAndStart(Launcher& launcher, const RunRequest& request, const QString&
     }
     // Whether the emulator came up does not matter to the recent list: the user asked for the game.
     StartEmulator(launcher, request, launch);
+    StartPlacementTimer(launcher);
     if (EntersRecentList(request.mode)) {
         shell::AddRecent(launcher.recent, request.folder, request.title);
     }

@@ -89,6 +89,7 @@ struct PlacementPanel {
     std::array<QString, 2> txtDosboxPos; // x and y, as typed
     bool chkDosboxMove = false;
     int cmbDosboxMove = 4; // delay is index + 1 seconds
+    int tmrDosboxPos = 0;  // the timer that places a window after a start; 0 when it rests
 
     platform::Notifier changed;
 };

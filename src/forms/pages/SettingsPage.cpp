@@ -6,6 +6,7 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -55,6 +56,7 @@ QLayout* SettingsPage::BuildPosition()
         connect(box, &QLineEdit::textEdited, this, [this, i](const QString& text) {
             m_shown.screens.placement.txtDosboxPos[static_cast<std::size_t>(i)] = text;
         });
+        box->installEventFilter(this);
         connect(box, &QLineEdit::returnPressed, this, [this] { Do(m_deeds.cmdSetPos_Click); });
         grid->addWidget(caption, 0, 2 * i);
         grid->addWidget(box, 0, 2 * i + 1);
@@ -173,6 +175,19 @@ QLayout* SettingsPage::BuildKeys()
         grid->addWidget(meaning, i, 1);
     }
     return grid;
+}
+
+bool SettingsPage::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress) {
+        return Page::eventFilter(watched, event);
+    }
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Up && key != Qt::Key_Down) {
+        return Page::eventFilter(watched, event);
+    }
+    Do(m_deeds.txtDosboxPos_Step, watched == m_txtDosboxPos[0] ? 0 : 1, key == Qt::Key_Up ? 1 : -1);
+    return true;
 }
 
 void SettingsPage::TakeTexts()

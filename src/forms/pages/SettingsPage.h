@@ -19,6 +19,9 @@ public:
 
     void TakeTexts() override;
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     QLayout* BuildPosition();
     QLayout* BuildNudges();
