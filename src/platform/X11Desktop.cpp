@@ -7,6 +7,7 @@
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 
+#include <algorithm>
 #include <array>
 
 namespace pelorin::platform {
@@ -148,11 +149,11 @@ std::optional<WindowId> X11Desktop::FindWindow(const QString& className)
         return std::nullopt;
     }
     const ErrorTrap trap(m_connection->Server());
-    // From the lowest to the topmost.
-    const QList<long> windows =
+    QList<long> windows =
         m_connection->Numbers(m_connection->Root(), "_NET_CLIENT_LIST_STACKING", XA_WINDOW);
-    for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
-        const auto id = static_cast<WindowId>(*window);
+    std::reverse(windows.begin(), windows.end()); // the topmost stands last there
+    for (const long window : windows) {
+        const auto id = static_cast<WindowId>(window);
         if (m_connection->IsOfClass(id, className)) {
             return id;
         }

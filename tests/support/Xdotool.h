@@ -27,6 +27,13 @@ public:
         Run(QStringLiteral("type --delay 30 --"), {text});
     }
 
+    /// The left button at a place of the screen, so many times.
+    void Click(QPoint place, int times = 1) const
+    {
+        Run(QStringLiteral("mousemove"), {QString::number(place.x()), QString::number(place.y())});
+        Run(QStringLiteral("click --delay 80 --repeat %1 1").arg(times), {});
+    }
+
     /// A shown window whose title matches the regular expression.
     std::optional<WindowId> FindWindow(const QString& title) const
     {
@@ -66,6 +73,18 @@ public:
             values[line.left(equals)] = line.mid(equals + 1).toInt();
         }
         return {values["X"], values["Y"], values["WIDTH"], values["HEIGHT"]};
+    }
+    /// The top left corner of what a window paints. xdotool itself counts frames twice at times.
+    QPoint Corner(const WindowId& window) const
+    {
+        const QStringList ask{QStringLiteral("-id"), QString::fromLatin1(window)};
+        const QByteArray text = RunTool(QStringLiteral("xwininfo"), ask, m_environment).output;
+        const auto behind = [&](const QByteArray& heading) {
+            const qsizetype at = text.indexOf(heading);
+            const QByteArray rest = at < 0 ? QByteArray() : text.mid(at + heading.size());
+            return rest.left(rest.indexOf('\n')).trimmed().toInt();
+        };
+        return {behind("Absolute upper-left X:"), behind("Absolute upper-left Y:")};
     }
     /// Raises it and gives it the focus; false when it has not got it in time.
     bool Activate(const WindowId& window, int timeoutMs) const
