@@ -11,8 +11,8 @@ packages_of() {
     run) # what the program starts, and what a window needs to look right (Korean, icons, file types)
         echo dosbox dosbox-debug 7zip libqt6svg6 fonts-nanum \
             xdg-utils file shared-mime-info ;;
-    test) # test libraries, and a display without a monitor whose windows can be read and driven
-        echo libgtest-dev libgmock-dev python3 \
+    test) # test libraries, what makes CD images, and a display without a monitor whose windows can be read and driven
+        echo libgtest-dev libgmock-dev python3 genisoimage \
             xvfb openbox xdotool wmctrl imagemagick x11-apps x11-utils xauth ;;
     check) # formatting and linting
         echo git ccache clang-format-14 clang-tidy-14 ;;

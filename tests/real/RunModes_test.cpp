@@ -1,5 +1,8 @@
 #include "real/RealInstallation.h"
 
+#include <QDir>
+#include <QFile>
+
 using namespace Qt::StringLiterals;
 using namespace pelorin::test;
 
@@ -96,6 +99,69 @@ TEST_F(RealRunModes, AFileGetsWhatIsTypedWithBlanksAndQuotes)
         << m_pelorin->Output().toStdString();
     ASSERT_TRUE(QTest::qWaitFor([&] { return m_app.ReadRaw(told).endsWith("1\r\n"); }, kStepMs));
     EXPECT_EQ(m_app.ReadRaw(told), "C:\\\r\n  two  \"in quotes\" /x=1\r\n");
+}
+
+/// An image that holds the file MARK.TXT with its own name in it.
+void MakeImage(const TestFolder& app, const QString& path, const QString& mark)
+{
+    const TestFolder content;
+    content.WriteText(u"MARK.TXT"_s, mark);
+    const auto made = RunTool(
+        u"genisoimage"_s,
+        {u"-quiet"_s, u"-o"_s, app.Path(path), content.Path()},
+        QProcessEnvironment::systemEnvironment());
+    ASSERT_EQ(made.exitCode, 0) << made.errors.toStdString();
+}
+
+TEST_F(RealRunModes, DiscsStandWhereTheRulesPutThem)
+{
+    const QString game = u"Games/주는 대로 적기 (Tell) [4]"_s;
+    const QString cd = game + u"/DosBox/CD"_s;
+    const QString copied = game + u"/COPIED.TXT"_s;
+    struct Case {
+        QStringList images; // of CD
+        QString conf;       // one drive each, images
+        QString drive;
+        QByteArray mark;
+    };
+    const Case cases[] = {
+        {{u"a.iso"_s}, u"0 1"_s, u"D"_s, "a"},
+        {{u"a.iso"_s, u"B \"2.ISO"_s}, u"0 0"_s, u"D"_s, "folder"},
+        {{u"a.iso"_s, u"B 2%.ISO"_s}, u"0 1"_s, u"D"_s, "a"},
+        {{u"a.iso"_s, u"B 2%.ISO"_s}, u"1 1"_s, u"E"_s, "B 2%"},
+        {{u"c.bin"_s}, u"0 1"_s, u"D"_s, "c"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.images.join(u' ').toStdString() + ", " + c.conf.toStdString());
+        QDir(m_app.Path(cd)).removeRecursively();
+        QDir().mkpath(m_app.Path(cd));
+        QFile::remove(m_app.Path(copied));
+        for (const QString& image : c.images) {
+            MakeImage(m_app, cd + u'/' + image, image.section(u'.', 0, 0));
+            if (image.endsWith(u".bin"_s)) {
+                m_app.WriteLines(
+                    cd + u"/c.cue"_s,
+                    {u"FILE \"c.bin\" BINARY"_s,
+                     u"  TRACK 01 MODE1/2048"_s,
+                     u"    INDEX 01 00:00:00"_s});
+            }
+        }
+        m_app.WriteText(game + u"/MARK.TXT"_s, u"folder"_s);
+        m_app.WriteLines(game + u"/DosBox/CD.conf"_s, c.conf.split(u' '));
+        m_app.WriteLines(
+            game + u"/DosBox/autoexec.conf"_s,
+            {u"tell.com /COPY "_s + c.drive + u":\\MARK.TXT"_s, u"exit"_s});
+        m_person.Key(u"Home"_s);
+        ASSERT_TRUE(ShowsTitle(u"별 헤는 밤"_s));
+        m_person.Key(u"End"_s); // the game is read anew
+        ASSERT_TRUE(ShowsTitle(u"주는 대로 적기"_s));
+        m_person.Key(u"Return"_s);
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] { return m_app.Exists(copied) && m_app.ReadRaw(copied) == c.mark; }, kStepMs))
+            << m_pelorin->Output().toStdString();
+        ASSERT_TRUE(m_person.WaitUntilGone(kEmulator, kStepMs));
+        ASSERT_TRUE(m_person.Activate(m_window, kStepMs));
+    }
 }
 
 } // namespace
