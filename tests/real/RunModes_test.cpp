@@ -2,6 +2,9 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace pelorin::test;
@@ -18,13 +21,51 @@ protected:
     {
         RealTest::SetUp();
         Stage(m_app, m_session);
-        m_pelorin = std::make_unique<RunProgram>(
-            m_app.Path(u"Pelorin"_s), QStringList(), PlainEnvironment(m_session));
+        StartPelorin();
         const auto window = m_person.WaitForWindow(MainWindow(), kStepMs);
         ASSERT_TRUE(window.has_value()) << m_pelorin->Output().toStdString();
         m_window = *window;
         ASSERT_TRUE(m_person.Activate(m_window, kStepMs));
         ASSERT_TRUE(ShowsTitle(u"별 헤는 밤"_s));
+    }
+
+    /// As an ordinary user, who may not do all that a machine for tests lets one do.
+    void StartPelorin()
+    {
+        QProcessEnvironment environment = PlainEnvironment(m_session);
+        QString program = m_app.Path(u"Pelorin"_s);
+        QStringList arguments;
+        if (::geteuid() == 0) {
+            const QString home = m_app.Path(u"home of nobody"_s);
+            QDir().mkpath(home);
+            environment.insert(u"HOME"_s, home);
+            environment.insert(u"XDG_RUNTIME_DIR"_s, home);
+            const auto given =
+                RunTool(u"chown"_s, {u"-R"_s, u"65534:65534"_s, m_app.Path()}, environment);
+            ASSERT_EQ(given.exitCode, 0) << given.errors.toStdString();
+            // What lies above is ours alone, and is to be passed through.
+            QFile above(QFileInfo(m_app.Path()).path());
+            ASSERT_TRUE(above.setPermissions(above.permissions() | QFile::ExeOther));
+            arguments =
+                QStringList{u"--reuid=65534"_s, u"--regid=65534"_s, u"--clear-groups"_s, program};
+            program = u"setpriv"_s;
+        }
+        m_pelorin = std::make_unique<RunProgram>(program, arguments, environment);
+    }
+
+    /// The entry of the run menu that so many strokes lead down to.
+    void ChooseInRunMenu(int strokes) const
+    {
+        m_person.Click(Place(84, 17));
+        QTest::qWait(300);
+        for (int i = 0; i < strokes; ++i) {
+            m_person.Key(u"Down"_s);
+        }
+        m_person.Key(u"Return"_s);
+    }
+    bool Waits(const std::function<bool()>& condition) const
+    {
+        return QTest::qWaitFor(condition, kStepMs);
     }
 
     bool ShowsTitle(const QString& title) const
@@ -99,6 +140,39 @@ TEST_F(RealRunModes, AFileGetsWhatIsTypedWithBlanksAndQuotes)
         << m_pelorin->Output().toStdString();
     ASSERT_TRUE(QTest::qWaitFor([&] { return m_app.ReadRaw(told).endsWith("1\r\n"); }, kStepMs));
     EXPECT_EQ(m_app.ReadRaw(told), "C:\\\r\n  two  \"in quotes\" /x=1\r\n");
+}
+
+TEST_F(RealRunModes, AHostAndAClientOfOneScreenFindEachOther)
+{
+    const QString tell = u"Games/주는 대로 적기 (Tell) [4]"_s;
+    const QString answer = tell + u"/PING.TXT"_s;
+    m_app.WriteLines(
+        tell + u"/DosBox/autoexec.conf"_s,
+        {u"ipxnet ping > PING.TXT"_s, u"ipxnet status >> PING.TXT"_s, u"echo done > DONE.TXT"_s});
+    ChooseInRunMenu(4); // the host
+    ASSERT_TRUE(m_person.WaitForWindow(kEmulator, kStepMs).has_value())
+        << m_pelorin->Output().toStdString();
+    ASSERT_TRUE(Waits([&] { return m_app.Exists(u"Games/별 헤는 밤 (Star) [1]/READY.TXT"_s); }));
+    EXPECT_TRUE(Conf().contains("ipx=true"));
+    const bool own = Conf().contains("ipxnet startserver 19900\r\n");
+    EXPECT_TRUE(own || Conf().contains("ipxnet startserver\r\n"));
+
+    ASSERT_TRUE(m_person.Activate(m_window, kStepMs));
+    m_person.Click(Place(300, 300)); // the list, below its rows
+    m_person.Key(u"End"_s);
+    ASSERT_TRUE(ShowsTitle(u"주는 대로 적기"_s));
+    ChooseInRunMenu(5); // the client
+    const QString box = u"^네트워크 게임 접속$"_s;
+    ASSERT_TRUE(m_person.WaitForWindow(box, kStepMs).has_value());
+    const QString address = own ? u"127.0.0.1 19900"_s : u"127.0.0.1"_s;
+    m_person.Type(address);
+    m_person.Key(u"Return"_s);
+    ASSERT_TRUE(Waits([&] { return m_app.Exists(tell + u"/DONE.TXT"_s); }))
+        << m_pelorin->Output().toStdString();
+    EXPECT_EQ(m_app.ReadText(u"IP.cfg"_s), address + u"\r\n"_s);
+    EXPECT_TRUE(Conf().contains("\r\nipxnet connect " + address.toLatin1() + "\r\n"));
+    EXPECT_TRUE(m_app.ReadRaw(answer).contains("Response from"))
+        << m_app.ReadRaw(answer).toStdString();
 }
 
 /// An image that holds the file MARK.TXT with its own name in it.
