@@ -101,7 +101,7 @@ private:
         }
         for (const QString& link : root.broken) {
             if (!link.startsWith(u'.')) {
-                m_result.refused << Wording{494, u"<1>: the link leads nowhere."_s, {link}};
+                m_result.refused << Wording{463, u"<1>: the link leads nowhere."_s, {link}};
             }
         }
         m_result.beyondBound = static_cast<int>(std::max<qsizetype>(0, games.size() - kMostGames));

@@ -150,7 +150,7 @@ std::optional<Wording> WhyNoGame(const shell::Places& places, const QString& fol
     if (!leadsBack) {
         return std::nullopt;
     }
-    return Wording{493, u"<1>: the link leads to where the games lie."_s, {folder}};
+    return Wording{462, u"<1>: the link leads to where the games lie."_s, {folder}};
 }
 
 bool MayBeGame(const shell::Places& places, const QString& folder)
@@ -180,7 +180,7 @@ platform::Done MakeMetaDir(GameFiles& files)
     const QString name = kMetaDirName.toString();
     if (!files.game.Find(name).isEmpty()) {
         return Error::Worded(
-            ErrorKind::Refused, Wording{495, u"<1> is no folder."_s, {files.GamePath(name)}});
+            ErrorKind::Refused, Wording{464, u"<1> is no folder."_s, {files.GamePath(name)}});
     }
     // Not with the folders above it: a game folder that has vanished must not come back.
     if (!QDir().mkdir(files.metaDir)) {

@@ -29,7 +29,7 @@ Done DesktopShellVerbs::Start(const QString& what, const QString& workingFolder)
     if (opener.isEmpty()) {
         return Error::Worded(
             ErrorKind::NotFound,
-            Wording{498, u"<1> can't be opened: xdg-open is not installed."_s, {what}});
+            Wording{467, u"<1> can't be opened: xdg-open is not installed."_s, {what}});
     }
     ProcessRequest request;
     request.program = opener;
@@ -58,7 +58,7 @@ Done DesktopShellVerbs::OpenUrl(const QString& url)
     const bool isWeb = address.scheme() == u"http" || address.scheme() == u"https";
     if (!isWeb || address.host().isEmpty()) {
         return Error::Worded(
-            ErrorKind::Refused, Wording{497, u"<1> is no address of the web."_s, {url}});
+            ErrorKind::Refused, Wording{466, u"<1> is no address of the web."_s, {url}});
     }
     return Start(QString::fromLatin1(address.toEncoded()), QDir::rootPath());
 }

@@ -43,7 +43,7 @@ Outcome<Endpoints> ReadEndpoints(const Places& places)
             return platform::Error::Worded(
                 ErrorKind::Malformed,
                 platform::Wording{
-                    496,
+                    465,
                     u"<1>: line <2>: no http or https address"_s,
                     {path, QString::number(number)}});
         }

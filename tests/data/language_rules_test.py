@@ -21,9 +21,6 @@ COUNT = 339
 UNUSED = {68, 69, 70, *range(78, 86), *range(102, 106), 110, 116, 139, *range(145, 149), 150, 162,
           *range(180, 184), 186, 206}  # fmt: skip
 
-# Numbers of our own that work in progress may take; these lines may be empty until then.
-RESERVED = range(453, 513)
-
 # Texts that the program compares, appends, or shows in two places with one sense: the line, and
 # its wording in each language. None is free.
 LANGUAGES = ("ko", "en")
@@ -158,7 +155,7 @@ def placeholders(number, language):
 
 def line_faults(lines, language):
     for number, line in enumerate(lines, 1):
-        if not line and number not in UNUSED and number not in RESERVED:
+        if not line and number not in UNUSED:
             yield f"Language.dat:{number}: empty, but in use"
         if "\\" in line.replace("\\n", ""):
             yield f"Language.dat:{number}: a backslash that makes no line break"
@@ -317,7 +314,6 @@ def built_in_faults(root):
             elif lines[number - 1] != text:
                 yield f'{path.name}: line {number} is "{text}", in the file "{lines[number - 1]}"'
     unused = set(range(COUNT + 1, len(lines) + 1)) - found
-    unused -= {number for number in RESERVED if not lines[number - 1]}
     if unused:
         yield f"Language.dat: no source uses {sorted(unused)}"
 

@@ -175,6 +175,25 @@ TEST_F(RealRunModes, AHostAndAClientOfOneScreenFindEachOther)
         << m_app.ReadRaw(answer).toStdString();
 }
 
+TEST_F(RealRunModes, TheDebugBuildWritesTheLogOfThisRun)
+{
+    QStringList global = m_app.ReadLines(u"Default.conf"_s);
+    constexpr int kLogLine = 1 + 2 * 81;
+    ASSERT_GT(global.size(), kLogLine);
+    global[kLogLine] = u"1"_s; // true
+    m_app.WriteLines(u"Default.conf"_s, global);
+    m_person.Key(u"Return"_s);
+    const QString log = u"Export/별 헤는 밤.txt"_s;
+    // Commands stand in it as DOS reads them, and this folder only this run has.
+    const QByteArray line =
+        QString(
+            u"Parsing command line: SET GAMEROOT="_s + m_app.Path(u"Games/별 헤는 밤 (Star) [1]"_s))
+            .toUtf8();
+    EXPECT_TRUE(Waits([&] { return m_app.Exists(log) && m_app.ReadRaw(log).contains(line); }))
+        << m_pelorin->Output().toStdString();
+    EXPECT_TRUE(Conf().contains("waitonerror=true"));
+}
+
 /// An image that holds the file MARK.TXT with its own name in it.
 void MakeImage(const TestFolder& app, const QString& path, const QString& mark)
 {
