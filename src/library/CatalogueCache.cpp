@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <tuple>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -150,14 +151,17 @@ platform::Done SaveSheet(
     const shell::Places& places,
     const QString& listPath,
     const IconSheet& icons,
-    const std::vector<int>& positions)
+    const std::vector<int>& positions,
+    ScanProgress& progress)
 {
     const QString path = SheetPath(places);
     if (!IconSheetIsCurrent(path, icons, positions)) {
         // The list belongs to the sheet that is about to go. Should the program end before the new
         // list is in its place, a missing one is noticed; one of another order would not be.
         const auto dropList = [&] { return archives::DeleteFileIfThere(listPath); };
-        platform::Done written = WriteIconSheet(path, icons, positions, dropList);
+        // The window lives meanwhile, but what is being saved is saved to its end.
+        const auto breathe = [&] { std::ignore = progress.Breathe(); };
+        platform::Done written = WriteIconSheet(path, icons, positions, dropList, breathe);
         if (!written) {
             return written;
         }
@@ -289,7 +293,7 @@ platform::Outcome<CacheReport> SaveCatalogueCache(
     platform::CacheReplacement list(listPath);
     platform::Done saved = list.Append(platform::EncodeFittingCp949(records.line + u"\r\n"_s));
     if (saved) {
-        saved = SaveSheet(places, listPath, icons, records.positions);
+        saved = SaveSheet(places, listPath, icons, records.positions, progress);
     }
     if (saved) {
         saved = list.Replace();

@@ -205,13 +205,15 @@ platform::Done WriteIconSheet(
     const QString& path,
     const IconSheet& icons,
     const std::vector<int>& positions,
-    const std::function<platform::Done()>& beforeReplacing)
+    const std::function<platform::Done()>& beforeReplacing,
+    const std::function<void()>& afterRow)
 {
     const SheetSize size = SheetSizeOf(static_cast<int>(positions.size()));
     platform::CacheReplacement file(path);
     platform::Done written = file.Append(HeaderOf(size));
     for (int band = size.height / kLargeIcon - 1; written && band >= 0; --band) {
         written = file.Append(FileBand(icons, positions, size, band));
+        afterRow();
     }
     if (written) {
         written = beforeReplacing();

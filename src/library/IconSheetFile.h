@@ -34,10 +34,12 @@ bool IconSheetIsCurrent(
 
 /// `positions` must not be empty. Cells behind the last icon are black. `beforeReplacing` runs when
 /// the new sheet is written and about to take the place of the old one; its failure is ours.
+/// `afterRow` runs behind each row of cells.
 platform::Done WriteIconSheet(
     const QString& path,
     const IconSheet& icons,
     const std::vector<int>& positions,
-    const std::function<platform::Done()>& beforeReplacing);
+    const std::function<platform::Done()>& beforeReplacing,
+    const std::function<void()>& afterRow = [] {});
 
 } // namespace pelorin::library

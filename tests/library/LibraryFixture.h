@@ -50,6 +50,7 @@ public:
     std::vector<Told> begun; // value is the maximum
     std::vector<Told> steps;
     std::function<bool(const Told&)> onStep = [](const Told&) { return true; };
+    int breaths = 0;
 
     void Begin(library::Phase phase, int maximum) override
     {
@@ -59,6 +60,11 @@ public:
     {
         steps.push_back({phase, value, percent});
         return onStep(steps.back());
+    }
+    bool Breathe() override
+    {
+        ++breaths;
+        return true;
     }
 };
 
