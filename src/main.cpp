@@ -96,6 +96,9 @@ void WireConfigPage(forms::Deeds& deeds, shell::Launcher& launcher)
     deeds.chkEditConfig_Click = [&](bool on) { dosboxconf::chkEditConfig_Click(launcher, on); };
     deeds.cmbConfigSub_Click = [&](int group) { dosboxconf::cmbConfigSub_Click(launcher, group); };
     deeds.lstConfigTitle_Click = [&](int row) { dosboxconf::lstConfigTitle_Click(launcher, row); };
+    deeds.lstConfigTitle_DblClick = [&](int item) {
+        dosboxconf::lstConfigTitle_DblClick(launcher, item);
+    };
     deeds.lstConfigTitle_CtrlTab = [&](int step) {
         dosboxconf::lstConfigTitle_CtrlTab(
             launcher, step > 0 ? GroupStep::Next : GroupStep::Previous);

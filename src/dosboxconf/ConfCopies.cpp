@@ -3,6 +3,7 @@
 #include "dosboxconf/ConfFiles.h"
 #include "dosboxconf/private/ConfPaths.h"
 #include "dosboxconf/private/MetaFolder.h"
+#include "dosboxconf/private/StoredConf.h"
 #include "platform/TextFile.h"
 
 #include <QFile>
@@ -16,7 +17,6 @@ namespace {
 
 /// Far more than 41 groups of 81 numbers need.
 constexpr qint64 kMostPresetBytes = qint64{1024} * 1024;
-constexpr qsizetype kMostFirstLine = 64;
 
 platform::Done Replace(const QString& path, const QByteArray& bytes)
 {
@@ -53,11 +53,13 @@ platform::Outcome<QByteArray> ReadPreset(const QString& path)
     if (!bytes) {
         return bytes;
     }
-    const QByteArray start = bytes.Value().left(kMostFirstLine);
-    const QByteArray first = start.left(start.indexOf('\n')).trimmed();
-    const QRegularExpression number(u"^[+-]?[0-9]+$"_s);
-    const QString line = QString::fromLatin1(first);
-    if (!line.startsWith(u"ver."_s) && !number.match(line).hasMatch()) {
+    const QStringList lines = platform::SplitLines(platform::DecodeCp949(bytes.Value()));
+    const StoredConf stored = ParseConf(lines);
+    // A file without a mark begins with a number.
+    const QRegularExpression number(u"^\\s*[+-]?[0-9]+\\s*$"_s);
+    const bool begins =
+        stored.layout != ConfLayout::Groups11 || number.match(lines.value(0)).hasMatch();
+    if (!begins || !stored.whole) {
         return platform::Error::Worded(
             platform::ErrorKind::Malformed,
             platform::Wording{458, u"<1> is no saved configuration."_s, {path}});
@@ -82,7 +84,7 @@ platform::Done SavePreset(const shell::Places& places, const QString& folder, co
     const QString source =
         HasGameConf(places, folder) ? GameConfPath(places, folder) : DefaultConfPath(places);
     const platform::Outcome<QByteArray> bytes = platform::ReadBytes(source);
-    return bytes ? platform::WriteBytes(path, bytes.Value()) : platform::Done(bytes.Failure());
+    return bytes ? Replace(path, bytes.Value()) : platform::Done(bytes.Failure());
 }
 
 } // namespace pelorin::dosboxconf

@@ -17,15 +17,15 @@ platform::Done RemoveGameConf(const shell::Places& places, const QString& folder
 
 // Presets are plain copies of the two files.
 
-/// The bytes of a file that can be a configuration: its first line is a mark or a number. Error
-/// Malformed for any other, Unreadable.
+/// The bytes of a file that is a whole configuration of any layout. Error Malformed for any other,
+/// Unreadable.
 platform::Outcome<QByteArray> ReadPreset(const QString& path);
 /// Put such bytes in the place of a file, which is kept as .bak. Error Unwritable, or Refused for a
 /// folder that is no game here.
 platform::Done ReplaceDefaultConf(const shell::Places& places, const QByteArray& bytes);
 platform::Done ReplaceGameConf(
     const shell::Places& places, const QString& folder, const QByteArray& bytes);
-/// Copies the game's edit.conf, or else Default.conf. Error Unreadable, Unwritable.
+/// Copies the game's edit.conf, or else Default.conf; what stands there is kept as .bak. Error Unreadable, Unwritable.
 platform::Done SavePreset(const shell::Places& places, const QString& folder, const QString& path);
 
 } // namespace pelorin::dosboxconf

@@ -113,18 +113,23 @@ void ShowRows(Launcher& launcher)
     ShowPreview(launcher);
 }
 
-/// A value of the group shown has changed, in the grid and in its row.
-void SetValue(Launcher& launcher, int row, const NumberEdit& edit)
+/// A value of the group shown has changed, in the grid and in its row, which it may get by that.
+void SetValue(Launcher& launcher, int item, const NumberEdit& edit)
 {
     ConfigEditor& editor = launcher.screens.config;
-    const Cell cell{editor.cmbConfigSub, editor.configItems[static_cast<std::size_t>(row)]};
+    const Cell cell{editor.cmbConfigSub, item};
     launcher.options.OptionSelection[OptionGrid::Index(cell)] = edit.selection;
+    const int row = RowOfItem(editor, item);
+    if (row < 0) {
+        ShowRows(launcher);
+        return;
+    }
     editor.lstConfig[row] = edit.text;
     editor.changed.Tell(ConfigEditor::Values);
     ShowPreview(launcher);
 }
 
-void AskForNumber(Launcher& launcher, int row, OptionKind kind)
+void AskForNumber(Launcher& launcher, int item, OptionKind kind)
 {
     ConfigEditor& editor = launcher.screens.config;
     const shell::LangTable& lang = launcher.lang;
@@ -135,13 +140,13 @@ void AskForNumber(Launcher& launcher, int row, OptionKind kind)
     const int loads = editor.loads;
     const int group = editor.cmbConfigSub;
     const QString reply = launcher.ports.prompts.InputText(
-        question, cycles ? lang[191] : lang[193], editor.lstConfig.value(row));
+        question, cycles ? lang[191] : lang[193], editor.lstConfig.value(RowOfItem(editor, item)));
     // Windows events ran: other settings may be loaded by now.
     if (editor.loads != loads || editor.cmbConfigSub != group) {
         return;
     }
     if (const std::optional<NumberEdit> edit = cycles ? CyclesOf(reply) : NumberOf(reply)) {
-        SetValue(launcher, row, *edit);
+        SetValue(launcher, item, *edit);
     }
 }
 
@@ -317,17 +322,30 @@ void lstConfig_Row(Launcher& launcher, int row)
 
 void lstConfig_Click(Launcher& launcher, int row)
 {
-    ConfigEditor& editor = launcher.screens.config;
-    if (launcher.flags.JobHeld || row < 0 || row >= static_cast<int>(editor.configItems.size())) {
+    const ConfigEditor& editor = launcher.screens.config;
+    if (row >= 0 && row < static_cast<int>(editor.configItems.size())) {
+        lstConfigTitle_DblClick(launcher, editor.configItems[static_cast<std::size_t>(row)]);
+    }
+}
+
+void lstConfigTitle_DblClick(Launcher& launcher, int item)
+{
+    const ConfigEditor& editor = launcher.screens.config;
+    if (launcher.flags.JobHeld || item < 0 || item >= editor.lstConfigTitle.size()) {
         return;
     }
-    lstConfig_Row(launcher, row);
-    const Cell cell{editor.cmbConfigSub, editor.configItems[static_cast<std::size_t>(row)]};
+    lstConfigTitle_Click(launcher, item);
+    const Cell cell{editor.cmbConfigSub, item};
+    const int row = RowOfItem(editor, item);
     switch (const OptionKind kind = launcher.options.Kind(cell)) {
     case OptionKind::Index:
-    case OptionKind::Mapper: ShowOptionCombo(launcher, row, cell); break;
+    case OptionKind::Mapper:
+        if (row >= 0) {
+            ShowOptionCombo(launcher, row, cell);
+        }
+        break;
     case OptionKind::Text:
-    case OptionKind::CpuCycle: AskForNumber(launcher, row, kind); break;
+    case OptionKind::CpuCycle: AskForNumber(launcher, item, kind); break;
     default: break;
     }
 }
@@ -338,11 +356,11 @@ void cmbConfig_Click(Launcher& launcher, int index)
     if (!editor.cmbConfig.visible) {
         return;
     }
-    const int row = editor.cmbConfig.row;
+    const int item = editor.cmbConfig.cell.item;
     const QString text = editor.cmbConfig.items.value(index);
     HideCombo(launcher);
     if (!text.isEmpty()) {
-        SetValue(launcher, row, {text, index});
+        SetValue(launcher, item, {text, index});
     }
     editor.changed.Tell(ConfigEditor::FocusTitles);
 }
@@ -368,7 +386,7 @@ void cmdSaveConfig_Click(Launcher& launcher)
         return;
     }
     // Beside a game with settings of its own the grid holds those, and nothing is saved.
-    const bool saves = !global || !editor.hasConf;
+    const bool saves = !global || (!editor.hasConf && !HasGameConf(launcher.places, folder));
     const bool saved =
         !saves || TellWritten(
                       launcher,

@@ -33,6 +33,8 @@ void lstConfigTitle_Click(shell::Launcher& launcher, int row);
 void lstConfig_Row(shell::Launcher& launcher, int row);
 /// A value was clicked: the means to edit it open, cmbConfig or a prompt for a number.
 void lstConfig_Click(shell::Launcher& launcher, int row);
+/// The same from its title, which also a value without a row is edited by.
+void lstConfigTitle_DblClick(shell::Launcher& launcher, int item);
 /// A value was chosen in cmbConfig, or it was left without one.
 void cmbConfig_Click(shell::Launcher& launcher, int index);
 void cmbConfig_Leave(shell::Launcher& launcher);

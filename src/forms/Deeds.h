@@ -98,12 +98,13 @@ struct Deeds {
 
     // The configuration page.
     CheckDeed chkEditConfig_Click;
-    IndexDeed cmbConfigSub_Click;     // the group
-    IndexDeed lstConfigTitle_Click;   // the row
-    IndexDeed lstConfigTitle_CtrlTab; // 1 forward, -1 back
-    IndexDeed lstConfig_Row;          // gone to
-    IndexDeed lstConfig_Click;        // clicked, or Enter
-    IndexDeed cmbConfig_Click;        // the value chosen
+    IndexDeed cmbConfigSub_Click;      // the group
+    IndexDeed lstConfigTitle_Click;    // the row
+    IndexDeed lstConfigTitle_DblClick; // Enter as well
+    IndexDeed lstConfigTitle_CtrlTab;  // 1 forward, -1 back
+    IndexDeed lstConfig_Row;           // gone to
+    IndexDeed lstConfig_Click;         // clicked, or Enter
+    IndexDeed cmbConfig_Click;         // the value chosen
     Deed cmbConfig_Leave;
     IndexDeed lstEdit_Click; // the row
     Deed cmdSaveConfig_Click;

@@ -134,6 +134,15 @@ TEST_F(ConfigPage, ANumberIsForTheOptionThatWasAskedFor)
     EXPECT_TRUE(Editor().preview.text.contains(u"cycles=12345"_s)) << "as a start writes it";
     ask(u""_s);
     EXPECT_TRUE(Editor().lstConfig.contains(u"12345"_s));
+    // Without a value the option has no row, and is edited from its title.
+    const int item = Editor().titleRow;
+    m_launcher->options
+        .OptionSelection[dosboxconf::OptionGrid::Index({Editor().cmbConfigSub, item})] = 0;
+    dosboxconf::cmbConfigSub_Click(*m_launcher, Editor().cmbConfigSub);
+    EXPECT_LT(dosboxconf::RowOfItem(Editor(), item), 0);
+    m_app.fakes.prompts.WillType(u"max"_s);
+    dosboxconf::lstConfigTitle_DblClick(*m_launcher, item);
+    EXPECT_EQ(Editor().lstConfig.value(dosboxconf::RowOfItem(Editor(), item)), u"max"_s);
     const auto before = [&] { return m_launcher->options.OptionSelection; };
     ask(u"777"_s, [&] { test::Click(*m_launcher, u"둘"_s); });
     EXPECT_FALSE(Editor().lstConfig.contains(u"777"_s)) << "other settings are loaded by now";
@@ -158,7 +167,7 @@ TEST_F(ConfigPage, PresetsGoOutAndComeIn)
 
     // A picture, an empty file and a cancelled dialog change nothing.
     m_app.folder.WriteRaw(u"preset/그림.conf"_s, "\x89PNG\r\n\x1a\n");
-    m_app.folder.WriteRaw(u"preset/빈.conf"_s, "");
+    m_app.folder.WriteRaw(u"preset/빈.conf"_s, m_app.folder.ReadRaw(kOwn).left(500)); // cut off
     const QByteArray own = m_app.folder.ReadRaw(kOwn);
     const std::size_t notes = m_launcher->screens.status.notes.size();
     for (const QString& name : {u"preset/그림.conf"_s, u"preset/빈.conf"_s}) {

@@ -16,6 +16,7 @@ protected:
     ConfigPageWindow()
     {
         deeds.lstConfigTitle_Click = NoteIndex(u"title"_s);
+        deeds.lstConfigTitle_DblClick = NoteIndex(u"open"_s);
         deeds.lstConfig_Row = NoteIndex(u"row"_s);
         deeds.lstConfig_Click = NoteIndex(u"edit"_s);
         deeds.lstConfigTitle_CtrlTab = NoteIndex(u"group"_s);
@@ -49,13 +50,15 @@ TEST_F(ConfigPageWindow, KeysWalkAndEditAndChangeTheGroup)
     auto* titles = Find<QListView>("lstConfigTitle");
     titles->setFocus();
     QTest::keyClick(titles, Qt::Key_Down);
-    QTest::keyClick(titles, Qt::Key_Return); // this one has no value to edit
+    QTest::keyClick(titles, Qt::Key_Return); // this one has no row among the values
     QTest::keyClick(titles, Qt::Key_Down);
     QTest::keyClick(titles, Qt::Key_Return);
     QTest::keyClick(titles, Qt::Key_Tab, Qt::ControlModifier);
     QTest::keyClick(titles, Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(
-        did, (QStringList{u"title 1"_s, u"title 2"_s, u"edit 1"_s, u"group 1"_s, u"group -1"_s}));
+        did,
+        (QStringList{
+            u"title 1"_s, u"open 1"_s, u"title 2"_s, u"open 2"_s, u"group 1"_s, u"group -1"_s}));
     did.clear();
     auto* values = Find<QListView>("lstConfig");
     const QRect second = values->visualRect(values->model()->index(1, 0));

@@ -122,8 +122,7 @@ QWidget* ConfigPage::BuildLists()
     ScrollTogether(*m_lstConfigTitle, *m_lstConfig);
     ScrollTogether(*m_lstConfig, *m_lstConfigTitle);
     m_lstConfigTitle->SetRowChosen([this](int row) { Do(m_deeds.lstConfigTitle_Click, row); });
-    m_lstConfigTitle->SetActivated(
-        [this](int item) { ClickValue(dosboxconf::RowOfItem(m_shown.screens.config, item)); });
+    m_lstConfigTitle->SetActivated([this](int item) { Do(m_deeds.lstConfigTitle_DblClick, item); });
     m_lstConfig->SetRowChosen([this](int row) { Do(m_deeds.lstConfig_Row, row); });
     m_lstConfig->SetActivated([this](int row) { ClickValue(row); });
     connect(m_lstConfig, &QListView::clicked, this, [this](const QModelIndex& index) {
