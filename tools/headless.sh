@@ -61,8 +61,21 @@ start_display() {
 is_running() { kill -0 "$1" 2>/dev/null; }
 is_gone() { ! is_running "$1"; }
 
-pelorin_window() { xdotool search --onlyvisible --name 'Ver[.][0-9]+[.]' | head -n 1; }
-dosbox_window() { xdotool search --onlyvisible --name '^DOSBox ' | head -n 1; }
+# The first window whose title matches, or nothing. A window that vanishes while the tree of windows
+# is walked ends the search with status 1, as an empty result does, but with a word on stderr: then
+# it is made again.
+window_named() {
+    local windows words
+    words=$(mktemp)
+    for _ in $(seq 10); do
+        windows=$(xdotool search --onlyvisible --name "$1" 2>"$words") || true
+        [ -z "$windows" ] && [ -s "$words" ] || break
+    done
+    rm -f "$words"
+    head -n 1 <<<"$windows"
+}
+pelorin_window() { window_named 'Ver[.][0-9]+[.]'; }
+dosbox_window() { window_named '^DOSBox '; }
 has_pelorin_window() { [ -n "$(pelorin_window)" ]; }
 has_dosbox_window() { [ -n "$(dosbox_window)" ]; }
 has_no_dosbox_window() { ! has_dosbox_window; }
