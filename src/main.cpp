@@ -258,7 +258,7 @@ int RunWindow(int argc, char** argv)
     shell::Launcher launcher(ports);
     launcher.places.appDir = AppDir();
     launcher.searchPath = platform::SearchPath();
-    launcher.defaultIcon = forms::DefaultGameIcon();
+    launcher.drawDefaultIcon = forms::DefaultGameIcon;
     prompts.SetLanguage(launcher.lang);
 
     forms::Deeds deeds;

@@ -6,6 +6,8 @@
 
 #include <QPainter>
 
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 namespace pelorin::forms {
@@ -17,14 +19,15 @@ struct EmptyTexts {
     OwnEntry hint;
 };
 
-EmptyTexts TextsOf(finding::ListOutcome outcome)
+/// None while the list has not been built: that is no finding.
+std::optional<EmptyTexts> TextsOf(finding::ListOutcome outcome)
 {
     using finding::ListOutcome;
     switch (outcome) {
-    case ListOutcome::NoFilterHit: return {kOwnNoMatch, kOwnFilterHint};
-    case ListOutcome::NoSearchHit: return {kOwnNoMatch, kOwnSearchHint};
-    case ListOutcome::NoGames: return {kOwnNoGames, kOwnAddHint};
-    default: return {};
+    case ListOutcome::NoFilterHit: return EmptyTexts{kOwnNoMatch, kOwnFilterHint};
+    case ListOutcome::NoSearchHit: return EmptyTexts{kOwnNoMatch, kOwnSearchHint};
+    case ListOutcome::NoGames: return EmptyTexts{kOwnNoGames, kOwnAddHint};
+    default: return std::nullopt;
     }
 }
 
@@ -32,9 +35,10 @@ EmptyTexts TextsOf(finding::ListOutcome outcome)
 
 void EmptyListText::Take(const finding::GameList& list, const shell::LangTable& lang)
 {
-    const EmptyTexts texts = TextsOf(list.outcome);
-    m_reason = list.items.empty() ? Own(lang, texts.reason) : QString();
-    m_hint = list.items.empty() ? Own(lang, texts.hint) : QString();
+    const std::optional<EmptyTexts> texts = TextsOf(list.outcome);
+    const bool tells = texts && list.items.empty();
+    m_reason = tells ? Own(lang, texts->reason) : QString();
+    m_hint = tells ? Own(lang, texts->hint) : QString();
 }
 
 QString EmptyListText::Spoken() const

@@ -14,6 +14,7 @@ namespace {
 
 constexpr QRgb kNoticeGround = qRgb(255, 250, 232);
 constexpr QRgb kNoticeText = qRgb(90, 84, 68);
+constexpr int kFrameMs = 16;
 
 QColor ColourOf(std::uint32_t bgr)
 {
@@ -54,12 +55,18 @@ ProgressOverlay::ProgressOverlay(const Shown& shown, QWidget* parent)
     column->setSpacing(gap);
     column->addWidget(m_lblProgress);
     column->addWidget(m_pbProgress);
+    m_frame.setSingleShot(true);
+    m_frame.setInterval(kFrameMs);
+    connect(&m_frame, &QTimer::timeout, this, [this] { ShowStep(); });
     Follow();
 }
 
 void ProgressOverlay::Place(const QRect& area)
 {
     m_area = area;
+    if (!m_model.visible) {
+        return;
+    }
     const QSize size(qMin(area.width(), Ems(*this, 26)), sizeHint().height());
     QRect place(QPoint(0, 0), size);
     place.moveCenter(area.center());
@@ -68,14 +75,27 @@ void ProgressOverlay::Place(const QRect& area)
 
 void ProgressOverlay::Follow()
 {
-    m_lblProgress->setText(m_model.text);
-    m_pbProgress->setRange(0, qMax(1, m_model.maximum));
-    m_pbProgress->setValue(m_model.value);
-    setVisible(m_model.visible);
+    if (m_model.visible && !isHidden()) {
+        // Of steps that follow each other faster than a screen shows them the last one is painted.
+        if (!m_frame.isActive()) {
+            m_frame.start();
+        }
+        return;
+    }
+    m_frame.stop();
     if (m_model.visible) {
+        ShowStep();
         Place(m_area);
         raise();
     }
+    setVisible(m_model.visible);
+}
+
+void ProgressOverlay::ShowStep()
+{
+    m_lblProgress->setText(m_model.text);
+    m_pbProgress->setRange(0, qMax(1, m_model.maximum));
+    m_pbProgress->setValue(m_model.value);
 }
 
 NoticeOverlay::NoticeOverlay(const Shown& shown, const Deeds& deeds, QWidget* parent)
@@ -148,6 +168,9 @@ void NoticeOverlay::TakeTexts(const shell::LangTable& lang)
 void NoticeOverlay::Place(const QRect& area)
 {
     m_area = area;
+    if (!m_model.visible) {
+        return; // and has not been laid out for its texts
+    }
     const QSize size = sizeHint().boundedTo(area.size());
     QRect place(QPoint(0, 0), size);
     place.moveCenter(area.center());

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QTimer>
 
 namespace pelorin::forms {
 
@@ -20,10 +21,12 @@ public:
 
 private:
     void Follow();
+    void ShowStep();
 
     shell::ProgressPanel& m_model;
     QLabel* m_lblProgress;
     QProgressBar* m_pbProgress;
+    QTimer m_frame; // runs until the next step is worth painting
     QRect m_area;
     Listening m_listening;
 };

@@ -1,6 +1,10 @@
 #include "forms/PictureFile.h"
 
+#include <QFile>
 #include <QImageReader>
+
+#include <algorithm>
+#include <array>
 
 namespace pelorin::forms {
 
@@ -15,9 +19,24 @@ qint64 BytesOf(QSize size, QImage::Format format)
     return qint64{size.width()} * size.height() * bits / 8;
 }
 
-bool IsShown(const QByteArray& format)
+struct ShownFormat {
+    const char* start; // of the file
+    const char* name;
+};
+
+/// What a file is shows in its first bytes: its name promises anything.
+constexpr std::array<ShownFormat, 4> kShownFormats{
+    {{"\xff\xd8\xff", "jpeg"}, {"\x89PNG", "png"}, {"GIF8", "gif"}, {"BM", "bmp"}}};
+
+/// Empty for all else.
+QByteArray FormatOf(QFile& file)
 {
-    return format == "jpeg" || format == "png" || format == "gif" || format == "bmp";
+    const QByteArray start = file.peek(8);
+    const auto* const hit =
+        std::find_if(kShownFormats.begin(), kShownFormats.end(), [&](const ShownFormat& format) {
+            return start.startsWith(format.start);
+        });
+    return hit == kShownFormats.end() ? QByteArray() : QByteArray(hit->name);
 }
 
 } // namespace
@@ -25,11 +44,12 @@ bool IsShown(const QByteArray& format)
 PictureFile ReadPicture(const QString& path, QSize bound)
 {
     PictureFile picture;
-    QImageReader reader(path);
-    // Told by its content: a name promises anything.
-    reader.setDecideFormatFromContent(true);
+    QFile file(path);
+    const QByteArray format = file.open(QIODevice::ReadOnly) ? FormatOf(file) : QByteArray();
+    QImageReader reader(&file, format);
+    reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(true);
-    if (!reader.canRead() || !IsShown(reader.format())) {
+    if (format.isEmpty() || !reader.canRead()) {
         picture.trouble = PictureTrouble::NoPicture;
         return picture;
     }

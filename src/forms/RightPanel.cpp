@@ -102,8 +102,10 @@ void RightPanel::ShowTab()
         page = MakePage(number);
         page->setObjectName(u"picInfo_%1"_s.arg(number));
         m_stack->addWidget(page);
-        ApplyTexts(*page, m_shown.lang);
-        page->TakeTexts();
+        if (m_shown.lang.IsLoaded()) {
+            ApplyTexts(*page, m_shown.lang);
+            page->TakeTexts();
+        }
         OrderTabs(*page);
     }
     m_stack->setCurrentWidget(page);

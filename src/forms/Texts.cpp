@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMultiHash>
 #include <QTabBar>
 
 using namespace Qt::StringLiterals;
@@ -161,10 +162,24 @@ void Give(QWidget& widget, Kind kind, const QString& text)
     }
 }
 
-void GiveNamed(QWidget& root, const QString& name, Kind kind, const QString& text)
+using NamedWidgets = QMultiHash<QString, QWidget*>;
+
+NamedWidgets NamedBelow(const QWidget& root)
 {
-    for (QWidget* widget : root.findChildren<QWidget*>(name)) {
-        Give(*widget, kind, text);
+    NamedWidgets widgets;
+    for (QWidget* widget : root.findChildren<QWidget*>()) {
+        if (const QString name = widget->objectName(); !name.isEmpty()) {
+            widgets.insert(name, widget);
+        }
+    }
+    return widgets;
+}
+
+void GiveNamed(const NamedWidgets& widgets, const QString& name, Kind kind, const QString& text)
+{
+    const auto [first, last] = widgets.equal_range(name);
+    for (auto widget = first; widget != last; ++widget) {
+        Give(**widget, kind, text);
     }
 }
 
@@ -191,16 +206,19 @@ QString Heading(const QString& text)
 
 void ApplyTexts(QWidget& root, const shell::LangTable& lang)
 {
+    const NamedWidgets widgets = NamedBelow(root);
     for (const ControlText& text : kTexts) {
-        GiveNamed(root, QString::fromUtf16(text.control), text.kind, Own(lang, text.text));
+        GiveNamed(widgets, QString::fromUtf16(text.control), text.kind, Own(lang, text.text));
     }
     for (int i = 0; i < kKeyPairs; ++i) {
         const bool last = i == kKeyPairs - 1;
-        GiveNamed(root, u"lblKeyTitle_%1"_s.arg(i), Kind::Caption, lang[last ? 230 : 86 + 2 * i]);
-        GiveNamed(root, u"lblkey_%1"_s.arg(i), Kind::Caption, lang[last ? 248 : 87 + 2 * i]);
+        GiveNamed(
+            widgets, u"lblKeyTitle_%1"_s.arg(i), Kind::Caption, lang[last ? 230 : 86 + 2 * i]);
+        GiveNamed(widgets, u"lblkey_%1"_s.arg(i), Kind::Caption, lang[last ? 248 : 87 + 2 * i]);
     }
     for (int i = 0; i < kTools; ++i) {
-        GiveNamed(root, u"cmdDownloadTools_%1"_s.arg(i), Kind::Caption, lang[kFirstToolEntry + i]);
+        GiveNamed(
+            widgets, u"cmdDownloadTools_%1"_s.arg(i), Kind::Caption, lang[kFirstToolEntry + i]);
     }
     GiveTabs(root, u"tabInfo"_s, {18, 19, 20, 21, 22, 256}, lang);
     GiveTabs(root, u"TabStrip1"_s, {26, 27, 28}, lang);

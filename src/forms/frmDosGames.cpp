@@ -72,7 +72,10 @@ frmDosGames::frmDosGames(const Shown& shown, const Deeds& deeds)
     setTabOrder(m_toolbar->BeforeAddGame(), m_addGame);
     m_configDetail = new frmConfigDetail(shown, deeds, this);
     BuildKeys();
-    Follow(MainFrame::Caption | MainFrame::Language);
+    Follow(MainFrame::Caption);
+    if (shown.lang.IsLoaded()) {
+        Follow(MainFrame::Language);
+    }
     ShowPanelsEnabled();
     resize(Ems(*this, kDesignEms), Lines(*this, kDesignLines));
     m_list->View()->setFocus();
@@ -183,7 +186,9 @@ void frmDosGames::TakeTexts()
     m_notice->TakeTexts(m_shown.lang);
     m_picBack1->TakeTexts();
     m_addGame->TakeSize();
-    ShowMinimumSize();
+    if (isVisible()) {
+        ShowMinimumSize(); // else as it comes up
+    }
 }
 
 void frmDosGames::ShowMinimumSize()

@@ -103,10 +103,19 @@ void FillList(Launcher& launcher)
     finding::RefreshGameList(launcher);
 }
 
+/// Drawn when the first scan needs it; most starts have none.
+const IconPixels& DefaultIcon(Launcher& launcher)
+{
+    if (launcher.defaultIcon.side == 0 && launcher.drawDefaultIcon) {
+        launcher.defaultIcon = launcher.drawDefaultIcon();
+    }
+    return launcher.defaultIcon;
+}
+
 ScanResult ScanUnderProgress(Launcher& launcher)
 {
     ShownProgress progress(launcher);
-    return ScanCatalogue(launcher.places, RulesOf(launcher), launcher.defaultIcon, progress);
+    return ScanCatalogue(launcher.places, RulesOf(launcher), DefaultIcon(launcher), progress);
 }
 
 Outcome<CachedCatalogue> ReadCacheUnderProgress(Launcher& launcher)
@@ -148,7 +157,7 @@ void AddGamesWithoutCache(Launcher& launcher)
     for (const QString& folder : folders) {
         GameFiles files = ListGame(launcher.places, folder);
         const bool added = AddGame(
-            files, rules, launcher.defaultIcon, launcher.catalogue, launcher.icons, troubles);
+            files, rules, DefaultIcon(launcher), launcher.catalogue, launcher.icons, troubles);
         beyondBound += added ? 0 : 1;
     }
     TellTroubles(launcher, troubles);

@@ -68,9 +68,9 @@ void IconSheet::Append(const IconPixels& icon)
     Set(Count() - 1, icon);
 }
 
-void IconSheet::AppendBand(const QByteArray& band, int count)
+void IconSheet::AppendBand(QByteArray band, int count)
 {
-    m_bands.push_back(band);
+    m_bands.push_back(std::move(band));
     for (int cell = count; cell < kSheetColumns; ++cell) {
         const std::array<char, kIconRowBytes> black{};
         PutRows(m_bands.back().data() + TopRow(cell), -kBandRowBytes, black.data(), 0);

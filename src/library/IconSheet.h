@@ -35,7 +35,7 @@ public:
     void Set(int index, const IconPixels& icon);
     void Append(const IconPixels& icon);
     /// `count` icons in a band of kBandBytes. Only behind full bands.
-    void AppendBand(const QByteArray& band, int count);
+    void AppendBand(QByteArray band, int count);
     /// Drops the icons at these places, ascending; those behind them move up.
     void Remove(const std::vector<int>& indexes);
 

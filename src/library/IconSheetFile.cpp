@@ -6,7 +6,7 @@
 #include <QtEndian>
 
 #include <algorithm>
-#include <cstring>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -99,19 +99,18 @@ QByteArray FileBand(
     return narrow;
 }
 
-/// The opposite.
-QByteArray MemoryBand(const QByteArray& fromFile)
+/// The opposite. Shorter than kBandBytes if the file ends within it.
+QByteArray ReadBand(QFile& file, SheetSize size)
 {
-    if (fromFile.size() == kBandBytes) {
-        return fromFile;
+    const qsizetype rowBytes = qsizetype{size.width} * kBytesAPixel;
+    if (rowBytes == kBandRowBytes) {
+        return file.read(kBandBytes);
     }
-    const qsizetype rowBytes = fromFile.size() / kLargeIcon;
     QByteArray wide(kBandBytes, '\0');
     for (int y = 0; y < kLargeIcon; ++y) {
-        std::memcpy(
-            wide.data() + y * kBandRowBytes,
-            fromFile.constData() + y * rowBytes,
-            static_cast<std::size_t>(rowBytes));
+        if (file.read(wide.data() + y * kBandRowBytes, rowBytes) != rowBytes) {
+            return QByteArray();
+        }
     }
     return wide;
 }
@@ -166,11 +165,11 @@ platform::Outcome<IconSheet> ReadIconSheet(const QString& path, int count, ScanP
     for (int n = 0; n < count; ++n) {
         if (n % kSheetColumns == 0) {
             file.seek(BandOffset(size, n / kSheetColumns));
-            const QByteArray band = file.read(BandBytesOf(size));
-            if (band.size() != BandBytesOf(size)) {
+            QByteArray band = ReadBand(file, size);
+            if (band.size() != kBandBytes) {
                 return FileError(ErrorKind::Unreadable, file);
             }
-            icons.AppendBand(MemoryBand(band), std::min(kSheetColumns, count - n));
+            icons.AppendBand(std::move(band), std::min(kSheetColumns, count - n));
         }
         if (!steps.At(n)) {
             return Error{ErrorKind::Abandoned, path};

@@ -203,19 +203,14 @@ QString DecodeCp949(const QByteArray& bytes)
 QStringList SplitLines(const QString& text)
 {
     QStringList lines;
-    qsizetype start = 0;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text[i] != u'\r' && text[i] != u'\n') {
-            continue;
-        }
-        lines << text.mid(start, i - start);
-        if (text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n') {
-            ++i;
-        }
-        start = i + 1;
-    }
-    if (start < text.size()) {
-        lines << text.mid(start);
+    const QChar* at = text.begin();
+    while (at != text.end()) {
+        const QChar* const end =
+            std::find_if(at, text.end(), [](QChar c) { return c == u'\r' || c == u'\n'; });
+        lines << QString(at, end - at);
+        const bool pair =
+            end != text.end() && *end == u'\r' && end + 1 != text.end() && end[1] == u'\n';
+        at = end == text.end() ? end : end + (pair ? 2 : 1);
     }
     return lines;
 }

@@ -31,6 +31,9 @@ public:
     /// OwnText of these words; without an entry their English.
     QString Told(const platform::Wording& words) const;
 
+    /// False for a table that no file has filled yet.
+    bool IsLoaded() const { return m_entries.size() > 1; }
+
     /// Entry 1 is exactly the Korean name.
     bool IsKorean() const;
 

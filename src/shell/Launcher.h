@@ -16,6 +16,7 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 
 namespace pelorin::shell {
@@ -35,7 +36,8 @@ struct Launcher {
     library::Catalogue catalogue;
     library::IconSheet icons;
     library::Drafts drafts;
-    library::IconPixels defaultIcon; // 32 x 32
+    std::function<library::IconPixels()> drawDefaultIcon;
+    library::IconPixels defaultIcon; // 32 x 32; no picture before the first scan
     dosboxconf::OptionGrid options;
     Current current;
     Flags flags;

@@ -243,6 +243,19 @@ TEST_F(GameListViewTest, ARebuildIsOneResetAndKeepsAwayFromLostRows)
     EXPECT_EQ(did, QStringList());
 }
 
+TEST_F(GameListViewTest, AnEmptyListTellsWhyOnceItWasBuilt)
+{
+    screens.list.items.clear();
+    screens.list.Select(-1);
+    Open();
+    const QImage before = Icons()->viewport()->grab().toImage();
+    EXPECT_EQ(Icons()->accessibleDescription(), QString());
+    screens.list.outcome = finding::ListOutcome::NoGames;
+    screens.list.changed.Tell(GameList::Reset);
+    EXPECT_TRUE(Icons()->accessibleDescription().startsWith(u"No games to show"_s));
+    EXPECT_NE(Icons()->viewport()->grab().toImage(), before);
+}
+
 TEST_F(GameListViewTest, ColumnsAreFifteenUnitsAPixel)
 {
     screens.list.view = View::Details;

@@ -528,6 +528,12 @@ TEST_F(WindowDeedsTest, NoticeAndProgressStayReadableOverDisabledPanels)
         EXPECT_LE((centre(name) - centre("LVGamelist")).manhattanLength(), 2) << name;
     }
     EXPECT_FALSE(Find("LVGamelist_icons")->isEnabled());
+    // Steps faster than the screen are not painted each, but the last one is.
+    for (const int value : {5, 6, 7}) {
+        screens.progress.value = value;
+        screens.progress.changed.Tell(shell::ProgressPanel::All);
+    }
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Find<QProgressBar>("pbProgress")->value() == 7; }));
 }
 
 TEST_F(WindowDeedsTest, TheSmallestSizeIsMadeOfWhatIsShown)
