@@ -140,6 +140,11 @@ void AddSaving(const BenchInstallation& installation, const QStringList& cacheFi
         icons.Set(0, library::PlainIcon(library::kLargeIcon, 1, 2, 3));
         TimeEach(state, [&] { return fail(state, Save(place, installation, icons)); });
     });
+    AddFigure("save_one_icon/floor", [=, &installation](benchmark::State& state) {
+        const SavePlace place(installation, cacheFiles);
+        fail(state, Save(place, installation, installation.icons));
+        TimeEach(state, [&] { return fail(state, CopyByCp(place.former, place.folder.path())); });
+    });
 }
 
 } // namespace

@@ -157,11 +157,16 @@ platform::Done SaveSheet(
     const QString path = SheetPath(places);
     if (!IconSheetIsCurrent(path, icons, positions)) {
         // The list belongs to the sheet that is about to go. Should the program end before the new
-        // list is in its place, a missing one is noticed; one of another order would not be.
-        const auto dropList = [&] { return archives::DeleteFileIfThere(listPath); };
+        // list is in its place, a missing one is noticed; one of another order would not be. The
+        // sheet alone is worth nothing then, and a file system that is told to put a file in the
+        // place of another first brings 100 MB to the disk.
+        const auto dropOld = [&] {
+            const platform::Done dropped = archives::DeleteFileIfThere(listPath);
+            return dropped ? archives::DeleteFileIfThere(path) : dropped;
+        };
         // The window lives meanwhile, but what is being saved is saved to its end.
         const auto breathe = [&] { std::ignore = progress.Breathe(); };
-        platform::Done written = WriteIconSheet(path, icons, positions, dropList, breathe);
+        platform::Done written = WriteIconSheet(path, icons, positions, dropOld, breathe);
         if (!written) {
             return written;
         }

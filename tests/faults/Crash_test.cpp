@@ -150,7 +150,7 @@ TEST_F(CrashTest, SettingsAndRecentListReadOldOrNew)
 
 TEST_F(CrashTest, CacheReadsOldOrNewOrNotAtAll)
 {
-    m_mayVanish = QStringList{u"Gamelist.lst"_s};
+    m_mayVanish = QStringList{u"Gamelist.lst"_s, u"IconList.bmp"_s};
     test::RecordedProgress progress;
     const auto save = [&](const Library& made) {
         return library::SaveCatalogueCache(m_places, made.catalogue, made.icons, progress).Ok();
