@@ -104,6 +104,7 @@ void WireConfigPage(forms::Deeds& deeds, shell::Launcher& launcher)
             launcher, step > 0 ? GroupStep::Next : GroupStep::Previous);
     };
     deeds.lstConfig_Row = [&](int row) { dosboxconf::lstConfig_Row(launcher, row); };
+    deeds.lstConfig_Focus = [&](bool here) { launcher.flags.ConfigListFocused = here; };
     deeds.lstConfig_Click = [&](int row) { dosboxconf::lstConfig_Click(launcher, row); };
     deeds.cmbConfig_Click = [&](int index) { dosboxconf::cmbConfig_Click(launcher, index); };
     deeds.cmbConfig_Leave = [&] { dosboxconf::cmbConfig_Leave(launcher); };

@@ -189,7 +189,7 @@ bool Agrees(Launcher& launcher, const QString& korean, const QString& english)
         launcher.lang[1],
         platform::Buttons::OkCancel,
         platform::BoxIcon::Question});
-    return answer == platform::Answer::Ok;
+    return answer == platform::Answer::Ok && !launcher.flags.JobHeld;
 }
 
 /// The page is loaded anew, and the game's entry with it.
@@ -224,7 +224,8 @@ void RestoreDefaults(Launcher& launcher)
 void DeleteGameConf(Launcher& launcher)
 {
     const QString folder = ShownGame(launcher);
-    if (!Agrees(launcher, u"설정을 삭제합니다"_s, u"Delete Setting"_s)) {
+    if (!Agrees(launcher, u"설정을 삭제합니다"_s, u"Delete Setting"_s) ||
+        shell::ShowsFormerRoot(launcher)) {
         return;
     }
     // By name: another game may be shown by now.
@@ -264,6 +265,18 @@ void ShowConfigPage(Launcher& launcher)
     const LoadedConf loaded = LoadGameConf(launcher.places, ShownGame(launcher), launcher.options);
     TellReport(launcher, loaded.report);
     ShowConfigPage(launcher, loaded);
+}
+
+std::optional<Selection> UnsavedEdits(const Launcher& launcher)
+{
+    const bool some = ShowsConfigPage(launcher) && !IsSaved(launcher);
+    return some ? std::optional(launcher.options.OptionSelection) : std::nullopt;
+}
+
+void ShowEdits(Launcher& launcher, const Selection& edits)
+{
+    launcher.options.OptionSelection = edits;
+    ShowRows(launcher);
 }
 
 void chkEditConfig_Click(Launcher& launcher, bool checked)

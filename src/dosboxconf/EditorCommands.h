@@ -2,6 +2,9 @@
 
 #include "dosboxconf/ConfFiles.h"
 #include "dosboxconf/ConfigEditor.h"
+#include "dosboxconf/OptionGrid.h"
+
+#include <optional>
 
 namespace pelorin::shell {
 struct Launcher;
@@ -19,6 +22,11 @@ bool ShowsConfigPage(const shell::Launcher& launcher);
 /// for that game; the second form loads it. Without the page nothing but the loading happens.
 void ShowConfigPage(shell::Launcher& launcher, const LoadedConf& loaded);
 void ShowConfigPage(shell::Launcher& launcher);
+
+/// What the page shown holds beyond its files, and the way back to it after something else was loaded
+/// into the grid; the game and the tab are the same.
+std::optional<Selection> UnsavedEdits(const shell::Launcher& launcher);
+void ShowEdits(shell::Launcher& launcher, const Selection& edits);
 
 /// The user took the check box to `checked`: the game's settings are edited, or its differences
 /// shown again.

@@ -103,6 +103,7 @@ struct Deeds {
     IndexDeed lstConfigTitle_DblClick; // Enter as well
     IndexDeed lstConfigTitle_CtrlTab;  // 1 forward, -1 back
     IndexDeed lstConfig_Row;           // gone to
+    CheckDeed lstConfig_Focus;         // it came or went
     IndexDeed lstConfig_Click;         // clicked, or Enter
     IndexDeed cmbConfig_Click;         // the value chosen
     Deed cmbConfig_Leave;

@@ -204,7 +204,7 @@ QStringList RunnableFiles(const GameFiles& files)
     return FilesEndingWith(files.game, std::array<QStringView, 3>{u".exe", u".com", u".bat"});
 }
 
-QStringList Pictures(const GameFiles& files)
+QStringList PictureFiles(const GameFiles& files)
 {
     QStringList pictures = FilesEndingWith(
         files.meta, std::array<QStringView, 5>{u".jpg", u".jpeg", u".png", u".gif", u".bmp"});
@@ -214,7 +214,7 @@ QStringList Pictures(const GameFiles& files)
     return pictures;
 }
 
-QStringList Recordings(const GameFiles& files)
+QStringList RecordingFiles(const GameFiles& files)
 {
     return FilesEndingWith(files.meta, std::array<QStringView, 3>{u".avi", u".wav", u".vgm"});
 }
@@ -225,7 +225,7 @@ QString ManualDir(const GameFiles& files)
     return name.isEmpty() ? QString() : files.metaDir + u'/' + name;
 }
 
-QStringList Manuals(const GameFiles& files)
+QStringList ManualFiles(const GameFiles& files)
 {
     const QString folder = ManualDir(files);
     return folder.isEmpty() ? QStringList() : platform::ListFolder(folder).files;

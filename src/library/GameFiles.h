@@ -75,12 +75,12 @@ bool IsGameStored(const GameFiles& files);
 QStringList RunnableFiles(const GameFiles& files);
 /// Names in MetaDir that are pictures (*.jpg, *.jpeg, *.png, *.gif, *.bmp), by name; the game's own
 /// icon file comes last, so that it is not what the details show first.
-QStringList Pictures(const GameFiles& files);
+QStringList PictureFiles(const GameFiles& files);
 /// Names in MetaDir that are recordings (*.avi, *.wav, *.vgm), by name.
-QStringList Recordings(const GameFiles& files);
+QStringList RecordingFiles(const GameFiles& files);
 /// The folder Manual of MetaDir in its spelling on disk; empty if there is none.
 QString ManualDir(const GameFiles& files);
 /// Names in it, listed at each call.
-QStringList Manuals(const GameFiles& files);
+QStringList ManualFiles(const GameFiles& files);
 
 } // namespace pelorin::library

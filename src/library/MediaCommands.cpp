@@ -70,11 +70,11 @@ QStringList FilesNow(const FileList& list, Media media)
     GameFiles files;
     files.meta = platform::ListFolder(list.folder);
     switch (media) {
-    case Media::Recordings: return Recordings(files);
+    case Media::Recordings: return RecordingFiles(files);
     case Media::Manuals: return files.meta.files;
     case Media::Pictures: break;
     }
-    return Pictures(files);
+    return PictureFiles(files);
 }
 
 } // namespace
@@ -83,10 +83,10 @@ void FillMedia(Launcher& launcher, const GameFiles& files)
 {
     MediaPanel& panel = launcher.screens.media;
     if (files.meta.exists) {
-        const QStringList pictures = Pictures(files);
+        const QStringList pictures = PictureFiles(files);
         panel.fileImages = {files.metaDir, pictures, pictures.isEmpty() ? -1 : 0};
-        panel.fileAV = {files.metaDir, Recordings(files), -1};
-        panel.fileManual = {ManualDir(files), Manuals(files), -1};
+        panel.fileAV = {files.metaDir, RecordingFiles(files), -1};
+        panel.fileManual = {ManualDir(files), ManualFiles(files), -1};
     }
     panel.TabStrip1 =
         static_cast<int>(panel.fileManual.files.isEmpty() ? Media::Pictures : Media::Manuals);

@@ -19,6 +19,8 @@
 
 #include <QFileInfo>
 
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 namespace pelorin::running {
@@ -40,30 +42,6 @@ struct Launch {
     QList<platform::Wording> notes;
 };
 
-/// Without a program: of the Windows program that is there and can't be run, else our own.
-platform::PathForm FormOf(const Outcome<platform::HostProgram>& found, const QString& asked)
-{
-    if (found) {
-        return found.Value().pathForm;
-    }
-    return QFileInfo::exists(asked) ? platform::PathForm::Windows : platform::PathForm::Posix;
-}
-
-RunEnding EndingOf(const Launcher& launcher, const RunRequest& request, const QString& build)
-{
-    RunEnding ending{request.mode, request.startCommands, request.typedLine, false, {}};
-    ending.addkey = WantsAddkey(
-        request.mode,
-        launcher.options,
-        launcher.places.gamesRoot,
-        launcher.ports.desktop.NumLockOn());
-    if (BranchOf(request.mode, build, request.startCommands.size()) == RunBranch::GuestWindows) {
-        ending.guestLines =
-            GuestWindowsLines(request.mode, build, request.startCommands, launcher.places);
-    }
-    return ending;
-}
-
 /// Composes and checks without writing anything. A missing program is no error yet.
 Outcome<Launch> PrepareLaunch(Launcher& launcher, const RunRequest& request, const QString& build)
 {
@@ -73,14 +51,8 @@ Outcome<Launch> PrepareLaunch(Launcher& launcher, const RunRequest& request, con
     if (!composed) {
         return composed.Failure();
     }
-    const CommandLine command = DosboxCommandLine(launcher.options);
-    const QString workingFolder =
-        launcher.places.InAppDir(u"DOSBox/"_s + ConfigFolder(request.mode, build));
-    const QString asked = platform::ResolvePath(workingFolder, command.program);
-    const platform::ProgramHost host(launcher.places.appDir, launcher.searchPath);
-    const Outcome<platform::HostProgram> found = host.Find(asked);
-    const platform::PathForm form = FormOf(found, asked);
-
+    const Emulator emulator = FindEmulator(launcher, request.mode, build);
+    const platform::PathForm form = emulator.pathForm;
     if (const platform::Done possible = CheckCommands(request, form); !possible) {
         return possible.Failure();
     }
@@ -92,15 +64,15 @@ Outcome<Launch> PrepareLaunch(Launcher& launcher, const RunRequest& request, con
     Launch launch{
         composed.Value().glideOn,
         platform::ProcessRequest(),
-        platform::ResolvePath(workingFolder, u"dosbox.conf"_s),
+        platform::ResolvePath(emulator.folder, u"dosbox.conf"_s),
         text.Print(form),
         text.Preview(form),
         LaunchNotes(request, text, form)};
-    if (found) {
-        launch.request =
-            found.Value().Request(command.arguments, workingFolder, ShowStateOf(request.mode));
+    if (emulator.program) {
+        launch.request = emulator.program.Value().Request(
+            emulator.arguments, emulator.folder, ShowStateOf(request.mode));
     } else {
-        launch.request = found.Failure();
+        launch.request = emulator.program.Failure();
     }
     return launch;
 }
@@ -179,6 +151,36 @@ void WriteAndStart(Launcher& launcher, const RunRequest& request, const QString&
 
 } // namespace
 
+Emulator FindEmulator(const Launcher& launcher, RunMode mode, const QString& build)
+{
+    const CommandLine command = DosboxCommandLine(launcher.options);
+    const QString folder = launcher.places.InAppDir(u"DOSBox/"_s + ConfigFolder(mode, build));
+    const QString asked = platform::ResolvePath(folder, command.program);
+    const platform::ProgramHost host(launcher.places.appDir, launcher.searchPath);
+    Emulator emulator{folder, command.arguments, host.Find(asked), platform::PathForm::Posix};
+    if (emulator.program) {
+        emulator.pathForm = emulator.program.Value().pathForm;
+    } else if (QFileInfo::exists(asked)) {
+        emulator.pathForm = platform::PathForm::Windows; // that can't be run here
+    }
+    return emulator;
+}
+
+RunEnding EndingOf(const Launcher& launcher, const RunRequest& request, const QString& build)
+{
+    RunEnding ending{request.mode, request.startCommands, request.typedLine, false, {}};
+    ending.addkey = WantsAddkey(
+        request.mode,
+        launcher.options,
+        launcher.places.gamesRoot,
+        launcher.ports.desktop.NumLockOn());
+    if (BranchOf(request.mode, build, request.startCommands.size()) == RunBranch::GuestWindows) {
+        ending.guestLines =
+            GuestWindowsLines(request.mode, build, request.startCommands, launcher.places);
+    }
+    return ending;
+}
+
 Outcome<dosboxconf::ConfText> BuildDosboxConf(
     Launcher& launcher, const RunRequest& request, const dosboxconf::RunFacts& facts)
 {
@@ -199,8 +201,12 @@ Outcome<dosboxconf::ConfText> BuildDosboxConf(
 
 void LaunchDosbox(Launcher& launcher, const RunRequest& request, const QString& build)
 {
+    const std::optional<dosboxconf::Selection> edits = dosboxconf::UnsavedEdits(launcher);
     WriteAndStart(launcher, request, build);
-    if (dosboxconf::ShowsConfigPage(launcher)) {
+    // The start has loaded what it needs into the grid.
+    if (edits) {
+        dosboxconf::ShowEdits(launcher, *edits);
+    } else if (dosboxconf::ShowsConfigPage(launcher)) {
         dosboxconf::ShowConfigPage(launcher);
     }
 }

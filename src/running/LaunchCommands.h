@@ -1,10 +1,14 @@
 #pragma once
 
 #include "dosboxconf/ConfCompose.h"
+#include "platform/HostText.h"
 #include "platform/Outcome.h"
+#include "platform/ProgramHost.h"
+#include "running/RunPlan.h"
 #include "running/RunRequest.h"
 
 #include <QString>
+#include <QStringList>
 
 namespace pelorin::shell {
 struct Launcher;
@@ -19,10 +23,23 @@ namespace pelorin::running {
 platform::Outcome<dosboxconf::ConfText> BuildDosboxConf(
     shell::Launcher& launcher, const RunRequest& request, const dosboxconf::RunFacts& facts);
 
+/// What a start runs, by the build and the grid as it is.
+struct Emulator {
+    QString folder; // where it runs and finds its dosbox.conf
+    QStringList arguments;
+    platform::Outcome<platform::HostProgram> program; // or why there is none
+    platform::PathForm pathForm = platform::PathForm::Posix; // of the paths in its dosbox.conf
+};
+Emulator FindEmulator(const shell::Launcher& launcher, RunMode mode, const QString& build);
+
+/// How the text of a start ends, by the grid as it is and the keyboard's NumLock.
+RunEnding EndingOf(const shell::Launcher& launcher, const RunRequest& request, const QString& build);
+
 /// Composes, writes dosbox.conf (and glide.ini) into the folder of the build and starts the emulator
 /// there. What holds it back is told in the status bar's fourth panel, and nothing is written then;
 /// of an emulator that is missing or does not come up, dosbox.conf is written and the game enters
-/// the recent list. Afterwards the page of options shows what it edits again.
+/// the recent list. Afterwards the page of options shows what it edits again, edits that are not saved
+/// included.
 void LaunchDosbox(shell::Launcher& launcher, const RunRequest& request, const QString& build);
 
 } // namespace pelorin::running

@@ -9,8 +9,9 @@ struct Launcher;
 namespace pelorin::running {
 
 /// The dosbox.conf that a start of the current game would write if the grid's selection were its
-/// saved settings; nothing is read from the game's files or written. Empty where such a start writes
-/// none: the game has no start commands, or its build is no DOSBox.
+/// saved settings, with paths in the form of the program that it would find; nothing is read from
+/// the game's files or written. Of a game without start commands it is the text of the DOS prompt,
+/// which such a start offers. Empty where the build is no DOSBox.
 QString PreviewGameText(const shell::Launcher& launcher);
 
 } // namespace pelorin::running

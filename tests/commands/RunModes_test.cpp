@@ -1,5 +1,6 @@
 #include "dosboxconf/EditorCommands.h"
 #include "library/ShowinfoCommands.h"
+#include "platform/TextFile.h"
 #include "running/RunCommands.h"
 #include "running/RunMenuCommands.h"
 #include "support/Installation.h"
@@ -187,6 +188,55 @@ TEST_F(RunModes, WithoutStartCommandsThePromptIsOffered)
     running::RunGame(*m_launcher);
     EXPECT_EQ(Started().size(), 2U);
     EXPECT_TRUE(Conf().contains(u"\r\nMount W ../../DOSBox/Win31KOR\r\n\r\nCALL VESPRA.BAT\r\n"_s));
+}
+
+TEST_F(RunModes, ThePageOfOptionsShowsWhatAStartWrites)
+{
+    Start();
+    const dosboxconf::ConfigEditor& editor = m_launcher->screens.config;
+    m_launcher->screens.frame.tabInfo = dosboxconf::kGameTab;
+    const auto written = [&](const QString& conf, bool windows = false) {
+        library::tabInfo_Click(*m_launcher);
+        const QString shown = editor.preview.text;
+        running::RunGame(*m_launcher);
+        EXPECT_FALSE(shown.isEmpty());
+        const QByteArray bytes = m_app.folder.ReadRaw(conf);
+        EXPECT_EQ(shown, windows ? platform::DecodeCp949(bytes) : QString::fromUtf8(bytes));
+    };
+    written(kConf);
+    for (const QString& build : {u"Win31ENG"_s, u"Win98"_s}) {
+        GiveBuild(build);
+        written(kConf);
+    }
+    m_app.folder.MakeTree({u"DOSBox/0.73/dosbox.exe"_s}); // its paths are Windows'
+    GiveBuild(u"0.73"_s);
+    written(u"DOSBox/0.73/dosbox.conf"_s, true);
+    // Without start commands the prompt is what a start offers.
+    m_app.folder.WriteText(u"Games/하나/DosBox/autoexec.conf"_s, QString());
+    GiveBuild(u"0.74_SVN"_s);
+    m_app.fakes.prompts.WillAnswer(Answer::Yes);
+    written(kConf);
+    GiveBuild(u"ANEX86"_s);
+    m_launcher->screens.frame.tabInfo = dosboxconf::kGameTab;
+    library::tabInfo_Click(*m_launcher);
+    EXPECT_EQ(editor.preview.text, QString());
+}
+
+TEST_F(RunModes, EditsThatAreNotSavedOutliveAStart)
+{
+    Start();
+    m_launcher->screens.frame.tabInfo = dosboxconf::kGlobalTab;
+    library::tabInfo_Click(*m_launcher);
+    const std::int32_t saved = m_launcher->options.Selected(dosboxconf::kFullscreenCell);
+    dosboxconf::Selection edited = m_launcher->options.OptionSelection;
+    edited[dosboxconf::OptionGrid::Index(dosboxconf::kFullscreenCell)] = 1 - saved;
+    m_launcher->options.OptionSelection = edited;
+    running::RunLibraryShell(*m_launcher);
+    EXPECT_EQ(m_launcher->options.OptionSelection, edited);
+    EXPECT_EQ(
+        Conf().contains(u"fullscreen=true"_s),
+        m_launcher->options.ValueText(dosboxconf::kFullscreenCell, saved) == u"true"_s)
+        << "the start itself takes what is saved";
 }
 
 TEST_F(RunModes, AWrapperGetsItsIniOnceItIsThere)

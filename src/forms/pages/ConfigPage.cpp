@@ -117,6 +117,7 @@ QWidget* ConfigPage::BuildLists()
     m_lstConfigTitle->installEventFilter(this);
     m_lstConfig = new RowList(editor.lstConfig, editor.configRow, pair);
     m_lstConfig->setObjectName(u"lstConfig"_s);
+    m_lstConfig->installEventFilter(this);
     lists->addWidget(m_lstConfigTitle, 3);
     lists->addWidget(m_lstConfig, 2);
     ScrollTogether(*m_lstConfigTitle, *m_lstConfig);
@@ -206,6 +207,12 @@ void ConfigPage::ClickValue(int row)
 
 bool ConfigPage::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == m_lstConfig) {
+        if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+            Do(m_deeds.lstConfig_Focus, event->type() == QEvent::FocusIn);
+        }
+        return Page::eventFilter(watched, event);
+    }
     // As a shortcut override too, so that no tab bar takes it.
     const bool press = event->type() == QEvent::KeyPress;
     if (!press && event->type() != QEvent::ShortcutOverride) {
