@@ -71,7 +71,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!read) {
         return 0;
     }
-    const library::Catalogue& catalogue = read.Value().catalogue;
+    const library::GameEntries& catalogue = read.Value().catalogue;
     const library::IconSheet& icons = read.Value().icons;
     library::FoldersWithoutCache(places, catalogue);
     fuzz::Require(icons.Count() == static_cast<int>(catalogue.size()), "an icon for each game");
@@ -83,7 +83,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     const auto again = library::ReadCatalogueCache(places, progress);
     fuzz::Require(again.Ok(), "what was saved can be read");
-    const library::Catalogue& second = again.Value().catalogue;
+    const library::GameEntries& second = again.Value().catalogue;
     fuzz::Require(
         std::equal(catalogue.begin(), catalogue.end(), second.begin(), second.end(), SameGame),
         "what was saved reads the same");

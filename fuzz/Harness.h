@@ -55,5 +55,5 @@ public:
 
 } // namespace pelorin::fuzz
 
-/// The entry that libFuzzer calls.
+/// The entry that libFuzzer (or Replay.cpp) calls.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
