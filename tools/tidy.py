@@ -24,7 +24,7 @@ import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 TIDY = "clang-tidy-14"
-OURS = re.compile(r"(src|tools|tests|bench)/([a-z0-9]+/)*[A-Za-z0-9_]+\.cpp")
+OURS = re.compile(r"(src|tools|tests|fuzz|bench)/([a-z0-9]+/)*[A-Za-z0-9_]+\.cpp")
 INCLUDE = re.compile(rb'^[ \t]*#[ \t]*include[ \t]*"([^"]+)"', re.MULTILINE)
 LIBRARIES = ["qt6-base-dev", "libfreeimage-dev", "libgtest-dev", "libgmock-dev", "libbenchmark-dev",
              "libstdc++-12-dev"]
@@ -45,7 +45,7 @@ class Includes:
         if file not in self._direct:
             found = set()
             for name in INCLUDE.findall(file.read_bytes()):
-                for base in (file.parent, ROOT / "src", ROOT / "tests", ROOT / "tools", ROOT / "bench"):
+                for base in (file.parent, ROOT, ROOT / "src", ROOT / "tests", ROOT / "tools", ROOT / "bench"):
                     candidate = base / os.fsdecode(name)
                     if candidate.is_file():
                         found.add(candidate.resolve())
@@ -130,7 +130,7 @@ def main():
     sources = wanted_sources(options.files, commands, includes)
     surroundings = b"\0".join(
         [
-            (ROOT / ".clang-tidy").read_bytes(),
+            *(file.read_bytes() for file in (ROOT / ".clang-tidy", ROOT / "tests/.clang-tidy")),
             printed_by([TIDY, "--version"]),
             printed_by(["dpkg-query", "-W", "-f=${Package} ${Version}\n"] + LIBRARIES),
         ]
