@@ -11,8 +11,8 @@ packages_of() {
     run) # what the program starts, and what a window needs to look right (Korean, icons, file types)
         echo dosbox dosbox-debug 7zip libqt6svg6 fonts-nanum \
             xdg-utils file shared-mime-info ;;
-    test) # test libraries, what makes CD images, and a display without a monitor whose windows can be read and driven
-        echo libgtest-dev libgmock-dev python3 genisoimage \
+    test) # test libraries, what makes CD images and programs of Windows, what runs those, and a display without a monitor whose windows can be read and driven
+        echo libgtest-dev libgmock-dev python3 genisoimage gcc-mingw-w64-x86-64 wine wine64 \
             xvfb openbox xdotool wmctrl imagemagick x11-apps x11-utils xauth ;;
     check) # formatting and linting
         echo git ccache clang-format-14 clang-tidy-14 ;;

@@ -54,9 +54,9 @@ TEST_F(GameFilesTest, ListsByKindAndName)
     }
     const GameFiles files = List(u"A"_s);
     EXPECT_EQ(library::RunnableFiles(files), Words(u"A.bat b.com Zork.EXE"_s));
-    EXPECT_EQ(library::Pictures(files), Words(u"b.jpeg z.Png ICON.JPG"_s)) << "the icon last";
-    EXPECT_EQ(library::Recordings(files), Words(u"cut.avi song.VGM"_s));
-    EXPECT_EQ(library::Manuals(files), Words(u"1.txt 2.txt"_s));
+    EXPECT_EQ(library::PictureFiles(files), Words(u"b.jpeg z.Png ICON.JPG"_s)) << "the icon last";
+    EXPECT_EQ(library::RecordingFiles(files), Words(u"cut.avi song.VGM"_s));
+    EXPECT_EQ(library::ManualFiles(files), Words(u"1.txt 2.txt"_s));
     EXPECT_TRUE(library::IsGameStored(files));
 }
 
