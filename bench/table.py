@@ -45,6 +45,10 @@ ROWS = [
     Row("Jump to a row, small icons", "jump_small/is"),
     Row("Jump to a row, details", "jump_details/is"),
     Row("One selection", "selection/is", "selection/floor"),
+    Row("A text for DOSBox composed", "compose/is", "compose/floor", 1),
+    Row("From Enter until the emulator's process runs", "enter/is", "enter/floor", most=50),
+    Row("Another group of options shown", "option_group/is", most=16),
+    Row("Held arrow key, details behind the last press", "held_key/is", most=60),
 ]
 
 # Words, the figure, its counter, unit, the most.
@@ -52,6 +56,7 @@ Counter = collections.namedtuple("Counter", "words figure counter unit most", de
 COUNTERS = [
     Counter("Most memory: scan, list, saving", "first_start_32767/is", "peak_MiB", "MiB", 300),
     Counter("Most memory: cache, list, saving", "whole_run_32767/is", "peak_MiB", "MiB", 300),
+    Counter("Held arrow key, selection behind a press", "held_key/is", "follow_ms", "ms"),
     Counter("Window events unserved, during the scan", "first_start_32767/is", "gap_in_job_ms", "ms", 50),
     Counter("Window events unserved, whole first start", "first_start_32767/is", "gap_ms", "ms"),
     Counter("Window events unserved, start by the cache", "start_32767/is", "gap_ms", "ms"),

@@ -1,19 +1,17 @@
 // bench_window APP_DIR [options of Google Benchmark]: figures of the window over a large library.
 
+#include "BenchWindow.h"
 #include "Dice.h"
 #include "Figures.h"
 #include "Floors.h"
-#include "QuietPorts.h"
 #include "finding/FilterCommands.h"
-#include "forms/Pictures.h"
-#include "forms/frmDosGames.h"
 #include "library/ShowinfoCommands.h"
-#include "shell/Launcher.h"
-#include "shell/LifecycleCommands.h"
 
-#include <QAbstractItemView>
 #include <QApplication>
+#include <QKeyEvent>
 
+#include <algorithm>
+#include <chrono>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -21,42 +19,6 @@ using namespace Qt::StringLiterals;
 namespace pelorin::bench {
 
 namespace {
-
-/// The window as main makes it, brought up over the library.
-struct BenchWindow {
-    explicit BenchWindow(const QString& appDir)
-    {
-        launcher.places.appDir = appDir;
-        launcher.defaultIcon = forms::DefaultGameIcon();
-        deeds.LVGamelist_ItemClick = [this] { library::LVGamelist_ItemClick(launcher); };
-        deeds.LVGamelist_SelectionMoved = [this] { library::LVGamelist_SelectionMoved(launcher); };
-        form.emplace(
-            forms::Shown{
-                launcher.screens,
-                launcher.lang,
-                launcher.settings,
-                launcher.icons,
-                launcher.options,
-                quiet.prompts},
-            deeds);
-        if (const platform::Done loaded = shell::Form_Load(launcher); !loaded) {
-            qFatal("%s", qUtf8Printable(loaded.Failure().text));
-        }
-    }
-
-    QWidget& Viewport()
-    {
-        const char* const name = launcher.screens.list.view == finding::View::Details
-                                     ? "LVGamelist_details"
-                                     : "LVGamelist_icons";
-        return *form->findChild<QAbstractItemView*>(QString::fromLatin1(name))->viewport();
-    }
-
-    QuietPorts quiet;
-    shell::Launcher launcher{quiet.ports};
-    forms::Deeds deeds;
-    std::optional<forms::frmDosGames> form;
-};
 
 /// From a rebuilt list to its picture.
 void AddPaint(const char* name, BenchWindow& window, finding::View view)
@@ -121,6 +83,44 @@ void AddSelection(BenchWindow& window)
     })->Iterations(100);
 }
 
+/// An arrow key held down over the list: how long a press waits for its turn, and how long the details
+/// are behind the last one, whose release never comes.
+void AddHeldKey(BenchWindow& window)
+{
+    AddFigure("held_key/is", [&](benchmark::State& state) {
+        constexpr int kPresses = 100;
+        constexpr std::chrono::milliseconds kApart{10};
+        finding::SetView(window.launcher, finding::View::Details);
+        const finding::GameList& list = window.launcher.screens.list;
+        QWidget& view = *window.Viewport().parentWidget();
+        double longestWait = 0;
+        for ([[maybe_unused]] auto unused : state) {
+            window.launcher.screens.list.Select(0);
+            QCoreApplication::processEvents();
+            Clock::time_point due = Clock::now();
+            for (int press = 1; press <= kPresses; ++press) {
+                due += kApart;
+                while (Clock::now() < due) {
+                    QCoreApplication::processEvents();
+                }
+                QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier, {}, press > 1);
+                QCoreApplication::sendEvent(&view, &down);
+                if (list.selected != press) {
+                    state.SkipWithError("the selection did not follow");
+                    return;
+                }
+                longestWait = std::max(longestWait, SecondsSince(due));
+            }
+            const QString& folder = list.items[kPresses].Folder();
+            while (window.launcher.screens.details.folder != folder) {
+                QCoreApplication::processEvents();
+            }
+            state.SetIterationTime(SecondsSince(due));
+        }
+        state.counters["follow_ms"] = 1000 * longestWait;
+    });
+}
+
 } // namespace
 
 } // namespace pelorin::bench
@@ -143,6 +143,8 @@ int main(int argc, char** argv)
     bench::AddJump("jump_small/is", window, View::SmallIcons);
     bench::AddJump("jump_details/is", window, View::Details);
     bench::AddSelection(window);
+    bench::AddHeldKey(window);
+    bench::AddRunFigures(window);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

@@ -27,13 +27,14 @@ platform::Outcome<dosboxconf::ConfText> BuildDosboxConf(
 struct Emulator {
     QString folder; // where it runs and finds its dosbox.conf
     QStringList arguments;
-    platform::Outcome<platform::HostProgram> program; // or why there is none
+    platform::Outcome<platform::HostProgram> program;        // or why there is none
     platform::PathForm pathForm = platform::PathForm::Posix; // of the paths in its dosbox.conf
 };
 Emulator FindEmulator(const shell::Launcher& launcher, RunMode mode, const QString& build);
 
 /// How the text of a start ends, by the grid as it is and the keyboard's NumLock.
-RunEnding EndingOf(const shell::Launcher& launcher, const RunRequest& request, const QString& build);
+RunEnding EndingOf(
+    const shell::Launcher& launcher, const RunRequest& request, const QString& build);
 
 /// Composes, writes dosbox.conf (and glide.ini) into the folder of the build and starts the emulator
 /// there. What holds it back is told in the status bar's fourth panel, and nothing is written then;

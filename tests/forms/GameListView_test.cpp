@@ -6,9 +6,13 @@
 
 #include <QAbstractItemView>
 #include <QHeaderView>
+#include <QIdentityProxyModel>
 #include <QLabel>
 #include <QListView>
+#include <QSet>
 #include <QTreeView>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -16,6 +20,25 @@ namespace pelorin::test {
 
 using finding::GameList;
 using finding::View;
+
+/// Stands before the list's model and notes the rows that a view asks about.
+class AskedRows : public QIdentityProxyModel {
+public:
+    QVariant data(const QModelIndex& index, int role) const override
+    {
+        m_rows.insert(index.row());
+        return QIdentityProxyModel::data(index, role);
+    }
+    void multiData(const QModelIndex& index, QModelRoleDataSpan roles) const override
+    {
+        m_rows.insert(index.row());
+        QIdentityProxyModel::multiData(index, roles);
+    }
+    int Take() { return static_cast<int>(std::exchange(m_rows, {}).size()); }
+
+private:
+    mutable QSet<int> m_rows;
+};
 
 class GameListViewTest : public WindowTest {
 protected:
@@ -254,6 +277,47 @@ TEST_F(GameListViewTest, AnEmptyListTellsWhyOnceItWasBuilt)
     screens.list.changed.Tell(GameList::Reset);
     EXPECT_TRUE(Icons()->accessibleDescription().startsWith(u"No games to show"_s));
     EXPECT_NE(Icons()->viewport()->grab().toImage(), before);
+}
+
+TEST_F(GameListViewTest, OnlyRowsInSightAreAskedFor)
+{
+    constexpr int kBeyondSight = 20;
+    finding::GameItem item = screens.list.items[0];
+    for (int i = 0; i < 5000; ++i) {
+        item.text[0] = u"Title of a game %1"_s.arg(i);
+        screens.list.items.push_back(item);
+    }
+    Open();
+    for (const View view : {View::LargeIcons, View::SmallIcons, View::List, View::Details}) {
+        SCOPED_TRACE(static_cast<int>(view));
+        ShowView(view);
+        QAbstractItemView& shown = view == View::Details ? *Details() : *Icons();
+        AskedRows asked;
+        asked.setSourceModel(shown.model());
+        QAbstractItemModel* const model = shown.model();
+        QItemSelectionModel* const selection = shown.selectionModel();
+        shown.setModel(&asked);
+        const auto expectFew = [&] {
+            QCoreApplication::processEvents(); // lays out
+            shown.viewport()->grab();
+            int visible = 0;
+            for (int row = 0; row < asked.rowCount(); ++row) {
+                const QRect place = shown.visualRect(asked.index(row, 0));
+                visible += place.intersects(shown.viewport()->rect()) ? 1 : 0;
+            }
+            const int rows = asked.Take();
+            EXPECT_GT(visible, 5);
+            EXPECT_GE(rows, visible);
+            EXPECT_LE(rows, visible + kBeyondSight);
+        };
+        expectFew();
+        screens.list.changed.Tell(GameList::Reset);
+        expectFew();
+        shown.scrollToBottom();
+        expectFew();
+        shown.setModel(model);
+        shown.setSelectionModel(selection);
+    }
 }
 
 TEST_F(GameListViewTest, ColumnsAreFifteenUnitsAPixel)
