@@ -2,6 +2,8 @@
 
 #include "forms/Pictures.h"
 
+using namespace Qt::StringLiterals;
+
 namespace pelorin::forms {
 
 namespace {
@@ -86,11 +88,12 @@ Qt::ItemFlags GameListModel::flags(const QModelIndex& index) const
 QVariant GameListModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     const bool known = orientation == Qt::Horizontal && section >= 0 && section < finding::kColumns;
-    // As a tool tip too, since a narrow column cuts it.
     if (!known || (role != Qt::DisplayRole && role != Qt::ToolTipRole)) {
         return {};
     }
-    return m_list.columnCaptions[static_cast<std::size_t>(section)];
+    const QString& caption = m_list.columnCaptions[static_cast<std::size_t>(section)];
+    // A narrow column cuts it; and the key that sorts by it.
+    return role == Qt::DisplayRole ? caption : u"%1 (Ctrl+%2)"_s.arg(caption).arg(section + 1);
 }
 
 QIcon GameListModel::Icon(int listIndex) const

@@ -39,6 +39,14 @@ bool IsMovingKey(int key)
     return std::find(kKeys.begin(), kKeys.end(), key) != kKeys.end();
 }
 
+/// Ctrl+1 is the first column; -1 for other keys.
+int ColumnOf(const QKeyEvent& event)
+{
+    const int column = event.key() - Qt::Key_1;
+    const bool sorts = (event.modifiers() & ~Qt::KeypadModifier) == Qt::ControlModifier;
+    return sorts && column >= 0 && column < finding::kColumns ? column : -1;
+}
+
 /// The list's keys that are commands of their own.
 const Deeds::Deed* DeedOf(const Deeds& deeds, int key)
 {
@@ -326,6 +334,12 @@ bool GameListView::KeyPressed(const QKeyEvent& event)
     // Not every platform makes a menu event of it.
     if (event.modifiers() == Qt::ShiftModifier && event.key() == Qt::Key_F10) {
         MenuKeyPressed();
+        return true;
+    }
+    if (const int column = ColumnOf(event); column >= 0) {
+        if (!event.isAutoRepeat()) {
+            Do(m_deeds.LVGamelist_ColumnClick, column);
+        }
         return true;
     }
     const Deeds::Deed* const deed = plain ? DeedOf(m_deeds, event.key()) : nullptr;

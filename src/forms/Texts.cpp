@@ -114,6 +114,7 @@ constexpr ControlText kTexts[] = {
     {u"lblUpkeep", Kind::Caption, kOwnUpkeep},
     {u"cmdCompact", Kind::Caption, Entry(236)},
     {u"cmdFolderCFG", Kind::Caption, Entry(237)},
+    {u"cmdFolderCFG_Empty", Kind::Caption, Entry(237)},
     {u"cmdUpdate", Kind::Caption, Entry(298)},
     {u"lblKeys", Kind::Caption, kOwnKeys},
     // frmFolderCFG.

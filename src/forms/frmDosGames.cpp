@@ -1,6 +1,7 @@
 #include "forms/frmDosGames.h"
 
 #include "forms/AddGameButton.h"
+#include "forms/EmptyLibraryButton.h"
 #include "forms/FilterTreeView.h"
 #include "forms/FormUnits.h"
 #include "forms/GameListView.h"
@@ -108,6 +109,7 @@ void frmDosGames::BuildLeft()
     // No children of the panel: they stay readable while that is disabled.
     m_progress = new ProgressOverlay(m_shown, centralWidget());
     m_notice = new NoticeOverlay(m_shown, m_deeds, centralWidget());
+    m_emptyLibrary = new EmptyLibraryButton(m_deeds, centralWidget());
     m_list->installEventFilter(this);
     split->installEventFilter(this);
     m_list->SetViewModeListener([this] { m_toolbar->ShowViewMode(); });
@@ -157,6 +159,7 @@ void frmDosGames::ShowPanelsEnabled()
     m_picBack0->setEnabled(m_shown.screens.frame.picBack0Enabled);
     findChild<QShortcut*>(kRefreshEmpty)->setEnabled(!m_picBack0->isEnabled());
     m_picBack1->setEnabled(m_shown.screens.frame.picBack1Enabled);
+    m_emptyLibrary->SetShown(m_shown.screens.frame.isEmptyLibrary);
 }
 
 void frmDosGames::FollowWindow(std::uint32_t changed)
@@ -220,6 +223,7 @@ void frmDosGames::PlaceOverlays()
     const QRect area(m_list->mapTo(centralWidget(), QPoint(0, 0)), m_list->size());
     m_progress->Place(area);
     m_notice->Place(area);
+    m_emptyLibrary->Place(area);
 }
 
 void frmDosGames::closeEvent(QCloseEvent* event)

@@ -12,6 +12,7 @@
 namespace pelorin::forms {
 
 class AddGameButton;
+class EmptyLibraryButton;
 class FilterTreeView;
 class GameListView;
 class NoticeOverlay;
@@ -56,6 +57,7 @@ private:
     GameListView* m_list = nullptr;
     ProgressOverlay* m_progress = nullptr;
     NoticeOverlay* m_notice = nullptr;
+    EmptyLibraryButton* m_emptyLibrary = nullptr;
     AddGameButton* m_addGame = nullptr;
     RightPanel* m_picBack1 = nullptr;
     StatusPanels* m_status = nullptr;

@@ -30,11 +30,14 @@ std::uint32_t NextColour(std::uint32_t colour)
     }
 }
 
-void SetPanels(Launcher& launcher, bool left, bool right)
+enum class Rest { ForAJob, ForWantOfGames };
+
+void SetPanels(Launcher& launcher, bool left, bool right, Rest rest)
 {
     MainFrame& frame = launcher.screens.frame;
     frame.picBack0Enabled = left;
     frame.picBack1Enabled = right;
+    frame.isEmptyLibrary = !left && !right && rest == Rest::ForWantOfGames;
     frame.panelsEnabled.Tell(1);
 }
 
@@ -49,7 +52,7 @@ Job::Job(Launcher& launcher)
     if (m_held) {
         m_launcher.flags.JobHeld = true;
         m_launcher.flags.BusyReady = false;
-        SetPanels(m_launcher, false, false);
+        SetPanels(m_launcher, false, false, Rest::ForAJob);
     }
 }
 
@@ -59,7 +62,11 @@ Job::~Job()
         return;
     }
     const std::optional<bool> wanted = std::exchange(m_launcher.flags.PanelsAfterJob, {});
-    SetPanels(m_launcher, wanted.value_or(m_foundPanel0), wanted.value_or(m_foundPanel1));
+    SetPanels(
+        m_launcher,
+        wanted.value_or(m_foundPanel0),
+        wanted.value_or(m_foundPanel1),
+        Rest::ForWantOfGames);
     m_launcher.flags.JobHeld = false;
     m_launcher.flags.BusyReady = true;
 }
@@ -69,7 +76,7 @@ void SetPanelsEnabled(Launcher& launcher, bool enabled)
     if (launcher.flags.JobHeld) {
         launcher.flags.PanelsAfterJob = enabled;
     } else {
-        SetPanels(launcher, enabled, enabled);
+        SetPanels(launcher, enabled, enabled, Rest::ForWantOfGames);
     }
 }
 

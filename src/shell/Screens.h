@@ -41,12 +41,13 @@ struct MainFrame {
     double height = 0;
     bool picBack0Enabled = true;
     bool picBack1Enabled = true;
+    bool isEmptyLibrary = false; // both panels rest, but not for a job
     int tabInfo = 1;             // page on top, counted from 1
     bool minimumSizeHook = true; // false with the marker file NoHook
     bool hasSite = false;        // there is an address for cmdVespra
 
     platform::Notifier changed;
-    platform::Notifier panelsEnabled; // picBack0Enabled, picBack1Enabled; no redraw lock holds it
+    platform::Notifier panelsEnabled; // and isEmptyLibrary; no redraw lock holds it
 };
 
 /// The values of a genre menu, from its element 2 on.

@@ -9,6 +9,7 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QCloseEvent>
+#include <QDir>
 #include <QLineEdit>
 #include <QTest>
 
@@ -44,6 +45,7 @@ protected:
             m_done << (checked ? u"cd on"_s : u"cd off"_s);
         };
         m_deeds.picAddGame_Click = [this] { m_done << u"add"_s; };
+        m_deeds.cmdFolderCFG_Click = [this] { m_done << u"folders"_s; };
         m_deeds.Form_Unload = [this] { return m_mayClose; };
         m_window = std::make_unique<frmDosGames>(
             forms::Shown{
@@ -191,6 +193,31 @@ TEST_F(MainWindow, BothPanelsRestWhileAScanLetsEventsRun)
     EXPECT_TRUE(Find<QWidget>(u"picBack_1"_s)->isEnabled());
     EXPECT_EQ(Icons()->model()->rowCount(), 3);
     EXPECT_TRUE(Icons()->hasFocus());
+}
+
+TEST_F(MainWindow, AnEmptyLibraryLeadsToTheFolders)
+{
+    auto* const folders = Find<QAbstractButton>(u"cmdFolderCFG_Empty"_s);
+    bool duringScan = false;
+    m_app.fakes.timers.onPendingEvents = [&] { duringScan = duringScan || folders->isVisible(); };
+    library::cmdRefresh_Click(*m_launcher);
+    EXPECT_FALSE(folders->isVisible());
+    for (const QString& game : {u"가"_s, u"나"_s, u"다"_s}) {
+        QDir(m_app.folder.Path(u"Games/"_s + game)).removeRecursively();
+    }
+    library::cmdRefresh_Click(*m_launcher);
+    ASSERT_TRUE(folders->isVisible());
+    EXPECT_TRUE(Find<QWidget>(u"LVGamelist"_s)
+                    ->rect()
+                    .contains(Find<QWidget>(u"LVGamelist"_s)
+                                  ->mapFromGlobal(folders->mapToGlobal(folders->rect().center()))));
+    EXPECT_TRUE(folders->hasFocus());
+    QTest::keyClick(folders, Qt::Key_Space);
+    EXPECT_EQ(m_done, QStringList{u"folders"_s});
+    m_app.AddGame(u"가"_s);
+    library::cmdRefresh_Click(*m_launcher);
+    EXPECT_FALSE(folders->isVisible());
+    EXPECT_FALSE(duringScan);
 }
 
 TEST_F(MainWindow, GeometryIsKeptInFormUnitsAndTheSmallestSizeHolds)
