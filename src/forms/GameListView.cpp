@@ -130,6 +130,8 @@ void GameListView::BuildViews()
     m_details->setAlternatingRowColors(true);
     m_details->setItemDelegate(new CellDelegate(m_details));
     m_icons->setItemDelegate(m_cells);
+    m_icons->setBackgroundRole(QPalette::Base); // of its margins
+    m_icons->setAutoFillBackground(true);
     Prepare(*m_icons);
     Prepare(*m_details);
 
@@ -212,9 +214,8 @@ void GameListView::ShowViewMode()
                              : QSize(Ems(*this, 18), side + gap);
     m_cells->SetCell(cell);
     m_icons->setGridSize(cell + QSize(gap, large ? gap : 0));
-    // Icons keep off the edge; the header of the details reaches it.
-    const bool details = m_list.view == finding::View::Details;
-    setContentsMargins(details ? 0 : gap, details ? 0 : gap, 0, 0);
+    // Icons keep off the edge, and off the ring that shows who has the keyboard.
+    m_icons->setViewportMargins(gap, gap, 0, 0);
     m_icons->setWordWrap(large);
     m_icons->setWrapping(true);
     m_icons->setMovement(QListView::Static);

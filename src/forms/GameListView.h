@@ -71,8 +71,8 @@ private:
     GameListModel m_model;
     QItemSelectionModel m_selection;
     CellDelegate* m_cells;
-    QListView* m_icons;
-    QTreeView* m_details;
+    HookedView<QListView>* m_icons;
+    HookedView<QTreeView>* m_details;
     finding::TypeAhead m_typeAhead;
     QElapsedTimer m_clock;
     QTimer m_settle;          // until the release of a key that is held, or without one

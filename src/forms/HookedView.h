@@ -33,6 +33,8 @@ public:
         , m_hooks(std::move(hooks))
     {}
 
+    using QtView::setViewportMargins; // free room between the view's edge and its rows
+
     void keyboardSearch(const QString& text) override { m_hooks.typed(text); }
 
 protected:
