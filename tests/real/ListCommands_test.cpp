@@ -68,6 +68,35 @@ TEST(ListCommands, AGameGoesToTheTrashByKeysAlone)
     EXPECT_FALSE(app.ReadText(u"Gamelist.lst"_s).contains(kName));
 }
 
+TEST(ListCommands, GamesAreFoundBySearchAndTreeByKeysAlone)
+{
+    const XSession session;
+    ASSERT_TRUE(session.IsUp());
+    const TestFolder app(u"내 펠로린 100% [1]"_s);
+    Stage(app, session);
+    RunProgram pelorin(app.Path(u"Pelorin"_s), {}, PlainEnvironment(session));
+    const Xdotool person(session);
+    const auto window = Started(person);
+    ASSERT_TRUE(window.has_value()) << pelorin.Output().toStdString();
+    const auto shows = [&](const QString& title) {
+        return QTest::qWaitFor([&] { return person.Title(*window).startsWith(title); }, kStepMs);
+    };
+    person.Key(u"F3"_s);
+    person.Type(u"독 대"_s); // blanks don't count
+    person.Key(u"Return"_s);
+    EXPECT_TRUE(shows(u"장독대"_s)) << person.Title(*window);
+    person.Key(u"F3"_s);
+    person.Key(u"Escape"_s);
+    EXPECT_TRUE(shows(u"별 헤는 밤"_s)) << person.Title(*window);
+    // From the list back to the tree: its first category, and there its first value.
+    person.Key(u"shift+Tab"_s);
+    person.Key(u"Home"_s);
+    person.Key(u"Right"_s);
+    person.Key(u"Down"_s);
+    person.Key(u"space"_s);
+    EXPECT_TRUE(shows(u"빛의 그림첩"_s)) << person.Title(*window);
+}
+
 TEST(ListCommands, TheMenuKeysOpenTheGamesFolderWithTheDesktopsProgram)
 {
     const XSession session;
