@@ -1,5 +1,7 @@
 #include "forms/FocusRing.h"
 
+#include "forms/ReadablePalette.h"
+
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QEvent>
@@ -24,7 +26,13 @@ protected:
     {
         constexpr double kLine = 2;
         QPainter painter(this);
-        painter.setPen(QPen(palette().color(QPalette::Highlight), kLine));
+        const QPalette& colours = palette();
+        const QColor line = Contrasting(
+            colours.color(QPalette::Highlight),
+            colours.color(QPalette::Text),
+            colours.color(QPalette::Base),
+            kLineContrast);
+        painter.setPen(QPen(line, kLine));
         painter.drawRect(QRectF(rect()).adjusted(kLine / 2, kLine / 2, -kLine / 2, -kLine / 2));
     }
 };

@@ -1,5 +1,7 @@
 #include "forms/Pictures.h"
 
+#include "forms/ReadablePalette.h"
+
 #include <QApplication>
 #include <QBuffer>
 #include <QFile>
@@ -32,7 +34,7 @@ QImage DrawSvg(const QByteArray& svg, QSize pixels)
 }
 
 /// Draws an SVG text. "currentColor" in it becomes the palette's text colour and "accentColor" its
-/// highlight, at the moment of drawing.
+/// highlight, made to stand out from buttons, at the moment of drawing.
 class SvgEngine : public QIconEngine {
 public:
     explicit SvgEngine(QString name)
@@ -57,7 +59,12 @@ public:
         const bool selected = mode == QIcon::Selected;
         const QColor text =
             palette.color(group, selected ? QPalette::HighlightedText : QPalette::ButtonText);
-        const QColor accent = disabled || selected ? text : palette.color(QPalette::Highlight);
+        const QColor accent = disabled || selected ? text
+                                                   : Contrasting(
+                                                         palette.color(QPalette::Highlight),
+                                                         text,
+                                                         palette.color(QPalette::Button),
+                                                         kLineContrast);
         const int side = qMin(size.width(), size.height());
         const QString key = u"pelorin %1 %2 %3 %4x%5"_s.arg(m_name, text.name(), accent.name())
                                 .arg(size.width())

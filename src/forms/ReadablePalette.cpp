@@ -41,16 +41,6 @@ QColor Mixed(const QColor& some, const QColor& rest, double part)
         mix(some.blueF(), rest.blueF()));
 }
 
-/// The colour with as little of `other` in it as gives it this contrast to the ground.
-QColor Contrasting(QColor colour, const QColor& other, const QColor& ground, double contrast)
-{
-    const QColor start = colour;
-    for (int i = 0; i <= kSteps && ContrastOf(colour, ground) < contrast; ++i) {
-        colour = Mixed(other, start, static_cast<double>(i) / kSteps);
-    }
-    return colour;
-}
-
 /// What is selected: dark letters on a light colour where the window is dark, so that the colour
 /// stands out from the window as well, and the other way round.
 void MakeSelectionReadable(QPalette& palette)
@@ -73,6 +63,15 @@ void MakeSelectionReadable(QPalette& palette)
 }
 
 } // namespace
+
+QColor Contrasting(const QColor& colour, const QColor& other, const QColor& ground, double contrast)
+{
+    QColor mixed = colour;
+    for (int i = 0; i <= kSteps && ContrastOf(mixed, ground) < contrast; ++i) {
+        mixed = Mixed(other, colour, static_cast<double>(i) / kSteps);
+    }
+    return mixed;
+}
 
 QPalette MadeReadable(QPalette palette)
 {

@@ -1,11 +1,20 @@
 #pragma once
 
+#include <QColor>
 #include <QObject>
 #include <QPalette>
 
 class QApplication;
 
 namespace pelorin::forms {
+
+/// What lines and pictures need to stand out from their ground.
+inline constexpr double kLineContrast = 3;
+
+/// `colour` with as little of `other` in it as gives it this contrast (1 to 21) to the ground, as far
+/// as `other` has it.
+QColor Contrasting(
+    const QColor& colour, const QColor& other, const QColor& ground, double contrast);
 
 /// The palette with what many of them leave too faint made readable: the texts of disabled controls,
 /// the hints in empty boxes and what is selected. A palette made readable stays as it is.

@@ -19,6 +19,7 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QLayout>
+#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -35,6 +36,7 @@ constexpr double kTreeEms = 14;
 constexpr QLatin1StringView kRefreshEmpty{"keyRefreshEmpty"};
 constexpr double kDesignEms = 108;
 constexpr double kDesignLines = 50;
+constexpr double kMostOfScreen = 0.95; // the rest is for the frame
 
 QFrame* VerticalLine(QWidget* parent)
 {
@@ -78,7 +80,8 @@ frmDosGames::frmDosGames(const Shown& shown, const Deeds& deeds)
         Follow(MainFrame::Language);
     }
     ShowPanelsEnabled();
-    resize(Ems(*this, kDesignEms), Lines(*this, kDesignLines));
+    const QSize designed(Ems(*this, kDesignEms), Lines(*this, kDesignLines));
+    resize(designed.boundedTo(screen()->availableSize() * kMostOfScreen));
     m_list->View()->setFocus();
 }
 

@@ -1,6 +1,7 @@
 #include "WindowFixture.h"
 #include "forms/GameListModel.h"
 #include "forms/Pictures.h"
+#include "forms/ReadablePalette.h"
 #include "library/IconImages.h"
 #include "platform/Notifier.h"
 
@@ -424,6 +425,17 @@ TEST(PicturesTest, LinePicturesFollowThePalette)
     QApplication::setPalette(palette);
     EXPECT_EQ(lightest(), 255);
     QApplication::setPalette(before);
+}
+
+TEST(PicturesTest, LinesStandOutFromTheirGround)
+{
+    using forms::Contrasting;
+    const QColor blue(20, 90, 140);
+    EXPECT_EQ(Contrasting(blue, Qt::black, Qt::white, forms::kLineContrast), blue);
+    const QColor lighter = Contrasting(blue, Qt::white, QColor(60, 60, 60), forms::kLineContrast);
+    EXPECT_GT(lighter.lightness(), blue.lightness() + 20);
+    EXPECT_GT(lighter.saturation(), 20) << "it is still a blue";
+    EXPECT_EQ(Contrasting(Qt::gray, Qt::white, Qt::white, 3), QColor(Qt::white)) << "no way";
 }
 
 } // namespace pelorin::test
