@@ -123,6 +123,27 @@ TEST_F(RealRunModes, TheShellOverAllGamesKnowsTheKeyboardsNumLock)
     EXPECT_TRUE(Conf().contains("c:\r\naddkey 62\r\nM\r\n"));
 }
 
+TEST_F(RealRunModes, TheMenuStartsTheGameAndThePromptWhoseFileManagerStartsAProgram)
+{
+    ChooseInRunMenu(2);
+    ASSERT_TRUE(Waits([&] { return m_app.Exists(u"Games/별 헤는 밤 (Star) [1]/READY.TXT"_s); }))
+        << m_pelorin->Output().toStdString();
+    ASSERT_TRUE(SeeEmulatorAndEndIt());
+    m_person.Click(Place(300, 300)); // the list, below its rows
+    m_person.Key(u"End"_s);
+    ASSERT_TRUE(ShowsTitle(u"주는 대로 적기"_s));
+    ChooseInRunMenu(3);
+    const auto emulator = m_person.WaitForWindow(kEmulator, kStepMs);
+    ASSERT_TRUE(emulator.has_value());
+    EXPECT_TRUE(Conf().endsWith("c:\r\nM\r\n\r\n"));
+    const QString told = u"Games/주는 대로 적기 (Tell) [4]/TELL.TXT"_s;
+    ASSERT_TRUE(Waits([&] {
+        m_person.Key(u"t"_s); // as soon as the list of files stands there
+        m_person.Key(u"Return"_s);
+        return m_app.Exists(told);
+    })) << m_pelorin->Output().toStdString();
+}
+
 TEST_F(RealRunModes, AFileGetsWhatIsTypedWithBlanksAndQuotes)
 {
     m_person.Key(u"End"_s);
