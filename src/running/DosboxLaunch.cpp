@@ -18,6 +18,8 @@ using platform::ErrorKind;
 using platform::PathForm;
 using platform::Wording;
 
+constexpr auto kWin98 = "Win98"_L1;
+
 bool BreaksItsLine(QChar c)
 {
     return c == u'"' || c == u'\r' || c == u'\n';
@@ -94,8 +96,12 @@ platform::Done CheckAutoexec(const QByteArray& printed)
             {QString::number(bytes), QString::number(most)}});
 }
 
-QStringList TypedCommands(const RunRequest& request)
+/// What the guest is to run. A guest Windows runs none of the start commands.
+QStringList TypedCommands(const RunRequest& request, const QString& build)
 {
+    if (IsGuestWindows(build) && request.mode != RunMode::FileWithArgs) {
+        return {};
+    }
     switch (request.mode) {
     case RunMode::Game:
     case RunMode::NetHost:
@@ -121,9 +127,16 @@ platform::Done CheckRequest(const RunRequest& request, const QString& build)
     return platform::Success();
 }
 
-platform::Done CheckCommands(const RunRequest& request, PathForm form)
+platform::Done CheckCommands(const RunRequest& request, const QString& build, PathForm form)
 {
-    const QStringList commands = form == PathForm::Posix ? TypedCommands(request) : QStringList();
+    if (build == kWin98 && request.mode != RunMode::LibraryShell) {
+        const QString disk = request.startCommands.mid(0, 2).join(u' ');
+        if (std::any_of(disk.begin(), disk.end(), BreaksItsLine)) {
+            return BrokenName(disk);
+        }
+    }
+    const QStringList commands =
+        form == PathForm::Posix ? TypedCommands(request, build) : QStringList();
     for (const QString& command : commands) {
         const QStringList needed = UnopenableNamesIn(command).needed;
         if (!needed.isEmpty()) {
@@ -151,11 +164,14 @@ platform::Done CheckLaunch(
 }
 
 QList<Wording> LaunchNotes(
-    const RunRequest& request, const platform::HostText& finished, PathForm form)
+    const RunRequest& request,
+    const QString& build,
+    const platform::HostText& finished,
+    PathForm form)
 {
     QList<Wording> notes;
     if (form == PathForm::Posix) {
-        const QStringList commands = TypedCommands(request);
+        const QStringList commands = TypedCommands(request, build);
         for (const QString& command : commands) {
             const QStringList passedOn = UnopenableNamesIn(command).passedOn;
             for (const QString& word : passedOn) {

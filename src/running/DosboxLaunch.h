@@ -28,8 +28,10 @@ inline constexpr qsizetype kAutoexecBytesWithGravis = 4008;
 platform::Done CheckRequest(const RunRequest& request, const QString& build);
 
 /// For the POSIX form, which a native DOSBox reads: a start command that has to find a file whose
-/// name it can't (GuestCommand.h). Error Refused.
-platform::Done CheckCommands(const RunRequest& request, platform::PathForm form);
+/// name it can't (GuestCommand.h). For "Win98", whose start commands name the game's disk: a quotation
+/// mark or a line break in them. Error Refused.
+platform::Done CheckCommands(
+    const RunRequest& request, const QString& build, platform::PathForm form);
 
 /// Before the text is written: quotation marks and line breaks in the paths that are mounted, and
 /// for the POSIX form, which a native DOSBox reads, their length and the size of [autoexec].
@@ -41,6 +43,9 @@ platform::Done CheckLaunch(
 /// command that is no name of a file for a native DOSBox, characters that the guest's code page
 /// can't keep, a server that listens on another port than 213.
 QList<platform::Wording> LaunchNotes(
-    const RunRequest& request, const platform::HostText& finished, platform::PathForm form);
+    const RunRequest& request,
+    const QString& build,
+    const platform::HostText& finished,
+    platform::PathForm form);
 
 } // namespace pelorin::running

@@ -1,6 +1,7 @@
 #include "running/GuestWindows.h"
 
 #include "dosboxconf/RunFacts.h"
+#include "platform/Paths.h"
 #include "shell/Places.h"
 
 using namespace Qt::StringLiterals;
@@ -93,28 +94,33 @@ void MountWin98(HostText& text, const shell::Places& places)
 }
 
 /// The guest puts the game's folder in the place of %gameroot%.
-void MountGameDisk(HostText& text, const QStringList& startCommands)
+void MountGameDisk(HostText& text, const RunRequest& request, const shell::Places& places)
 {
-    const QString image = startCommands.value(0);
+    const QString image = request.startCommands.value(0);
+    const QString folder = places.GameDir(request.folder);
+    const QString found = platform::FindPath(folder, image).value_or(QString());
+    const QString native = found.startsWith(folder + u'/') ? found.mid(folder.size() + 1)
+                                                           : platform::NativePath(image);
     text.Text(u"imgmount 3 \""_s)
-        .Path(HostPath{u"%gameroot%\\"_s + image, u"%gameroot%/"_s + image})
-        .Text(u"\" -t hdd -fs none -size "_s + startCommands.value(1) + u" -ide 1s"_s + kEnd);
+        .Path(HostPath{u"%gameroot%\\"_s + image, u"%gameroot%/"_s + native})
+        .Text(
+            u"\" -t hdd -fs none -size "_s + request.startCommands.value(1) + u" -ide 1s"_s + kEnd);
 }
 
-HostText Win98Lines(bool withGame, const QStringList& startCommands, const shell::Places& places)
+HostText Win98Lines(bool withGame, const RunRequest& request, const shell::Places& places)
 {
     HostText text;
     if (withGame) {
         MountWin98(text, places);
-        MountGameDisk(text, startCommands);
+        MountGameDisk(text, request, places);
         return text.Text(u"boot -l c"_s);
     }
     text.Text(kEnd + u"imgmount 0 "_s)
         .Path(dosboxconf::FromBuildFolder(places, u"DOSBOX/Win98/dos6.ima"_s))
         .Text(u" -t floppy -fs none"_s + kEnd);
     MountWin98(text, places);
-    if (!startCommands.isEmpty()) {
-        MountGameDisk(text, startCommands);
+    if (!request.startCommands.isEmpty()) {
+        MountGameDisk(text, request, places);
     }
     Line(text, u"boot -l a"_s);
     return text;
@@ -123,18 +129,15 @@ HostText Win98Lines(bool withGame, const QStringList& startCommands, const shell
 } // namespace
 
 HostText GuestWindowsLines(
-    RunMode mode,
-    const QString& build,
-    const QStringList& startCommands,
-    const shell::Places& places)
+    const RunRequest& request, const QString& build, const shell::Places& places)
 {
-    const bool withGame = mode != RunMode::DosPrompt;
+    const bool withGame = request.mode != RunMode::DosPrompt;
     for (const Win31& guest : kWin31) {
         if (build == QStringView(guest.build)) {
             return Win31Lines(guest, withGame, places);
         }
     }
-    return Win98Lines(withGame, startCommands, places);
+    return Win98Lines(withGame, request, places);
 }
 
 } // namespace pelorin::running

@@ -4,7 +4,6 @@
 #include "running/RunRequest.h"
 
 #include <QString>
-#include <QStringList>
 
 namespace pelorin::shell {
 struct Places;
@@ -15,11 +14,9 @@ namespace pelorin::running {
 /// The lines by which a guest Windows comes up, for the builds "Win31KOR", "Win31ENG" and "Win98";
 /// they begin with a line end of their own. Game, NetHost and NetClient bring the game's settings
 /// along and take them back; DosPrompt gives the guest alone. For "Win98" the start commands are the
-/// name of the game's hard disk image and its geometry.
+/// name of the game's hard disk image, relative to the game's folder, and its geometry; on this
+/// machine the name takes its spelling on disk.
 platform::HostText GuestWindowsLines(
-    RunMode mode,
-    const QString& build,
-    const QStringList& startCommands,
-    const shell::Places& places);
+    const RunRequest& request, const QString& build, const shell::Places& places);
 
 } // namespace pelorin::running

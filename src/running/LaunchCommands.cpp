@@ -53,7 +53,7 @@ Outcome<Launch> PrepareLaunch(Launcher& launcher, const RunRequest& request, con
     }
     const Emulator emulator = FindEmulator(launcher, request.mode, build);
     const platform::PathForm form = emulator.pathForm;
-    if (const platform::Done possible = CheckCommands(request, form); !possible) {
+    if (const platform::Done possible = CheckCommands(request, build, form); !possible) {
         return possible.Failure();
     }
     const platform::HostText text =
@@ -67,7 +67,7 @@ Outcome<Launch> PrepareLaunch(Launcher& launcher, const RunRequest& request, con
         platform::ResolvePath(emulator.folder, u"dosbox.conf"_s),
         text.Print(form),
         text.Preview(form),
-        LaunchNotes(request, text, form)};
+        LaunchNotes(request, build, text, form)};
     if (emulator.program) {
         launch.request = emulator.program.Value().Request(
             emulator.arguments, emulator.folder, ShowStateOf(request.mode));
@@ -175,8 +175,7 @@ RunEnding EndingOf(const Launcher& launcher, const RunRequest& request, const QS
         launcher.places.gamesRoot,
         launcher.ports.desktop.NumLockOn());
     if (BranchOf(request.mode, build, request.startCommands.size()) == RunBranch::GuestWindows) {
-        ending.guestLines =
-            GuestWindowsLines(request.mode, build, request.startCommands, launcher.places);
+        ending.guestLines = GuestWindowsLines(request, build, launcher.places);
     }
     return ending;
 }

@@ -7,7 +7,7 @@ namespace pelorin::running {
 namespace {
 
 /// No screen reaches so far.
-constexpr std::int32_t kFarthest = 99'999;
+constexpr double kFarthest = 99'999;
 
 } // namespace
 
@@ -22,23 +22,22 @@ std::span<const EmulatorWindow> EmulatorWindows()
         {u"M88p2 WinUI"},
         {u"dosbox", true, true},
         {u"dosbox-debug", true, true},
+        {u"dosbox_debug", true, true},
         {u"dosbox.exe", true, true}, // under Wine
+        {u"dosbox_debug.exe", true, true},
     };
     return kWindows;
 }
 
-QPoint TypedPoint(const std::array<QString, 2>& typed)
+double TypedCoordinate(const QString& typed)
 {
-    const auto number = [](const QString& text) {
-        return qBound(
-            -kFarthest, platform::RoundHalfEven(platform::NumericPrefix(text)), kFarthest);
-    };
-    return {number(typed[0]), number(typed[1])};
+    return qBound(-kFarthest, platform::NumericPrefix(typed), kFarthest);
 }
 
-QPoint OuterFor(const platform::WindowPlace& place, QPoint client)
+QPoint OuterFor(const platform::WindowPlace& place, QPointF client)
 {
-    return client - (place.client - place.outer);
+    const QPointF outer = client - (place.client - place.outer);
+    return {platform::RoundHalfEven(outer.x()), platform::RoundHalfEven(outer.y())};
 }
 
 } // namespace pelorin::running

@@ -3,10 +3,10 @@
 #include "platform/Desktop.h"
 
 #include <QPoint>
+#include <QPointF>
 #include <QString>
 #include <QStringView>
 
-#include <array>
 #include <span>
 
 // Where the window of an emulator is put: what it paints comes to lie on a point of the screen.
@@ -23,10 +23,10 @@ struct EmulatorWindow {
 /// In the order in which they are looked for: those of Windows programs, then those of native ones.
 std::span<const EmulatorWindow> EmulatorWindows();
 
-/// The values of two boxes as a point, at most 99,999 either way; what is no number counts as 0.
-QPoint TypedPoint(const std::array<QString, 2>& typed);
+/// The value of a box, at most 99,999 either way; what is no number counts as 0.
+double TypedCoordinate(const QString& typed);
 
-/// Where the frame has to go so that what the window paints lies on `client`.
-QPoint OuterFor(const platform::WindowPlace& place, QPoint client);
+/// Where the frame has to go so that what the window paints lies on `client`, in whole pixels.
+QPoint OuterFor(const platform::WindowPlace& place, QPointF client);
 
 } // namespace pelorin::running

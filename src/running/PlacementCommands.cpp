@@ -1,6 +1,7 @@
 #include "running/PlacementCommands.h"
 
 #include "platform/Desktop.h"
+#include "platform/Numbers.h"
 #include "platform/Timers.h"
 #include "running/Placement.h"
 #include "shell/Launcher.h"
@@ -29,7 +30,8 @@ void PlaceEmulatorWindow(Launcher& launcher, platform::WindowId window, bool toF
     if (!place) {
         return;
     }
-    desktop.Move(window, OuterFor(*place, TypedPoint(launcher.screens.placement.txtDosboxPos)));
+    const std::array<QString, 2>& typed = launcher.screens.placement.txtDosboxPos;
+    desktop.Move(window, OuterFor(*place, {TypedCoordinate(typed[0]), TypedCoordinate(typed[1])}));
     if (toFront) {
         desktop.BringToFront(window);
     }
@@ -79,8 +81,10 @@ void cmdMoveDosbox_Click(Launcher& launcher, int index)
 
 void txtDosboxPos_Step(Launcher& launcher, int box, int step)
 {
-    const QPoint by = box == 0 ? QPoint(step, 0) : QPoint(0, step);
-    Show(launcher, TypedPoint(launcher.screens.placement.txtDosboxPos) + by);
+    PlacementPanel& placement = launcher.screens.placement;
+    QString& typed = placement.txtDosboxPos[static_cast<std::size_t>(box)];
+    typed = platform::NumberText(TypedCoordinate(typed) + step);
+    placement.changed.Tell(PlacementPanel::All);
 }
 
 void StartPlacementTimer(Launcher& launcher)

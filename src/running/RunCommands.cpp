@@ -6,6 +6,7 @@
 #include "library/GameFiles.h"
 #include "library/ShowinfoCommands.h"
 #include "platform/Paths.h"
+#include "platform/ProgramHost.h"
 #include "platform/Prompts.h"
 #include "running/GlideIni.h"
 #include "running/LaunchCommands.h"
@@ -125,8 +126,8 @@ bool AskForArguments(Launcher& launcher, RunRequest& request)
     return true;
 }
 
-/// Guests run no single files. The settings are processed all the same, and that is said.
-void RefuseGuest(Launcher& launcher, const RunRequest& request, const QString& build)
+/// Processes the settings before anything is asked: what can't become a text is told at once.
+bool ProcessSettings(Launcher& launcher, const RunRequest& request, const QString& build)
 {
     const platform::Outcome<dosboxconf::ConfText> composed = BuildDosboxConf(
         launcher,
@@ -134,21 +135,53 @@ void RefuseGuest(Launcher& launcher, const RunRequest& request, const QString& b
         dosboxconf::LoadRunFacts(launcher.places, ConfRequestOf(request, build)));
     if (!composed) {
         shell::TellNote(launcher, kCategory, composed.Failure());
-        return;
+        return false;
     }
     if (composed.Value().glideOn) {
         shell::TellIfFailed(launcher, kCategory, WriteGlideIni(launcher.places, launcher.options));
     }
-    Warn(launcher, Paragraphs(launcher, {221, 222}), 223);
+    return true;
+}
+
+/// Guests run no single files. The settings are processed all the same, and that is said.
+void RefuseGuest(Launcher& launcher, const RunRequest& request, const QString& build)
+{
+    if (ProcessSettings(launcher, request, build)) {
+        Warn(launcher, Paragraphs(launcher, {221, 222}), 223);
+    }
+}
+
+/// The file on hand of a game for Windows, from the game's folder.
+void StartWindowsFile(Launcher& launcher, const RunRequest& request)
+{
+    const dosboxconf::StartCommands& start = launcher.screens.start;
+    const QString folder = launcher.places.GameDir(request.folder);
+    const platform::ProgramHost host(launcher.places.appDir, launcher.searchPath);
+    const platform::Outcome<platform::HostProgram> program =
+        host.Find(platform::ResolvePath(folder, start.fileEXE.value(start.fileRow)));
+    if (!program) {
+        shell::TellNote(launcher, kCategory, program.Failure());
+        return;
+    }
+    const QString running = request.folder;
+    const platform::Done started = launcher.ports.processes.StartDetached(
+        program.Value().Request({}, folder), [&launcher, running](const platform::ProcessEnd&) {
+            launcher.runningGames.removeOne(running);
+        });
+    if (started) {
+        launcher.runningGames << running;
+    }
+    shell::TellIfFailed(launcher, kCategory, started);
 }
 
 /// What a mode has to know yet before the start. False: there is to be none.
-bool Complete(Launcher& launcher, RunRequest& request)
+bool Complete(Launcher& launcher, RunRequest& request, const QString& build)
 {
     switch (request.mode) {
     case RunMode::NetHost: request.serverPort = FreeServerPort(); return true;
     case RunMode::NetClient: return AskForAddress(launcher, request);
-    case RunMode::FileWithArgs: return AskForArguments(launcher, request);
+    case RunMode::FileWithArgs:
+        return ProcessSettings(launcher, request, build) && AskForArguments(launcher, request);
     default: return true;
     }
 }
@@ -156,9 +189,17 @@ bool Complete(Launcher& launcher, RunRequest& request)
 void Start(Launcher& launcher, RunRequest request, const QString& build)
 {
     // A question lets windows events run: another game may be current then, and this one gone.
-    if (Complete(launcher, request) && !launcher.flags.JobHeld &&
+    if (Complete(launcher, request, build) && !launcher.flags.JobHeld &&
         library::HasGameFolder(launcher, request.folder)) {
         LaunchDosbox(launcher, request, build);
+    }
+}
+
+/// A moving selection is a step ahead of what the controls hold.
+void ShowCurrentGame(Launcher& launcher)
+{
+    if (launcher.screens.details.folder != launcher.current.CurrentFolder) {
+        library::ShowinfoProcess(launcher);
     }
 }
 
@@ -172,10 +213,7 @@ void Run(Launcher& launcher, RunMode mode)
         (IsNetwork(mode) && launcher.screens.list.items.empty())) {
         return;
     }
-    // A moving selection is a step ahead of what the controls hold.
-    if (launcher.screens.details.folder != folder) {
-        library::ShowinfoProcess(launcher);
-    }
+    ShowCurrentGame(launcher);
     const RunRequest request = RequestOf(launcher, mode);
     const QString build = dosboxconf::ReadGameBuild(launcher.places, folder, launcher.options);
     switch (BranchOf(mode, build, request.startCommands.size())) {
@@ -184,6 +222,7 @@ void Run(Launcher& launcher, RunMode mode)
     case RunBranch::GuestWindows: Start(launcher, request, build); break;
     case RunBranch::AskForPrompt: OfferDosPrompt(launcher, mode); break;
     case RunBranch::RefuseGuest: RefuseGuest(launcher, request, build); break;
+    case RunBranch::WindowsFile: StartWindowsFile(launcher, request); break;
     case RunBranch::NoSuchBuild:
         shell::TellNote(
             launcher,
@@ -241,6 +280,7 @@ void RunLibraryShell(Launcher& launcher)
             launcher, kCategory, launcher.lang.OwnText(427, u"<1> is not there."_s, {emulators}));
         return;
     }
+    ShowCurrentGame(launcher);
     const QString build = dosboxconf::ReadGameBuild(
         launcher.places, launcher.current.CurrentFolder, launcher.options);
     LaunchDosbox(launcher, RequestOf(launcher, RunMode::LibraryShell), build);

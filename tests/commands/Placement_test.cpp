@@ -47,6 +47,8 @@ TEST_F(Placement, WhatTheWindowPaintsComesToLieOnThePoint)
         {u"-12"_s, u"0"_s, {-12, 0}},
         {u"abc"_s, u""_s, {0, 0}},
         {u"10.5x"_s, u" 7"_s, {10, 7}},
+        {u"-3e9"_s, u"1"_s, {-99'999, 1}},
+        {u"10"_s, u"7"_s, {10, 7}},
     };
     OpenWindow(u"dosbox"_s);
     for (const Case& c : cases) {
@@ -64,6 +66,9 @@ TEST_F(Placement, WhatTheWindowPaintsComesToLieOnThePoint)
     running::txtDosboxPos_Step(*m_launcher, 0, -1);
     EXPECT_EQ(Typed(), u"9 8"_s);
     EXPECT_EQ(ClientOf(0), QPoint(10, 8)) << "a key in the box moves no window";
+    Panel().txtDosboxPos = {u"10.4"_s, u"abc"_s};
+    running::txtDosboxPos_Step(*m_launcher, 0, 1);
+    EXPECT_EQ(Typed(), u"11.4 abc"_s) << "the other box is left alone";
 }
 
 TEST_F(Placement, OfTwoEmulatorsTheFirstKindIsMovedAndTheTopmostOfAKind)

@@ -157,6 +157,16 @@ TEST_F(RunModes, AFileRunsWithWhatIsTypedBehindItsName)
     EXPECT_EQ(Started().size(), 1U);
 
     m_app.AddGame(u"하나"_s);
+    GiveBuild(u"Windows"_s); // opened as it is, from its folder
+    m_app.folder.WriteScript(u"Games/하나/tool"_s, u"exit 0"_s);
+    m_app.folder.MakeTree({u"Games/하나/tool.exe"_s});
+    test::Click(*m_launcher, u"하나"_s);
+    page.fileRow = static_cast<int>(page.fileEXE.indexOf(u"tool.exe"_s));
+    running::RunFileWithArgs(*m_launcher);
+    ASSERT_EQ(Started().size(), 2U);
+    EXPECT_EQ(Started().back().request.program, m_app.folder.Path(u"Games/하나/tool"_s));
+    EXPECT_EQ(Started().back().request.workingFolder, m_app.folder.Path(u"Games/하나"_s));
+    page.fileRow = 0;
     GiveBuild(u"Win31KOR"_s);
     running::RunFileWithArgs(*m_launcher);
     EXPECT_EQ(
@@ -165,7 +175,7 @@ TEST_F(RunModes, AFileRunsWithWhatIsTypedBehindItsName)
     m_app.folder.MakeTree({u"Games/하나/Store.7z"_s});
     running::RunFileWithArgs(*m_launcher);
     EXPECT_EQ(LastTitle(), m_launcher->lang[259]);
-    EXPECT_EQ(Started().size(), 1U);
+    EXPECT_EQ(Started().size(), 2U);
 }
 
 TEST_F(RunModes, WithoutStartCommandsThePromptIsOffered)

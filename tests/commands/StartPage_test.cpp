@@ -105,6 +105,15 @@ TEST(StartPage, TheNextGameDoesNotInheritTheCd)
     EXPECT_FALSE(launcher->screens.cd.chkCD);
     dosboxconf::cmdSaveCD_Click(*launcher);
     EXPECT_FALSE(app.folder.Exists(u"Games/둘/DosBox/CD.conf"_s));
+    // A file in the place of the folder holds no images, and stays.
+    app.folder.WriteText(u"Games/둘/DosBox/CD"_s, u"mine"_s);
+    Click(*launcher, u"하나"_s);
+    Click(*launcher, u"둘"_s);
+    dosboxconf::chkCD_Click(*launcher, true);
+    EXPECT_EQ(launcher->screens.cd.lstCD, QStringList{launcher->lang.Text(172, {u"둘"_s})});
+    dosboxconf::cmdSaveCD_Click(*launcher);
+    EXPECT_EQ(app.folder.ReadRaw(u"Games/둘/DosBox/CD.conf"_s), "0\r\n0\r\n");
+    EXPECT_EQ(app.folder.ReadRaw(u"Games/둘/DosBox/CD"_s), "mine");
 }
 
 TEST(Catalogue, AGameLeavesOnlyWhenTheBinTookIt)

@@ -93,8 +93,10 @@ TEST(DosboxLaunchTest, NamesThatANativeDosboxCantFindAreRefusedOrNoted)
         PathForm form;
         QString refused;
         QString noted;
+        QString build = u"0.74_SVN"_s;
     };
     const Case cases[] = {
+        {RunMode::Game, PathForm::Posix, QString(), QString(), u"Win31KOR"_s},
         {RunMode::Game, PathForm::Posix, u"게임.bat"_s, u"지도.dat"_s},
         {RunMode::Game, PathForm::Windows, QString(), QString()},
         {RunMode::DosPrompt, PathForm::Posix, QString(), QString()},
@@ -106,18 +108,22 @@ TEST(DosboxLaunchTest, NamesThatANativeDosboxCantFindAreRefusedOrNoted)
     for (const Case& c : cases) {
         SCOPED_TRACE(c.refused);
         request.mode = c.mode;
-        EXPECT_EQ(ErrorOf(CheckCommands(request, c.form)).section(u':', 0, 0), c.refused);
-        const auto notes = LaunchNotes(request, HostText().Text(u"가"_s), c.form);
+        EXPECT_EQ(ErrorOf(CheckCommands(request, c.build, c.form)).section(u':', 0, 0), c.refused);
+        const auto notes = LaunchNotes(request, c.build, HostText().Text(u"가"_s), c.form);
         ASSERT_EQ(notes.size(), c.noted.isEmpty() ? 0 : 1);
         EXPECT_TRUE(notes.isEmpty() || notes.first().English().startsWith(c.noted + u':'));
     }
     request = RunRequest();
     request.mode = RunMode::NetHost;
     request.serverPort = dosboxconf::kIpxFallbackPort;
-    const auto notes = LaunchNotes(request, HostText().Text(u"żółw"_s), PathForm::Posix);
+    const auto notes = LaunchNotes(request, QString(), HostText().Text(u"żółw"_s), PathForm::Posix);
     ASSERT_EQ(notes.size(), 2);
     EXPECT_TRUE(notes[0].English().contains(u"żó"_s));
     EXPECT_TRUE(notes[1].English().contains(u"19900"_s));
+    request = RunRequest();
+    request.startCommands = QStringList{u"hdd\\game \"1\".img"_s, u"512,63,64,520"_s};
+    EXPECT_FALSE(CheckCommands(request, u"Win98"_s, PathForm::Windows)) << "it names a disk there";
+    EXPECT_TRUE(CheckCommands(request, u"0.74"_s, PathForm::Windows));
 }
 
 } // namespace

@@ -135,7 +135,7 @@ TEST(GoldenTextTest, EveryStartEqualsTheOtherComposersByteForByte)
         if (running::BranchOf(request.mode, build, request.startCommands.size()) ==
             running::RunBranch::GuestWindows) {
             ending.guestLines =
-                running::GuestWindowsLines(request.mode, build, request.startCommands, places);
+                running::GuestWindowsLines(request, build, places);
         }
         const bool whole = row[u"finished"_s].toBool(); // guests run no single files
         const platform::HostText text =
