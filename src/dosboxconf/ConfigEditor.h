@@ -53,14 +53,16 @@ struct OptionCombo {
 /// The text that a start would write once the edits are saved.
 struct ConfPreview {
     enum class State {
-        None,    // a start writes no such text
-        Saved,   // it would write the same now
-        Unsaved, // there are edits, and they change nothing in it
-        Differs, // now it would write another one
+        None,       // a start writes no such text
+        WillBeNone, // the same, once the edits are saved
+        Saved,      // it would write the same now
+        Unsaved,    // there are edits, and they change nothing in it
+        Differs,    // now it would write another one
     };
 
     State state = State::None;
     QString text;
+    QString refusal; // why a start would not write it; empty: it would
 };
 
 struct ConfigEditor {

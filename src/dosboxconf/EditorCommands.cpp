@@ -69,6 +69,20 @@ bool IsSaved(const Launcher& launcher)
     return launcher.screens.config.saved == launcher.options.OptionSelection;
 }
 
+ConfPreview::State PreviewState(const Launcher& launcher)
+{
+    using State = ConfPreview::State;
+    const ConfigEditor& editor = launcher.screens.config;
+    const bool same = editor.preview.text == editor.savedText;
+    if (editor.preview.text.isEmpty()) {
+        return same ? State::None : State::WillBeNone;
+    }
+    if (IsSaved(launcher)) {
+        return State::Saved;
+    }
+    return same ? State::Unsaved : State::Differs;
+}
+
 void ShowPreview(Launcher& launcher)
 {
     ConfigEditor& editor = launcher.screens.config;
@@ -76,12 +90,10 @@ void ShowPreview(Launcher& launcher)
         // What is on this page is not what the game starts with.
         editor.preview = ConfPreview();
     } else {
-        editor.preview.text = running::PreviewGameText(launcher);
-        const bool same = editor.preview.text == editor.savedText;
-        editor.preview.state = same && editor.preview.text.isEmpty() ? ConfPreview::State::None
-                               : IsSaved(launcher)                   ? ConfPreview::State::Saved
-                               : same                                ? ConfPreview::State::Unsaved
-                                                                     : ConfPreview::State::Differs;
+        const Outcome<QString> text = running::PreviewGameText(launcher);
+        editor.preview.text = text.ValueOr(QString());
+        editor.preview.refusal = text ? QString() : launcher.lang.Told(text.Failure().Told());
+        editor.preview.state = PreviewState(launcher);
     }
     editor.changed.Tell(ConfigEditor::Preview);
 }
@@ -93,7 +105,7 @@ void TakeAsSaved(Launcher& launcher, bool hasConf)
     editor.hasConf = hasConf;
     editor.saved = launcher.options.OptionSelection;
     if (ShowsConfigPage(launcher)) {
-        editor.savedText = running::PreviewGameText(launcher);
+        editor.savedText = running::PreviewGameText(launcher).ValueOr(QString());
     }
     ++editor.loads;
 }
@@ -405,9 +417,12 @@ void cmdSaveConfig_Click(Launcher& launcher)
                       launcher,
                       global ? WriteDefaultConf(launcher.places, launcher.options)
                              : SaveGameConf(launcher.places, folder, launcher.options));
-    // What could not be saved stays to be saved again.
+    // What could not be saved stays to be saved again; a part of it may have been.
     if (saved) {
         ShowSaved(launcher, folder);
+    } else if (!global) {
+        launcher.screens.config.hasConf = HasGameConf(launcher.places, folder);
+        library::RereadGameEntry(launcher, folder);
     }
 }
 

@@ -53,7 +53,7 @@ void lstEdit_Click(shell::Launcher& launcher, int row);
 /// own the former saves nothing.
 void cmdSaveConfig_Click(shell::Launcher& launcher);
 /// Asks, and restores the defaults of all games or deletes the game's own settings, as its caption
-/// says. A Default.conf is kept as .bak, an edit.conf goes to the recycle bin.
+/// says. What goes is kept as .bak.
 void cmdDeleteConfig_Click(shell::Launcher& launcher);
 
 } // namespace pelorin::dosboxconf

@@ -79,6 +79,13 @@ void FillCdList(Launcher& launcher, const library::GameFiles& files)
     FillCdList(launcher.screens.cd, ReadCdFacts(files), Placeholder(launcher));
 }
 
+void RefillCdList(Launcher& launcher, const library::GameFiles& files)
+{
+    if (const CdFacts facts = ReadCdFacts(files); facts.hasFolder) {
+        FillCdList(launcher.screens.cd, facts, Placeholder(launcher));
+    }
+}
+
 void chkCD_Click(Launcher& launcher, bool checked)
 {
     if (ShowsGame(launcher)) {

@@ -20,6 +20,8 @@ void WriteAutoexecConf(shell::Launcher& launcher);
 
 /// Shows how the game gets its CD; nothing of the former game stays.
 void FillCdList(shell::Launcher& launcher, const library::GameFiles& files);
+/// The same for the game that is shown already: what its folder doesn't tell stays as it was chosen.
+void RefillCdList(shell::Launcher& launcher, const library::GameFiles& files);
 void chkCD_Click(shell::Launcher& launcher, bool checked);
 void chkMountCD_Click(shell::Launcher& launcher, bool checked);
 /// The popup of cmdCD: 0 the game's folder, 1 images.

@@ -110,6 +110,21 @@ void SortByColumn(
     positions = std::move(sorted);
 }
 
+/// Lays the rows of these positions, which come by title, in the order that list.sort asks for.
+void LayByTitle(GameList& list, std::vector<int> shown, TitleOrder& order, const ListSource& source)
+{
+    if (list.sort.column > 0 && list.sort.column < kColumns) {
+        SortByColumn(shown, order, source, list.sort);
+    } else if (list.sort.descending) {
+        std::reverse(shown.begin(), shown.end());
+    }
+    const RowTexts rows(source.buildNames, source.TitleLanguageKorean);
+    list.items.Lay(
+        std::move(shown), source.catalogue.size(), [&](std::size_t position, GameItem& item) {
+            rows.Fill(item, source.catalogue[position]);
+        });
+}
+
 ListOutcome OutcomeOf(const GameList& list, const ListSource& source, const FilterIndex& index)
 {
     if (!list.items.empty()) {
@@ -140,23 +155,44 @@ GameItem ItemOf(const GameEntry& entry, const QStringList& buildNames, bool titl
 void BuildGameList(
     GameList& list, TitleOrder& order, const ListSource& source, const FilterIndex& index)
 {
-    std::vector<int> shown;
-    if (index) {
-        shown = ShownByTitle(order, source, *index);
-    }
-    if (list.sort.column > 0 && list.sort.column < kColumns) {
-        SortByColumn(shown, order, source, list.sort);
-    } else if (list.sort.descending) {
-        std::reverse(shown.begin(), shown.end());
-    }
-    const RowTexts rows(source.buildNames, source.TitleLanguageKorean);
-    list.items.Lay(
-        std::move(shown), source.catalogue.size(), [&](std::size_t position, GameItem& item) {
-            rows.Fill(item, source.catalogue[position]);
-        });
+    LayByTitle(
+        list, index ? ShownByTitle(order, source, *index) : std::vector<int>(), order, source);
     list.outcome = OutcomeOf(list, source, index);
     list.selected = list.items.empty() ? -1 : 0;
     list.selectedRows.assign(list.items.empty() ? 0 : 1, 0);
+    list.changed.Tell(GameList::Reset | GameList::Selection);
+}
+
+void SortGameList(GameList& list, TitleOrder& order, const ListSource& source)
+{
+    const std::vector<int> before = list.items.Positions();
+    std::vector<bool> isShown(source.catalogue.size());
+    std::vector<bool> isSelected(source.catalogue.size());
+    for (const int position : before) {
+        isShown.at(static_cast<std::size_t>(position)) = true;
+    }
+    for (const int row : list.selectedRows) {
+        isSelected[static_cast<std::size_t>(before[static_cast<std::size_t>(row)])] = true;
+    }
+    const int current = list.selected < 0 ? -1 : before[static_cast<std::size_t>(list.selected)];
+    std::vector<int> shown;
+    shown.reserve(before.size());
+    for (const int position : order.Sorted(source.catalogue)) {
+        if (isShown[static_cast<std::size_t>(position)]) {
+            shown.push_back(position);
+        }
+    }
+    LayByTitle(list, std::move(shown), order, source);
+    list.selected = -1;
+    list.selectedRows.clear();
+    const std::vector<int>& now = list.items.Positions();
+    for (int row = 0; row < static_cast<int>(now.size()); ++row) {
+        const int position = now[static_cast<std::size_t>(row)];
+        if (isSelected[static_cast<std::size_t>(position)]) {
+            list.selectedRows.push_back(row);
+        }
+        list.selected = position == current ? row : list.selected;
+    }
     list.changed.Tell(GameList::Reset | GameList::Selection);
 }
 

@@ -16,6 +16,10 @@ namespace pelorin::finding {
 void BuildGameList(
     GameList& list, TitleOrder& order, const ListSource& source, const FilterIndex& index);
 
+/// Puts the rows that were built in the order of list.sort; what is selected stays selected. One
+/// reset is told.
+void SortGameList(GameList& list, TitleOrder& order, const ListSource& source);
+
 /// The row of one game.
 GameItem ItemOf(
     const library::GameEntry& entry, const QStringList& buildNames, bool titleLanguageKorean);

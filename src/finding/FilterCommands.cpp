@@ -29,6 +29,16 @@ TitleOrder& OrderOf(Launcher& launcher)
     return *launcher.titleOrder;
 }
 
+ListSource SourceOf(const Launcher& launcher, const QStringList& buildNames)
+{
+    return {
+        launcher.catalogue,
+        buildNames,
+        launcher.settings.TitleLanguageKorean,
+        launcher.screens.search.txtFind,
+        launcher.lang[kStoreMarkEntry]};
+}
+
 void ShowCount(Launcher& launcher)
 {
     launcher.ports.timers.RunPendingEvents();
@@ -98,12 +108,7 @@ ShownAsRows::~ShownAsRows()
 void RefreshGameList(Launcher& launcher)
 {
     const QStringList buildNames = launcher.options.BuildNames();
-    const ListSource source{
-        launcher.catalogue,
-        buildNames,
-        launcher.settings.TitleLanguageKorean,
-        launcher.screens.search.txtFind,
-        launcher.lang[kStoreMarkEntry]};
+    const ListSource source = SourceOf(launcher, buildNames);
     GameList& list = launcher.screens.list;
     BuildGameList(list, OrderOf(launcher), source, BuildFilterIndex(launcher.screens.tree, source));
     if (list.outcome == ListOutcome::Items) {
@@ -159,18 +164,10 @@ void LVGamelist_ColumnClick(Launcher& launcher, int column)
         return;
     }
     GameList& list = launcher.screens.list;
-    const QString selected = list.selected < 0
-                                 ? QString()
-                                 : list.items[static_cast<std::size_t>(list.selected)].Folder();
     const platform::RedrawLock lock(launcher.screens.gate);
     list.sort = ListSort{column, column == list.sort.column && !list.sort.descending};
-    RefreshGameList(launcher);
-    if (const int row = list.RowOf(selected); row >= 0) {
-        list.Select(row);
-    } else {
-        library::LVGamelist_ItemClick(launcher);
-        library::ShowinfoProcess(launcher);
-    }
+    const QStringList buildNames = launcher.options.BuildNames();
+    SortGameList(list, OrderOf(launcher), SourceOf(launcher, buildNames));
 }
 
 void SetView(Launcher& launcher, View view)

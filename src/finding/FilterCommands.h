@@ -46,7 +46,7 @@ void txtFind_Esc(shell::Launcher& launcher);
 void cmdFind_Esc(shell::Launcher& launcher);
 
 /// A click on a column's header: sorts by it, upwards, or downwards if it was sorted by it upwards.
-/// The selected game stays selected.
+/// What is selected stays selected; nothing is searched or shown anew.
 void LVGamelist_ColumnClick(shell::Launcher& launcher, int column);
 
 /// optViewmode: shows the list in that view; a notice over it goes.

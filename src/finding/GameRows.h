@@ -63,6 +63,9 @@ public:
     void clear();
     // NOLINTEND(readability-identifier-naming)
 
+    /// The position in the Catalogue that each row was laid for.
+    const std::vector<int>& Positions() const { return m_order; }
+
     /// Lays rows anew: row r shows the game at position order[r] of a Catalogue of `games` games.
     /// `update` is called with the position and the kept item of each of them, which holds what
     /// it held at the last rebuild, in the order of the positions: so they lie in memory, and any

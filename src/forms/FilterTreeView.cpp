@@ -2,6 +2,7 @@
 
 #include "forms/CellDelegate.h"
 #include "forms/Metrics.h"
+#include "forms/Texts.h"
 
 #include <algorithm>
 
@@ -118,7 +119,7 @@ QVariant FilterTreeModel::data(const QModelIndex& index, int role) const
     }
     switch (role) {
     case Qt::DisplayRole: return node->text;
-    case Qt::ToolTipRole: return node->text.toHtmlEscaped();
+    case Qt::ToolTipRole: return AsToolTip(node->text);
     case Qt::CheckStateRole: return node->checked ? Qt::Checked : Qt::Unchecked;
     default: return {};
     }

@@ -1,6 +1,7 @@
 #include "forms/GameListModel.h"
 
 #include "forms/Pictures.h"
+#include "forms/Texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -68,7 +69,7 @@ QVariant GameListModel::data(const QModelIndex& index, int role) const
     const QString& text = item.text[static_cast<std::size_t>(index.column())];
     switch (role) {
     case Qt::DisplayRole: return text;
-    case Qt::ToolTipRole: return text.isEmpty() ? QVariant() : text.toHtmlEscaped();
+    case Qt::ToolTipRole: return text.isEmpty() ? QVariant() : AsToolTip(text);
     case Qt::DecorationRole:
         return index.column() == 0 ? QVariant(Icon(item.listIndex)) : QVariant();
     case Qt::TextAlignmentRole:

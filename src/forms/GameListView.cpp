@@ -6,6 +6,7 @@
 #include "forms/Metrics.h"
 #include "forms/OwnTexts.h"
 
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -158,7 +159,10 @@ void GameListView::Prepare(QAbstractItemView& view)
     view.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     view.setFrameShape(QFrame::NoFrame);
     connect(&view, &QAbstractItemView::doubleClicked, this, [this] {
-        Do(m_deeds.LVGamelist_DblClick);
+        if (QGuiApplication::mouseButtons() != Qt::MiddleButton &&
+            QGuiApplication::mouseButtons() != Qt::RightButton) {
+            Do(m_deeds.LVGamelist_DblClick);
+        }
     });
     addWidget(&view);
 }

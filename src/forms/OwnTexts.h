@@ -74,6 +74,8 @@ inline constexpr OwnEntry kOwnPreviewDiffers{455, u"Not saved. Once saved, a sta
 inline constexpr OwnEntry kOwnPreviewUnsaved{
     456, u"Not saved. A start writes the same either way:"};
 inline constexpr OwnEntry kOwnPreviewNone{457, u"A start from here writes no dosbox.conf."};
+inline constexpr OwnEntry kOwnPreviewWillBeNone{
+    468, u"Not saved. Once saved, a start writes no dosbox.conf."};
 inline constexpr OwnEntry kOwnDifferentGroups{459, u"Groups of what differs"};
 inline constexpr OwnEntry kOwnDifferentOptions{460, u"Options that differ"};
 inline constexpr OwnEntry kOwnDifferentValues{461, u"Values that differ"};

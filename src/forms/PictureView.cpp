@@ -3,6 +3,7 @@
 #include "forms/Metrics.h"
 #include "forms/OwnTexts.h"
 #include "forms/Pictures.h"
+#include "forms/Texts.h"
 
 #include <QFileInfo>
 #include <QMouseEvent>
@@ -46,7 +47,7 @@ void PictureView::TakeTexts()
 {
     const QString name = m_path.isEmpty() ? QString() : QFileInfo(m_path).fileName();
     setAccessibleDescription(QString(name + u' ' + Words()).trimmed());
-    setToolTip(name.toHtmlEscaped());
+    setToolTip(AsToolTip(name));
 }
 
 QString PictureView::Words() const

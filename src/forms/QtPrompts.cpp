@@ -22,6 +22,8 @@ using platform::Buttons;
 
 namespace {
 
+constexpr int kOutputOk = 296; // cmdOk of frmOutput
+
 QMessageBox::Icon IconOf(platform::BoxIcon icon)
 {
     switch (icon) {
@@ -101,7 +103,7 @@ QString QtPrompts::InputText(const QString& prompt, const QString& title, const 
 {
     QInputDialog dialog(Parent());
     dialog.setWindowTitle(title);
-    dialog.setLabelText(prompt);
+    dialog.setLabelText(QString(prompt).replace(u"&"_s, u"&&"_s)); // the box is its buddy
     dialog.setTextValue(preset);
     dialog.setOkButtonText(Words(kOwnOk));
     dialog.setCancelButtonText(Words(kOwnCancel));
@@ -136,7 +138,7 @@ QString QtPrompts::SaveFile(const platform::FileDialog& asked)
 
 void QtPrompts::ShowReport(const QString& title, const QString& text)
 {
-    frmOutput(frmOutput::Words{title, text, Words(kOwnOk)}, Parent()).exec();
+    frmOutput(frmOutput::Words{title, text, Words({kOutputOk, u"OK"})}, Parent()).exec();
 }
 
 } // namespace pelorin::forms

@@ -3,6 +3,7 @@
 #include "forms/Metrics.h"
 #include "forms/OwnTexts.h"
 #include "forms/Pictures.h"
+#include "forms/Texts.h"
 
 #include <QPainter>
 #include <QStyle>
@@ -23,7 +24,8 @@ StatusPanel::StatusPanel(QWidget* parent)
 void StatusPanel::Show(const QString& text)
 {
     setText(text);
-    setToolTip(text.toHtmlEscaped());
+    setShortcut({}); // "&" in a path is no key
+    setToolTip(AsToolTip(text));
     setAccessibleName(text);
     updateGeometry();
     update();

@@ -1,5 +1,7 @@
 #include "forms/TextListModel.h"
 
+#include "forms/Texts.h"
+
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 
@@ -17,7 +19,7 @@ QVariant TextListModel::data(const QModelIndex& index, int role) const
         return {};
     }
     const QString& text = m_rows[index.row()];
-    return role == Qt::ToolTipRole ? text.toHtmlEscaped() : text;
+    return role == Qt::ToolTipRole ? AsToolTip(text) : text;
 }
 
 RowList::RowList(const QStringList& rows, int& row, QWidget* parent)

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QMultiHash>
 #include <QTabBar>
+#include <QTextDocument>
 
 using namespace Qt::StringLiterals;
 
@@ -195,6 +196,11 @@ void GiveTabs(
 }
 
 } // namespace
+
+QString AsToolTip(const QString& text)
+{
+    return Qt::mightBeRichText(text) ? u"<qt>"_s + text.toHtmlEscaped() + u"</qt>"_s : text;
+}
 
 QString Heading(const QString& text)
 {

@@ -17,6 +17,9 @@ inline constexpr int kTools = 14; // tools on the page of that name
 /// not there (yet) are passed over; texts that depend on what is shown are their widgets' own.
 void ApplyTexts(QWidget& root, const shell::LangTable& lang);
 
+/// The text as it stands, for a tool tip: Qt would take what looks like HTML for it.
+QString AsToolTip(const QString& text);
+
 /// A text of the table as a plain caption: no trailing colon, no blanks around it.
 QString Heading(const QString& text);
 

@@ -280,6 +280,9 @@ void RereadGameEntry(Launcher& launcher, const QString& folder)
         return;
     }
     const GameFiles files = ListGame(launcher.places, folder);
+    if (!files.game.exists) {
+        return; // what the list knows of it is more than its folder tells
+    }
     launcher.catalogue.Edit(
         position, [&](GameEntry& entry) { RefreshEntry(entry, files, RulesOf(launcher)); });
     ShowGameEntry(launcher, folder);

@@ -80,6 +80,15 @@ platform::Done Store(Launcher& launcher, const QString& folder, const Facts& fac
                                                          : WriteFacts(files, facts);
 }
 
+/// What games have in each category by now.
+void OfferValues(Launcher& launcher)
+{
+    ConfigDetail& dialog = launcher.screens.configDetail;
+    for (std::size_t i = 0; i < kRootKeys.size(); ++i) {
+        dialog.values[i] = finding::ChildTexts(launcher.screens.tree, kRootKeys[i].toString());
+    }
+}
+
 } // namespace
 
 void OpenDetails(Launcher& launcher)
@@ -92,9 +101,7 @@ void OpenDetails(Launcher& launcher)
     dialog.folder = folder;
     dialog.title = launcher.current.CurrentTitle;
     dialog.Combo1 = TextsOf(ReadFacts(ListGame(launcher.places, folder)));
-    for (std::size_t i = 0; i < kRootKeys.size(); ++i) {
-        dialog.values[i] = finding::ChildTexts(launcher.screens.tree, kRootKeys[i].toString());
-    }
+    OfferValues(launcher);
     dialog.changed.Tell(ConfigDetail::Open | ConfigDetail::Texts);
 }
 
@@ -138,6 +145,7 @@ void DeleteDetails(Launcher& launcher)
     }
     ShowFacts(launcher, folder, Facts{});
     dialog.Combo1 = {};
+    OfferValues(launcher);
     dialog.changed.Tell(ConfigDetail::Texts);
 }
 

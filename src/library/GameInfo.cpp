@@ -115,6 +115,14 @@ platform::Outcome<InfoBytes> ReadInfoBytes(const GameFiles& files)
     return SplitInfoBytes(start.Value());
 }
 
+platform::Error TooLarge(const QString& path)
+{
+    return platform::Error::Worded(
+        platform::ErrorKind::Refused,
+        platform::Wording{
+            441, u"<1>: too large to be edited here; the file stays as it is."_s, {path}});
+}
+
 bool EndsALine(const QByteArray& line)
 {
     return line.endsWith('\n') || line.endsWith('\r');
@@ -293,16 +301,18 @@ platform::Done WriteInfo(GameFiles& files, const InfoChange& change, Loss loss)
         return old.Failure();
     }
     if (!old.Value().whole) {
-        return platform::Error::Worded(
-            platform::ErrorKind::Refused,
-            platform::Wording{
-                441, u"<1>: too large to be edited here; the file stays as it is."_s, {path}});
+        return TooLarge(path);
     }
     if (old.Value().exists && !change.titles && !change.description) {
         return platform::Success();
     }
     QString lost;
     const QByteArray bytes = ComposeInfo(old.Value(), change, lost);
+    // Nothing is written that could not be edited again.
+    if (bytes.size() > kMostInfo ||
+        SplitInfoBytes({bytes, true}).titleLine.size() > kMostTitleLine) {
+        return TooLarge(path);
+    }
     if (loss == Loss::Refuse && !lost.isEmpty()) {
         return platform::Error{platform::ErrorKind::Unencodable, u"%1: %2"_s.arg(path, lost)};
     }

@@ -31,6 +31,8 @@ enum class InfoState {
 /// The bytes of an info.txt that can be edited, and the characters of its title line.
 inline constexpr qsizetype kMostInfo = qsizetype{256} * 1024;
 inline constexpr qsizetype kMostTitleLine = 4096;
+/// The characters of each title: two of them always fit in their line.
+inline constexpr int kMostTitle = 1000;
 
 /// What the title and description boxes show.
 struct InfoText {

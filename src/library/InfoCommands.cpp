@@ -131,7 +131,9 @@ void WriteGameInfo(Launcher& launcher)
         return;
     }
     platform::Error failure;
-    const InfoChange change = ChangeOf(details.savedInfo, TypedDraft(details));
+    // Over the file as it is by now: another program may have changed what was not typed into.
+    const InfoChange change =
+        ChangeOf(ReadInfo(ListGame(launcher.places, folder)), TypedDraft(details));
     switch (SaveDraft(launcher, folder, change, failure)) {
     case Saved::Yes:
         if (details.folder == folder) {
@@ -176,12 +178,26 @@ std::optional<QStringList> SettleDrafts(Launcher& launcher)
         const InfoText saved = ReadInfo(ListGame(launcher.places, folder));
         platform::Error failure;
         switch (SaveDraft(launcher, folder, ChangeOf(saved, draft), failure)) {
-        case Saved::Yes: RereadGameEntry(launcher, folder); break;
+        case Saved::Yes:
+            RereadGameEntry(launcher, folder);
+            if (launcher.screens.details.folder == folder) {
+                ShowInfo(launcher, ListGame(launcher.places, folder));
+            }
+            break;
         case Saved::Failed: failures << launcher.lang.Told(failure.Told()); break;
         case Saved::Refused: return std::nullopt;
         }
     }
     return failures;
+}
+
+void ForgetDrafts(Launcher& launcher)
+{
+    DetailsPanel& details = launcher.screens.details;
+    launcher.drafts.clear();
+    FillBoxes(details, details.savedInfo);
+    details.draft = false;
+    details.changed.Tell(DetailsPanel::Texts | DetailsPanel::Draft);
 }
 
 } // namespace pelorin::library

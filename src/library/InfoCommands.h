@@ -35,5 +35,7 @@ void cmdSaveInfo_Click(shell::Launcher& launcher);
 /// The program is about to end: asks once for all drafts whether to save them. nullopt: the window
 /// stays. Else what could not be saved, one line each. Drafts that are not saved are kept.
 std::optional<QStringList> SettleDrafts(shell::Launcher& launcher);
+/// What was typed and not saved is no more.
+void ForgetDrafts(shell::Launcher& launcher);
 
 } // namespace pelorin::library

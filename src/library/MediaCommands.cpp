@@ -4,6 +4,7 @@
 #include "library/MediaPanel.h"
 #include "platform/Bin.h"
 #include "platform/ShellVerbs.h"
+#include "shell/FolderCfgCommands.h"
 #include "shell/JobCommands.h"
 #include "shell/Launcher.h"
 
@@ -77,6 +78,12 @@ QStringList FilesNow(const FileList& list, Media media)
     return PictureFiles(files);
 }
 
+/// The lists keep a former game's files when the present one has no metadata folder.
+bool IsOfGame(const Launcher& launcher, const QString& path)
+{
+    return path.startsWith(launcher.places.GameDir(launcher.screens.details.folder) + u'/');
+}
+
 } // namespace
 
 void FillMedia(Launcher& launcher, const GameFiles& files)
@@ -106,11 +113,12 @@ void ClearMedia(Launcher& launcher)
 shell::MenuModel MediaMenu(const Launcher& launcher, Media media)
 {
     const FileList& list = ListOf(launcher.screens.media, media);
+    const QString path = list.SelectedPath();
     shell::MenuModel menu;
     for (const MediaEntry& entry : kEntries) {
         if (entry.media == media && !list.files.isEmpty()) {
-            menu.push_back(
-                {entry.index, launcher.lang[entry.text], !list.SelectedPath().isEmpty()});
+            const bool works = entry.act == Act::Open ? !path.isEmpty() : IsOfGame(launcher, path);
+            menu.push_back({entry.index, launcher.lang[entry.text], works});
         }
     }
     return menu;
@@ -135,9 +143,7 @@ void DeleteMediaFile(Launcher& launcher, Media media)
 {
     MediaPanel& panel = launcher.screens.media;
     const QString path = ListOf(panel, media).SelectedPath();
-    // The lists keep a former game's files when the present one has no metadata folder.
-    const QString game = launcher.places.GameDir(launcher.screens.details.folder);
-    if (path.isEmpty() || !path.startsWith(game + u'/')) {
+    if (path.isEmpty() || shell::ShowsFormerRoot(launcher) || !IsOfGame(launcher, path)) {
         return;
     }
     shell::TellIfFailed(launcher, kCategory, launcher.ports.bin.MoveToBin(path));

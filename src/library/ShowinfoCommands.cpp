@@ -47,6 +47,12 @@ void TakeGenres(Launcher& launcher, GameFiles& files)
     }
     Troubles troubles; // a scan tells of them
     const Genres genres = ReadGenres(files, GenreForm::Panel, troubles);
+    if (!files.game.exists || troubles.count > 0) {
+        // What can't be read now, a disk that is unplugged, is no reason to forget what is known.
+        const GameEntry& known = launcher.catalogue[static_cast<std::size_t>(position)];
+        ShowGenres(launcher, known.GenreK, known.GenreE);
+        return;
+    }
     launcher.catalogue.Edit(position, [&](GameEntry& entry) {
         entry.GenreK = genres.korean;
         entry.GenreE = genres.english;
@@ -161,6 +167,7 @@ void ShowNoGame(Launcher& launcher)
     status.changed.Tell(shell::StatusBar::Texts);
     launcher.screens.frame.caption = launcher.WindowTitle;
     launcher.screens.frame.changed.Tell(shell::MainFrame::Caption);
+    dosboxconf::ShowConfigPage(launcher);
 }
 
 void tabInfo_Click(Launcher& launcher)
@@ -174,7 +181,7 @@ void tabInfo_Click(Launcher& launcher)
         return;
     }
     const GameFiles files = ListGame(launcher.places, folder);
-    dosboxconf::FillCdList(launcher, files);
+    dosboxconf::RefillCdList(launcher, files);
     LoadConf(launcher, files);
 }
 

@@ -336,7 +336,17 @@ Done KeepBackup(const QString& path)
     if (!bytes) {
         return bytes.Failure();
     }
-    return WriteBytes(path + u".bak"_s, bytes.Value());
+    const QString backup = path + u".bak"_s;
+    const Outcome<QByteArray> former = ReadBytes(backup);
+    if (former && former.Value() == bytes.Value()) {
+        return Success();
+    }
+    if (former) {
+        if (Done kept = WriteBytes(path + u".bak2"_s, former.Value()); !kept) {
+            return kept;
+        }
+    }
+    return WriteBytes(backup, bytes.Value());
 }
 
 } // namespace pelorin::platform

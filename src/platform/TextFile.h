@@ -85,7 +85,7 @@ Error LineError(ErrorKind kind, const QString& path, qsizetype line, const QStri
 /// The same for a file that has to be there and gave `failure`: it lacks its first line.
 Error NoFirstLine(const QString& path, const Error& failure);
 
-/// Copies `path` to `path`.bak, replacing an older one. Nothing to keep is a success.
+/// Copies `path` to `path`.bak; what stood there goes to `path`.bak2. Nothing to keep is a success.
 Done KeepBackup(const QString& path);
 
 } // namespace pelorin::platform

@@ -9,7 +9,7 @@
 
 namespace pelorin::running {
 
-QString PreviewGameText(const shell::Launcher& launcher)
+platform::Outcome<QString> PreviewGameText(const shell::Launcher& launcher)
 {
     RunRequest request;
     request.folder = launcher.screens.details.folder;
@@ -17,7 +17,7 @@ QString PreviewGameText(const shell::Launcher& launcher)
     request.startCommands = launcher.screens.start.lstAutoexec;
     request.cd = dosboxconf::ChoiceOf(launcher.screens.cd);
     const QString build = launcher.options.SelectedText(dosboxconf::kVersionCell);
-    if (!platform::IsPlainName(request.folder) || !CheckRequest(request, build)) {
+    if (!platform::IsPlainName(request.folder) || build.isEmpty()) {
         return QString();
     }
     switch (BranchOf(request.mode, build, request.startCommands.size())) {
@@ -26,11 +26,21 @@ QString PreviewGameText(const shell::Launcher& launcher)
     case RunBranch::AskForPrompt: request.mode = RunMode::DosPrompt; break;
     default: return QString();
     }
+    if (const platform::Done possible = CheckRequest(request, build); !possible) {
+        return possible.Failure();
+    }
+    const platform::PathForm form = FindEmulator(launcher, request.mode, build).pathForm;
+    if (const platform::Done possible = CheckCommands(request, build, form); !possible) {
+        return possible.Failure();
+    }
     const dosboxconf::RunFacts facts =
         dosboxconf::LoadRunFacts(launcher.places, ConfRequestOf(request, build));
     const platform::HostText composed = dosboxconf::ComposeDosboxConf(facts, launcher.options).text;
-    return FinishRunText(composed, EndingOf(launcher, request, build))
-        .Preview(FindEmulator(launcher, request.mode, build).pathForm);
+    const platform::HostText text = FinishRunText(composed, EndingOf(launcher, request, build));
+    if (const platform::Done fits = CheckLaunch(facts, text, form); !fits) {
+        return fits.Failure();
+    }
+    return text.Preview(form);
 }
 
 } // namespace pelorin::running

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Outcome.h"
+
 #include <QString>
 
 namespace pelorin::shell {
@@ -12,6 +14,7 @@ namespace pelorin::running {
 /// saved settings, with paths in the form of the program that it would find; nothing is read from
 /// the game's files or written. Of a game without start commands it is the text of the DOS prompt,
 /// which such a start offers. Empty where the build is no DOSBox.
-QString PreviewGameText(const shell::Launcher& launcher);
+/// Error Refused where a start would write nothing.
+platform::Outcome<QString> PreviewGameText(const shell::Launcher& launcher);
 
 } // namespace pelorin::running

@@ -95,6 +95,16 @@ QString NearestFolder(const QString& path)
     return folder;
 }
 
+/// What was typed into games of this root is saved or given up. False: neither, so it must stay.
+bool LeavesDrafts(Launcher& launcher)
+{
+    const std::optional<QStringList> unsaved = library::SettleDrafts(launcher);
+    if (unsaved && !unsaved->isEmpty()) {
+        TellNote(launcher, kCategory, unsaved->first(), unsaved->join(u'\n'));
+    }
+    return unsaved && unsaved->isEmpty();
+}
+
 } // namespace
 
 void frmFolderCFG_Load(Launcher& launcher)
@@ -106,7 +116,10 @@ void frmFolderCFG_Load(Launcher& launcher)
 void ChooseRoot(Launcher& launcher, Root root)
 {
     const int title = root == Root::Games ? 210 : 211;
-    const QString start = NearestFolder(RootPath(launcher.places, BoxOf(launcher, root)));
+    const QString& current =
+        root == Root::Games ? launcher.places.gamesRoot : launcher.places.exportRoot;
+    const QString typed = RootPath(launcher.places, BoxOf(launcher, root));
+    const QString start = NearestFolder(typed.isEmpty() ? current : typed);
     const QString chosen = launcher.ports.prompts.ChooseFolder(launcher.lang[title], start);
     if (chosen.isEmpty()) {
         return;
@@ -140,18 +153,19 @@ bool AcceptRoots(Launcher& launcher)
     const QString games = RootPath(launcher.places, BoxOf(launcher, Root::Games));
     const QString exported = RootPath(launcher.places, BoxOf(launcher, Root::Export));
     if (!Allows(launcher, Root::Games, games, exported) ||
-        !Allows(launcher, Root::Export, exported, games) || !Makes(launcher, games) ||
-        !Makes(launcher, exported)) {
+        !Allows(launcher, Root::Export, exported, games)) {
         return false;
     }
     const bool moves = games != launcher.places.gamesRoot;
-    if (moves && !library::SettleDrafts(launcher)) {
+    if ((moves && !LeavesDrafts(launcher)) || !Makes(launcher, games) ||
+        !Makes(launcher, exported)) {
         return false;
     }
     launcher.places.exportRoot = exported;
     if (moves) {
         launcher.places.gamesRoot = games;
         launcher.settings.rootsChanged = true;
+        library::ForgetDrafts(launcher); // a namesake below the new root is another game
         ShowsFormerRoot(launcher);
         launcher.screens.details.changed.Tell(DetailsPanel::Texts); // not to be edited any more
     }

@@ -187,4 +187,39 @@ TEST_F(ConfigPage, PresetsGoOutAndComeIn)
     dosboxconf::cmdOpenPreset_Click(*m_launcher);
     EXPECT_EQ(m_app.folder.ReadRaw(kOwn + u".bak"_s), own);
     EXPECT_TRUE(m_app.folder.ReadRaw(kOwn).startsWith("ver.15.02.01"));
+    // The oldest layout is kept once more as it is upgraded, behind what it replaced.
+    const QByteArray mine = m_app.folder.ReadRaw(kOwn);
+    m_app.folder.WriteLines(u"preset/맨옛.conf"_s, QStringList(11 * 11, u"0"_s));
+    m_app.fakes.prompts.WillOpen(m_app.folder.Path(u"preset/맨옛.conf"_s));
+    dosboxconf::cmdOpenPreset_Click(*m_launcher);
+    EXPECT_EQ(m_app.folder.ReadRaw(kOwn + u".bak2"_s), mine);
+}
+
+TEST_F(ConfigPage, ThePreviewTellsWhyAStartWouldWriteNothing)
+{
+    ShowTab(dosboxconf::kGlobalTab);
+    ChooseValue(
+        u"version"_s, static_cast<int>(m_launcher->options.BuildNames().indexOf(u"SNES9X"_s)));
+    EXPECT_EQ(Editor().preview.state, ConfPreview::State::WillBeNone);
+    m_launcher->screens.start.lstAutoexec = QStringList(300, u"echo a line of some length"_s);
+    ChooseValue(u"version"_s, 0);
+    EXPECT_EQ(Editor().preview.text, QString());
+    EXPECT_PRED2(test::Holds, Editor().preview.refusal, u"DOSBox"_s);
+    m_launcher->screens.start.lstAutoexec.clear();
+    ChooseValue(u"version"_s, 0);
+    EXPECT_EQ(Editor().preview.refusal, QString());
+    EXPECT_FALSE(Editor().preview.text.isEmpty());
+}
+
+TEST_F(ConfigPage, WithoutAGameItHoldsNoneOfTheFormerOnes)
+{
+    ShowTab(dosboxconf::kGameTab);
+    dosboxconf::chkEditConfig_Click(*m_launcher, true);
+    ChooseValue(u"memsize"_s, 0);
+    dosboxconf::cmdSaveConfig_Click(*m_launcher);
+    ShowTab(dosboxconf::kGlobalTab);
+    ASSERT_TRUE(Editor().page.message);
+    library::ShowNoGame(*m_launcher);
+    EXPECT_FALSE(Editor().page.message);
+    EXPECT_FALSE(Editor().hasConf);
 }

@@ -149,6 +149,38 @@ TEST_F(Details, DiscardedDraftsEndWithTheProgramOnly)
     EXPECT_EQ(Info(u"하나"_s), u"하나\u0003Game\r\nold\r\n"_s);
 }
 
+TEST_F(Details, WhatCantBeReadNowIsNotForgotten)
+{
+    m_app.folder.WriteText(Meta(u"둘"_s, u"GenreK.dat"_s), u"퍼즐"_s);
+    library::cmdRefresh_Click(*m_launcher);
+    const auto entry = [&]() -> const library::GameEntry& {
+        return m_launcher->catalogue[static_cast<std::size_t>(
+            library::PositionOf(m_launcher->catalogue, u"둘"_s))];
+    };
+    ASSERT_EQ(entry().GenreK, u"퍼즐"_s);
+    // The disk is unplugged.
+    ASSERT_TRUE(QDir().rename(m_app.folder.Path(u"Games"_s), m_app.folder.Path(u"away"_s)));
+    Click(*m_launcher, u"둘"_s);
+    library::cmdSaveInfo_Click(*m_launcher);
+    EXPECT_EQ(entry().GenreK, u"퍼즐"_s);
+    EXPECT_EQ(entry().TitleE, u"Game"_s);
+    EXPECT_EQ(Panel().lblGenreK, u"퍼즐"_s);
+}
+
+TEST_F(Details, SavingTakesWhatAnotherProgramChangedMeanwhile)
+{
+    TypeTitle(u"새 제목"_s);
+    m_app.folder.WriteText(Meta(u"하나"_s, u"info.txt"_s), u"하나\u0003Changed\r\nnew\r\n"_s);
+    library::cmdSaveInfo_Click(*m_launcher);
+    EXPECT_EQ(Info(u"하나"_s), u"새 제목\u0003Changed\r\nnew\r\n"_s);
+    // What could not be edited again is not written.
+    Panel().txtInfo = QString(300'000, u'a');
+    library::Info_Change(*m_launcher);
+    library::cmdSaveInfo_Click(*m_launcher);
+    EXPECT_EQ(Info(u"하나"_s), u"새 제목\u0003Changed\r\nnew\r\n"_s);
+    EXPECT_TRUE(Panel().draft);
+}
+
 TEST_F(Details, TheGenreMenuHoldsEveryValueOfTheTree)
 {
     library::Catalogue& catalogue = m_launcher->catalogue;

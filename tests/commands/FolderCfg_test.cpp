@@ -148,7 +148,10 @@ TEST_F(FolderCfg, FormerGamesAreNotTakenForThoseOfTheNewRoot)
     type(u"새 제목"_s);
     Boxes().txtGames = Path(u"Other");
     m_app.fakes.prompts.WillAnswer(platform::Answer::Cancel);
+    Boxes().txtExport = Path(u"New/export");
     EXPECT_FALSE(shell::AcceptRoots(*m_launcher)) << "the draft is asked about first";
+    EXPECT_FALSE(m_app.folder.Exists(u"New"_s)) << "and nothing was made";
+    Boxes().txtExport = m_launcher->places.exportRoot;
     m_app.fakes.prompts.WillAnswer(platform::Answer::Save);
     ASSERT_TRUE(shell::AcceptRoots(*m_launcher));
     EXPECT_TRUE(m_app.folder.ReadText(u"Games/하나/DosBox/info.txt"_s).startsWith(u"새 제목"));
@@ -167,6 +170,19 @@ TEST_F(FolderCfg, FormerGamesAreNotTakenForThoseOfTheNewRoot)
     library::DeleteSelectedGames(*m_launcher);
     EXPECT_FALSE(m_app.folder.Exists(u"Other/하나"_s));
     EXPECT_TRUE(m_app.folder.Exists(u"Games/하나"_s));
+}
+
+TEST_F(FolderCfg, ADiscardedDraftIsNotANamesakesBelowTheNewRoot)
+{
+    m_app.folder.WriteText(u"Other/하나/DosBox/info.txt"_s, u"다른 게임\u0003Another"_s);
+    m_launcher->screens.details.txtTitle[0] = u"새 제목"_s;
+    library::Info_Change(*m_launcher);
+    Boxes().txtGames = Path(u"Other");
+    m_app.fakes.prompts.WillAnswer(platform::Answer::Discard);
+    ASSERT_TRUE(shell::AcceptRoots(*m_launcher));
+    library::cmdRefresh_Click(*m_launcher);
+    EXPECT_EQ(m_launcher->screens.details.txtTitle[0], u"다른 게임"_s);
+    EXPECT_TRUE(shell::Form_Unload(*m_launcher)) << "and nothing is left to ask about";
 }
 
 TEST(Site, OpensTheAddressThatTheFileNames)

@@ -277,6 +277,17 @@ TEST(GameList, AHeaderClickSortsAndASecondOneReverses)
     EXPECT_EQ(clicked(0), u"다나가"_s);
     EXPECT_EQ(clicked(finding::kColumns), u"다나가"_s);
     EXPECT_EQ(launcher->current.CurrentFolder, u"나"_s);
+    // All that is selected stays so; a term that was only typed is no search; edits stay.
+    list.selectedRows = {1, 2};
+    launcher->screens.search.txtFind = u"가"_s;
+    launcher->screens.start.lstAutoexec = QStringList{u"mine.exe"_s};
+    EXPECT_EQ(clicked(0), u"가나다"_s);
+    EXPECT_EQ(list.selectedRows, (std::vector<int>{0, 1}));
+    EXPECT_EQ(launcher->screens.start.lstAutoexec, QStringList{u"mine.exe"_s});
+    list.Select(-1);
+    finding::LVGamelist_ColumnClick(*launcher, 0);
+    EXPECT_EQ(list.selected, -1);
+    EXPECT_EQ(launcher->current.CurrentFolder, u"나"_s);
 }
 
 TEST(GameList, RowsMakeThePanelsUsableAtOnceOrAtTheEndOfTheJob)

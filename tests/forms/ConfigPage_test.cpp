@@ -98,10 +98,12 @@ TEST_F(ConfigPageWindow, TheTextOfAStartIsShownWithWhatBecameOfIt)
     for (int line = 0; line < 200; ++line) {
         lines += u"line %1\r\n"_s.arg(line);
     }
-    screens.config.preview = {ConfPreview::State::Saved, lines};
+    screens.config.preview = {ConfPreview::State::Saved, lines, QString()};
     screens.config.changed.Tell(dosboxconf::ConfigEditor::Preview);
     screens.config.preview = {
-        ConfPreview::State::Differs, QString(lines).replace(u"line 150"_s, u"changed"_s)};
+        ConfPreview::State::Differs,
+        QString(lines).replace(u"line 150"_s, u"changed"_s),
+        QString()};
     screens.config.changed.Tell(dosboxconf::ConfigEditor::Preview);
     EXPECT_EQ(text->textCursor().block().text(), u"changed"_s) << "what changes is in view";
     EXPECT_TRUE(text->viewport()->rect().contains(text->cursorRect()));

@@ -391,7 +391,10 @@ TEST(GameListModelTest, ToolTipsShowTitlesAsTheyStand)
     item.text[0] = u"<b>A & B</b>"_s;
     list.items.push_back(item);
     const forms::GameListModel model(list, icons);
-    EXPECT_EQ(model.data(model.index(0, 0), Qt::ToolTipRole), u"&lt;b&gt;A &amp; B&lt;/b&gt;"_s);
+    EXPECT_EQ(
+        model.data(model.index(0, 0), Qt::ToolTipRole), u"<qt>&lt;b&gt;A &amp; B&lt;/b&gt;</qt>"_s);
+    list.items[0].text[0] = u"A & \"B\""_s;
+    EXPECT_EQ(model.data(model.index(0, 0), Qt::ToolTipRole), u"A & \"B\""_s);
     EXPECT_EQ(model.data(model.index(0, 1), Qt::ToolTipRole), QVariant());
 }
 

@@ -105,7 +105,7 @@ TEST_F(WindowTextsTest, TextsFromFilesAreShownAsTheyStand)
     Open();
     EXPECT_EQ(Find<QLabel>("lblMessage")->textFormat(), Qt::PlainText);
     EXPECT_EQ(Caption("lblGenreK"), u"R&&D"_s);
-    EXPECT_EQ(Find("SBDirectory_4")->toolTip(), u"&lt;i&gt;note&lt;/i&gt;"_s);
+    EXPECT_EQ(Find("SBDirectory_4")->toolTip(), u"<qt>&lt;i&gt;note&lt;/i&gt;</qt>"_s);
 }
 
 } // namespace pelorin::test

@@ -159,7 +159,7 @@ protected:
         const QString title = config.lstConfigTitle[0];
         dosboxconf::ShowDifferences(config, {{{1, 0}, options.GroupCaption[1], title, u"true"_s}});
         config.txtDesc = title;
-        config.preview = {dosboxconf::ConfPreview::State::Differs, u"[sdl]"_s};
+        config.preview = {dosboxconf::ConfPreview::State::Differs, u"[sdl]"_s, QString()};
     }
 
     /// The page of options as it is for all games, and for a game with settings of its own.

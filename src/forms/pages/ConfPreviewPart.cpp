@@ -19,6 +19,7 @@ OwnEntry WordsOf(dosboxconf::ConfPreview::State state)
     case State::Saved: return kOwnPreviewSaved;
     case State::Differs: return kOwnPreviewDiffers;
     case State::Unsaved: return kOwnPreviewUnsaved;
+    case State::WillBeNone: return kOwnPreviewWillBeNone;
     case State::None: break;
     }
     return kOwnPreviewNone;
@@ -61,7 +62,8 @@ ConfPreviewPart::ConfPreviewPart(QWidget* parent)
 
 void ConfPreviewPart::Show(const dosboxconf::ConfPreview& preview, const shell::LangTable& lang)
 {
-    m_lblPreview->setText(Own(lang, WordsOf(preview.state)));
+    m_lblPreview->setText(
+        preview.refusal.isEmpty() ? Own(lang, WordsOf(preview.state)) : preview.refusal);
     ShowText(QString(preview.text).replace(u"\r\n"_s, u"\n"_s));
 }
 

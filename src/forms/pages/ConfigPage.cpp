@@ -40,15 +40,15 @@ QHBoxLayout* RowOf(QWidget& part)
     return row;
 }
 
-/// Lists side by side scroll together.
+/// Lists side by side scroll together, as far as both have rows.
 void ScrollTogether(RowList& from, RowList& to)
 {
     from.setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
-    QObject::connect(
-        from.verticalScrollBar(),
-        &QScrollBar::valueChanged,
-        to.verticalScrollBar(),
-        &QScrollBar::setValue);
+    QScrollBar* const bar = to.verticalScrollBar();
+    QObject::connect(from.verticalScrollBar(), &QScrollBar::valueChanged, bar, [bar](int value) {
+        const QSignalBlocker noEcho(bar);
+        bar->setValue(value);
+    });
 }
 
 } // namespace

@@ -89,7 +89,7 @@ QLayout* InformationPage::BuildHead()
         caption->setFont(Scaled(caption->font(), 0.9));
         auto* title = new QLineEdit(this);
         title->setObjectName(u"txtTitle_%1"_s.arg(i));
-        title->setMaxLength(library::kMostTitleLine);
+        title->setMaxLength(library::kMostTitle);
         title->installEventFilter(this);
         connect(title, &QLineEdit::textEdited, this, [this, i](const QString& text) {
             m_shown.screens.details.txtTitle[static_cast<std::size_t>(i)] = text;
@@ -223,6 +223,7 @@ void InformationPage::ShowInfoState()
     const library::InfoState state = m_shown.screens.details.savedInfo.state;
     // The games of a former root are not saved any more.
     const bool editable = state == library::InfoState::Whole && !m_shown.settings.rootsChanged &&
+                          !m_shown.screens.details.folder.isEmpty() &&
                           static_cast<bool>(m_deeds.Info_Change);
     m_cmdSaveInfo->setEnabled(editable && static_cast<bool>(m_deeds.cmdSaveInfo_Click));
     for (QLineEdit* title : m_txtTitle) {
