@@ -436,6 +436,11 @@ TEST_F(WindowDeedsTest, TitlesAndDescriptionAreWrittenByTheUserOnly)
     info->undo();
     EXPECT_EQ(details.txtInfo, u"one\r\ntwo\r\n3"_s) << "what Esc took can be had back";
 
+    // A long title from elsewhere is not cut by being shown.
+    details.txtTitle[0] = QString(1500, u'x');
+    details.changed.Tell(shell::DetailsPanel::Texts);
+    EXPECT_EQ(title->text(), details.txtTitle[0]);
+
     details.savedInfo.state = library::InfoState::Cut;
     details.changed.Tell(shell::DetailsPanel::Texts);
     QTest::keyClicks(info, u"4"_s);

@@ -24,6 +24,8 @@ namespace {
 
 void ShowTitle(QLineEdit& box, const QString& text, bool anew)
 {
+    // A longer one that came from elsewhere is not to be cut by being shown.
+    box.setMaxLength(qMax(library::kMostTitle, static_cast<int>(text.size())));
     if (anew) {
         box.setText(text);
         box.setCursorPosition(0);
@@ -89,7 +91,6 @@ QLayout* InformationPage::BuildHead()
         caption->setFont(Scaled(caption->font(), 0.9));
         auto* title = new QLineEdit(this);
         title->setObjectName(u"txtTitle_%1"_s.arg(i));
-        title->setMaxLength(library::kMostTitle);
         title->installEventFilter(this);
         connect(title, &QLineEdit::textEdited, this, [this, i](const QString& text) {
             m_shown.screens.details.txtTitle[static_cast<std::size_t>(i)] = text;
