@@ -134,8 +134,7 @@ TEST(GoldenTextTest, EveryStartEqualsTheOtherComposersByteForByte)
         ending.addkey = row[u"addkey"_s].toBool();
         if (running::BranchOf(request.mode, build, request.startCommands.size()) ==
             running::RunBranch::GuestWindows) {
-            ending.guestLines =
-                running::GuestWindowsLines(request, build, places);
+            ending.guestLines = running::GuestWindowsLines(request, build, places);
         }
         const bool whole = row[u"finished"_s].toBool(); // guests run no single files
         const platform::HostText text =
