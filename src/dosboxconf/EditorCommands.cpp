@@ -74,6 +74,9 @@ ConfPreview::State PreviewState(const Launcher& launcher)
     using State = ConfPreview::State;
     const ConfigEditor& editor = launcher.screens.config;
     const bool same = editor.preview.text == editor.savedText;
+    if (!editor.preview.refusal.isEmpty()) {
+        return IsSaved(launcher) ? State::None : State::WillBeNone;
+    }
     if (editor.preview.text.isEmpty()) {
         return same ? State::None : State::WillBeNone;
     }

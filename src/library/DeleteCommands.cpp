@@ -171,10 +171,11 @@ void DeleteSelectedGames(Launcher& launcher)
     if (launcher.flags.Ending) {
         return;
     }
+    // The list first: it is seen beside the report.
+    ShowWhatIsLeft(launcher, games, neighbours);
     if (!report.isEmpty()) {
         launcher.ports.prompts.ShowReport(launcher.lang[312], report.join(u"\r\n"_s));
     }
-    ShowWhatIsLeft(launcher, games, neighbours);
     if (launcher.catalogue.empty()) {
         TellEmptyLibrary(launcher);
     }

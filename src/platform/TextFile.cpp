@@ -341,6 +341,9 @@ Done KeepBackup(const QString& path)
     if (former && former.Value() == bytes.Value()) {
         return Success();
     }
+    if (!former && former.Failure().kind != ErrorKind::NotFound) {
+        return former.Failure();
+    }
     if (former) {
         if (Done kept = WriteBytes(path + u".bak2"_s, former.Value()); !kept) {
             return kept;

@@ -101,8 +101,8 @@ void MountGameDisk(HostText& text, const RunRequest& request, const shell::Place
     const QString found = platform::FindPath(folder, image).value_or(QString());
     const QString native = found.startsWith(folder + u'/') ? found.mid(folder.size() + 1)
                                                            : platform::NativePath(image);
-    text.Text(u"imgmount 3 \""_s)
-        .Path(HostPath{u"%gameroot%\\"_s + image, u"%gameroot%/"_s + native})
+    text.Text(u"imgmount 3 \"%gameroot%"_s)
+        .BatchPath(HostPath{u'\\' + image, u'/' + native})
         .Text(
             u"\" -t hdd -fs none -size "_s + request.startCommands.value(1) + u" -ide 1s"_s + kEnd);
 }

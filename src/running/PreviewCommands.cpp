@@ -1,6 +1,7 @@
 #include "running/PreviewCommands.h"
 
 #include "dosboxconf/ConfCompose.h"
+#include "library/TitleMarks.h"
 #include "platform/Paths.h"
 #include "running/DosboxLaunch.h"
 #include "running/LaunchCommands.h"
@@ -9,11 +10,33 @@
 
 namespace pelorin::running {
 
+namespace {
+
+/// The title that the list will show once the edits of the page are saved: its marks tell of the
+/// game's settings, and it names files.
+QString TitleOnceSaved(const shell::Launcher& launcher)
+{
+    const dosboxconf::ConfigEditor& editor = launcher.screens.config;
+    if (editor.saved == launcher.options.OptionSelection) {
+        return launcher.current.CurrentTitle;
+    }
+    const shell::DetailsPanel& details = launcher.screens.details;
+    library::MarkFacts marks = library::MarkFactsOf(
+        library::ListGame(launcher.places, details.folder),
+        static_cast<std::int16_t>(launcher.options.Selected(dosboxconf::kVersionCell)));
+    marks.edited = marks.edited || launcher.screens.frame.tabInfo == dosboxconf::kGameTab;
+    const auto& [korean, english] = details.savedInfo.titles;
+    const QString& title = launcher.settings.TitleLanguageKorean ? korean : english;
+    return library::MarkedTitle(title.isEmpty() ? details.folder : title, marks, launcher.lang);
+}
+
+} // namespace
+
 platform::Outcome<QString> PreviewGameText(const shell::Launcher& launcher)
 {
     RunRequest request;
     request.folder = launcher.screens.details.folder;
-    request.title = launcher.current.CurrentTitle;
+    request.title = TitleOnceSaved(launcher);
     request.startCommands = launcher.screens.start.lstAutoexec;
     request.cd = dosboxconf::ChoiceOf(launcher.screens.cd);
     const QString build = launcher.options.SelectedText(dosboxconf::kVersionCell);

@@ -156,9 +156,18 @@ void StartWindowsFile(Launcher& launcher, const RunRequest& request)
 {
     const dosboxconf::StartCommands& start = launcher.screens.start;
     const QString folder = launcher.places.GameDir(request.folder);
+    const QString file = start.fileEXE.value(start.fileRow);
+    if (!file.endsWith(u".exe", Qt::CaseInsensitive)) {
+        shell::TellNote(
+            launcher,
+            kCategory,
+            launcher.lang.OwnText(
+                469, u"<1>: of games for Windows only .exe files can be started."_s, {file}));
+        return;
+    }
     const platform::ProgramHost host(launcher.places.appDir, launcher.searchPath);
     const platform::Outcome<platform::HostProgram> program =
-        host.Find(platform::ResolvePath(folder, start.fileEXE.value(start.fileRow)));
+        host.Find(platform::ResolvePath(folder, file));
     if (!program) {
         shell::TellNote(launcher, kCategory, program.Failure());
         return;

@@ -232,6 +232,30 @@ TEST_F(RunModes, ThePageOfOptionsShowsWhatAStartWrites)
     EXPECT_EQ(editor.preview.text, QString());
 }
 
+TEST_F(RunModes, ThePageShowsWhatAStartWritesOnceTheEditsAreSaved)
+{
+    Start();
+    QStringList global = m_app.folder.ReadLines(u"Default.conf"_s);
+    const int log = 1 + dosboxconf::kLogCell.group * dosboxconf::kItems;
+    global[log] = u"1"_s; // its file bears the title, and that is marked once a game has settings
+    m_app.folder.WriteLines(u"Default.conf"_s, global);
+    m_launcher->screens.frame.tabInfo = dosboxconf::kGameTab;
+    library::tabInfo_Click(*m_launcher);
+    dosboxconf::chkEditConfig_Click(*m_launcher, true);
+    dosboxconf::cmbConfigSub_Click(*m_launcher, dosboxconf::kFullscreenCell.group);
+    const dosboxconf::ConfigEditor& editor = m_launcher->screens.config;
+    const bool full = m_launcher->options.Selected(dosboxconf::kFullscreenCell) == 0;
+    dosboxconf::lstConfig_Click(
+        *m_launcher, dosboxconf::RowOfItem(editor, dosboxconf::kFullscreenCell.item));
+    dosboxconf::cmbConfig_Click(*m_launcher, full ? 1 : 0);
+    ASSERT_EQ(editor.preview.state, dosboxconf::ConfPreview::State::Differs);
+    const QString shown = editor.preview.text;
+    ASSERT_TRUE(shown.contains(u"logfile="_s));
+    dosboxconf::cmdSaveConfig_Click(*m_launcher);
+    running::RunGame(*m_launcher);
+    EXPECT_EQ(shown, Conf());
+}
+
 TEST_F(RunModes, EditsThatAreNotSavedOutliveAStart)
 {
     Start();

@@ -182,6 +182,18 @@ TEST(Run, TellsWhyNothingStarts)
     app.fakes.processes.RefuseNext(platform::ErrorKind::Refused, u"no memory"_s);
     running::RunGame(*launcher);
     EXPECT_PRED2(Holds, LastNote(*launcher), u"no memory"_s);
+    // An image whose name breaks its line is told, and nothing is written.
+    QFile::remove(app.folder.Path(svn + u"/dosbox.conf"_s));
+    dosboxconf::CdPanel& cd = launcher->screens.cd;
+    cd.chkCD = true;
+    cd.CdMountMode = 1;
+    cd.lstCD = QStringList{u"a \"b\".iso"_s};
+    running::RunGame(*launcher);
+    EXPECT_PRED2(Holds, LastNote(*launcher), u"a \"b\".iso"_s);
+    EXPECT_FALSE(app.folder.Exists(svn + u"/dosbox.conf"_s));
+    QDir(app.folder.Path(u"DOSBox"_s)).removeRecursively();
+    running::RunLibraryShell(*launcher);
+    EXPECT_EQ(LastNote(*launcher), launcher->lang.Text(427, {app.folder.Path(u"DOSBox"_s)}));
     EXPECT_EQ(launcher->recent.RecentFolders[0], u"하나"_s);
 }
 

@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QListView>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTextBlock>
 
 using namespace Qt::StringLiterals;
@@ -87,6 +88,27 @@ TEST_F(ConfigPageWindow, AComboLiesOverTheRowUntilAValueIsChosenOrItIsLeft)
     QTest::keyClick(combo->view(), Qt::Key_Escape);
     QTRY_COMPARE(did, QStringList{u"left"_s});
     EXPECT_FALSE(combo->isVisible());
+}
+
+TEST_F(ConfigPageWindow, ListsSideBySideScrollTogetherAsFarAsBothHaveRows)
+{
+    for (int i = 0; i < 200; ++i) {
+        screens.config.lstConfigTitle << u"Title %1"_s.arg(i);
+        screens.config.lstConfig << u"Value %1"_s.arg(i);
+    }
+    screens.config.lstConfig.removeLast();
+    OpenPage();
+    QScrollBar& titles = *Find<QListView>("lstConfigTitle")->verticalScrollBar();
+    auto* const values = Find<QListView>("lstConfig");
+    titles.setValue(titles.maximum());
+    EXPECT_EQ(titles.value(), titles.maximum()) << "the shorter list pulls nothing back";
+    EXPECT_LT(values->verticalScrollBar()->value(), titles.maximum());
+    EXPECT_EQ(values->verticalScrollBar()->value(), values->verticalScrollBar()->maximum());
+    EXPECT_FALSE(
+        values->visualRect(values->model()->index(0, 0)).intersects(values->viewport()->rect()))
+        << "it has moved, not its bar alone";
+    values->verticalScrollBar()->setValue(7);
+    EXPECT_EQ(titles.value(), 7);
 }
 
 TEST_F(ConfigPageWindow, TheTextOfAStartIsShownWithWhatBecameOfIt)

@@ -62,8 +62,13 @@ ConfPreviewPart::ConfPreviewPart(QWidget* parent)
 
 void ConfPreviewPart::Show(const dosboxconf::ConfPreview& preview, const shell::LangTable& lang)
 {
-    m_lblPreview->setText(
-        preview.refusal.isEmpty() ? Own(lang, WordsOf(preview.state)) : preview.refusal);
+    using State = dosboxconf::ConfPreview::State;
+    QString words = Own(lang, WordsOf(preview.state));
+    if (!preview.refusal.isEmpty()) {
+        const bool edited = preview.state == State::WillBeNone;
+        words = (edited ? Own(lang, kOwnDraft) + u". "_s : QString()) + preview.refusal;
+    }
+    m_lblPreview->setText(words);
     ShowText(QString(preview.text).replace(u"\r\n"_s, u"\n"_s));
 }
 

@@ -10,6 +10,10 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include <memory>
+#include <utility>
+#include <vector>
+
 using namespace Qt::StringLiterals;
 
 namespace pelorin::forms {
@@ -40,15 +44,23 @@ QHBoxLayout* RowOf(QWidget& part)
     return row;
 }
 
-/// Lists side by side scroll together, as far as both have rows.
-void ScrollTogether(RowList& from, RowList& to)
+/// Lists side by side scroll together, as far as each has rows.
+void ScrollTogether(const std::vector<RowList*>& lists)
 {
-    from.setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
-    QScrollBar* const bar = to.verticalScrollBar();
-    QObject::connect(from.verticalScrollBar(), &QScrollBar::valueChanged, bar, [bar](int value) {
-        const QSignalBlocker noEcho(bar);
-        bar->setValue(value);
-    });
+    const auto following = std::make_shared<bool>(false);
+    for (RowList* const moved : lists) {
+        moved->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+        const QScrollBar* const bar = moved->verticalScrollBar();
+        QObject::connect(bar, &QScrollBar::valueChanged, moved, [lists, following](int value) {
+            // A shorter list stops before its end, and must not pull the longer one back.
+            if (!std::exchange(*following, true)) {
+                for (RowList* const list : lists) {
+                    list->verticalScrollBar()->setValue(value);
+                }
+                *following = false;
+            }
+        });
+    }
 }
 
 } // namespace
@@ -120,8 +132,7 @@ QWidget* ConfigPage::BuildLists()
     m_lstConfig->installEventFilter(this);
     lists->addWidget(m_lstConfigTitle, 3);
     lists->addWidget(m_lstConfig, 2);
-    ScrollTogether(*m_lstConfigTitle, *m_lstConfig);
-    ScrollTogether(*m_lstConfig, *m_lstConfigTitle);
+    ScrollTogether({m_lstConfigTitle, m_lstConfig});
     m_lstConfigTitle->SetRowChosen([this](int row) { Do(m_deeds.lstConfigTitle_Click, row); });
     m_lstConfigTitle->SetActivated([this](int item) { Do(m_deeds.lstConfigTitle_DblClick, item); });
     m_lstConfig->SetRowChosen([this](int row) { Do(m_deeds.lstConfig_Row, row); });
@@ -149,13 +160,7 @@ QWidget* ConfigPage::BuildDifferences()
         m_lstEdit[i]->SetRowChosen([this](int chosen) { Do(m_deeds.lstEdit_Click, chosen); });
         row->addWidget(m_lstEdit[i], kShares[i]);
     }
-    for (RowList* from : m_lstEdit) {
-        for (RowList* to : m_lstEdit) {
-            if (from != to) {
-                ScrollTogether(*from, *to);
-            }
-        }
-    }
+    ScrollTogether({m_lstEdit.begin(), m_lstEdit.end()});
     return picEdit;
 }
 

@@ -25,7 +25,10 @@ namespace {
 void ShowTitle(QLineEdit& box, const QString& text, bool anew)
 {
     // A longer one that came from elsewhere is not to be cut by being shown.
-    box.setMaxLength(qMax(library::kMostTitle, static_cast<int>(text.size())));
+    if (const int most = qMax(library::kMostTitle, static_cast<int>(text.size()));
+        box.maxLength() != most) {
+        box.setMaxLength(most); // which forgets what could be undone
+    }
     if (anew) {
         box.setText(text);
         box.setCursorPosition(0);
