@@ -22,7 +22,7 @@ BEGIN, END = "<!-- figures -->", "<!-- end of figures -->"
 Row = collections.namedtuple("Row", "words figure floor ratio most", defaults=(None, None, None))
 ROWS = [
     Row("Cache files read into catalogue and icons", "cache_read/is", "cache_read/floor", 2.5),
-    Row("The same until the list can be painted", "cache_list_ready/is", "cache_read/floor"),
+    Row("The same until the list can be painted", "cache_list_ready/is", "cache_read/floor", 2.5),
     Row("Full scan", "scan/is", "scan/floor", 1.5),
     Row("Both cache files saved where none stood", "save_new/is", "save_new/floor", 2),
     Row("Saved again, nothing has changed", "save_unchanged/is", "save_new/floor", 2),

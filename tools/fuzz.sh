@@ -4,7 +4,8 @@
 #   tools/fuzz.sh Catalogue Sheet     these
 #   FUZZ_SECONDS=600 tools/fuzz.sh    for ten minutes each
 # What they found on the way is kept in build/fuzz/corpus and is where the next run begins. An input
-# that breaks a promise lies in build/fuzz/crashes afterwards, and the status is 1.
+# that breaks a promise lies in build/fuzz/crashes afterwards, and the status is 1; it is also when a
+# target reached less than 80 % of its reader's lines.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . tools/packages.sh
@@ -49,7 +50,11 @@ tell_target() {
     llvm-cov-14 report -instr-profile "build/fuzz/$name.profdata" "build/fuzz/fuzz/fuzz_$name" |
         awk -v head="$(printf '%-10s %8d runs %5d inputs kept' "$name" "$runs" "$inputs")" -v sources=" $* " '
             index(sources, " " $1 " ") { lines += $8; missed += $9 }
-            END { printf "%s %6.1f %% of %d lines\n", head, 100 * (lines - missed) / lines, lines }'
+            END {
+                share = 100 * (lines - missed) / lines
+                printf "%s %6.1f %% of %d lines\n", head, share, lines
+                exit share < 80
+            }'
 }
 
 need_packages build fuzz </dev/null
@@ -65,7 +70,7 @@ while read -r name longest sources; do
     [ -n "$name" ] || continue
     [ $# -eq 0 ] || [[ " $* " == *" $name "* ]] || continue
     if run_target "$name" "$longest"; then
-        tell_target "$name" $sources
+        tell_target "$name" $sources || { echo "$name: reached too little" >&2; status=1; }
     else
         status=1
     fi

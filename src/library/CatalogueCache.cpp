@@ -15,6 +15,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <array>
 #include <limits>
 #include <tuple>
 #include <vector>
@@ -187,11 +188,26 @@ QStringList DeleteFormerSheets(const shell::Places& places)
     return reasons;
 }
 
-/// False when the record is damaged.
-bool ReadRecord(QStringView record, GameEntry& entry)
+/// The fields of a record, if it has as many as it should.
+bool SplitRecord(QStringView record, std::array<QStringView, kFields>& fields)
 {
-    const QList<QStringView> fields = record.split(kFieldBreak);
-    if (fields.size() != kFields) {
+    for (std::size_t i = 0; i + 1 < fields.size(); ++i) {
+        const qsizetype end = record.indexOf(kFieldBreak);
+        if (end < 0) {
+            return false;
+        }
+        fields[i] = record.left(end);
+        record = record.mid(end + 1);
+    }
+    fields.back() = record;
+    return !record.contains(kFieldBreak);
+}
+
+/// False when the record is damaged.
+bool ReadRecord(QStringView record, GameEntry& entry, TextPool& pool)
+{
+    std::array<QStringView, kFields> fields;
+    if (!SplitRecord(record, fields)) {
         return false;
     }
     const qsizetype titleBreak = fields[1].indexOf(kTitleBreak);
@@ -202,14 +218,14 @@ bool ReadRecord(QStringView record, GameEntry& entry)
     entry.Folder = fields[0].toString();
     entry.TitleK = fields[1].left(titleBreak).toString();
     entry.TitleE = fields[1].mid(titleBreak + 1).toString();
-    entry.GenreK = fields[2].toString();
-    entry.GenreE = fields[3].toString();
+    entry.GenreK = pool.Shared(fields[2]);
+    entry.GenreE = pool.Shared(fields[3]);
     entry.DosboxVersion = static_cast<std::int16_t>(
         std::clamp<std::int32_t>(platform::IntegerPrefix(fields[4]), Limits::min(), Limits::max()));
-    entry.Maker = fields[5].toString();
-    entry.Release = fields[6].toString();
-    entry.GameLanguage = fields[7].toString();
-    entry.Country = fields[8].toString();
+    entry.Maker = pool.Shared(fields[5]);
+    entry.Release = pool.Shared(fields[6]);
+    entry.GameLanguage = pool.Shared(fields[7]);
+    entry.Country = pool.Shared(fields[8]);
     return platform::IsPlainName(entry.Folder);
 }
 
@@ -233,15 +249,14 @@ platform::Outcome<GameEntries> CatalogueFromLine(const QString& path, const QStr
     TextPool pool;
     for (std::size_t i = 0; i < catalogue.size(); ++i) {
         GameEntry& entry = catalogue[i];
-        const bool whole = ReadRecord(records[static_cast<qsizetype>(i)], entry);
-        if (!whole || folders.contains(entry.Folder)) {
+        const bool whole = ReadRecord(records[static_cast<qsizetype>(i)], entry, pool);
+        folders.insert(entry.Folder);
+        if (!whole || folders.size() != static_cast<qsizetype>(i + 1)) {
             return DamagedList(
                 path,
                 (whole ? u"record %1 repeats a folder"_s : u"record %1 is damaged"_s).arg(i + 1));
         }
         entry.ListIndex = static_cast<std::int16_t>(i + 1);
-        folders.insert(entry.Folder);
-        pool.ShareFacts(entry);
     }
     return catalogue;
 }
@@ -337,9 +352,8 @@ QStringList FoldersWithoutCache(const shell::Places& places, GamesView catalogue
     // Of a full library nobody knows how many folders lie behind the last one.
     const bool full = catalogue.size() >= kMostGames;
     QStringList missing;
-    const QStringList folders = platform::ListFolder(places.gamesRoot).folders;
-    for (const QString& folder : folders) {
-        if (!known.contains(folder) && MayBeGame(places, folder) &&
+    for (const QString& folder : platform::UnknownFolders(places.gamesRoot, known)) {
+        if (MayBeGame(places, folder) &&
             (!CanNameInList(folder) || (!full && HoldsUnfitText(places, folder)))) {
             missing << folder;
         }

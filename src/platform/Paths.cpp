@@ -72,6 +72,28 @@ struct CloseDirectory {
     void operator()(DIR* directory) const { closedir(directory); }
 };
 
+/// Without the known ones, sorted. nullopt if the folder can't be listed.
+std::optional<std::vector<Entry>> EntriesOf(const QString& path, const QSet<QString>& known)
+{
+    const std::unique_ptr<DIR, CloseDirectory> directory(
+        opendir(QFile::encodeName(path).constData()));
+    if (!directory) {
+        return std::nullopt;
+    }
+    const int descriptor = dirfd(directory.get());
+    std::vector<Entry> entries;
+    while (const dirent* entry = readdir(directory.get())) {
+        const QString name = QFile::decodeName(static_cast<const char*>(entry->d_name));
+        if (name != u"."_s && name != u".."_s && !known.contains(name)) {
+            entries.push_back({name.toLower(), name, KindOf(*entry, descriptor)});
+        }
+    }
+    std::sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) {
+        return a.lower != b.lower ? a.lower < b.lower : a.name < b.name;
+    });
+    return entries;
+}
+
 } // namespace
 
 QString LastPathSegment(const QString& path)
@@ -130,29 +152,27 @@ bool Listing::HasFolder(const QString& name) const
 Listing ListFolder(const QString& path)
 {
     Listing listing;
-    const std::unique_ptr<DIR, CloseDirectory> directory(
-        opendir(QFile::encodeName(path).constData()));
-    if (!directory) {
+    const std::optional<std::vector<Entry>> entries = EntriesOf(path, {});
+    if (!entries) {
         return listing;
     }
     listing.exists = true;
-    const int descriptor = dirfd(directory.get());
-    std::vector<Entry> entries;
-    while (const dirent* entry = readdir(directory.get())) {
-        const QString name = QFile::decodeName(static_cast<const char*>(entry->d_name));
-        if (name != u"."_s && name != u".."_s) {
-            entries.push_back({name.toLower(), name, KindOf(*entry, descriptor)});
-        }
-    }
-    std::sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) {
-        return a.lower != b.lower ? a.lower < b.lower : a.name < b.name;
-    });
-    listing.all.reserve(static_cast<qsizetype>(entries.size()));
-    listing.byLowerCase.reserve(static_cast<qsizetype>(entries.size()));
-    for (const Entry& entry : entries) {
+    listing.all.reserve(static_cast<qsizetype>(entries->size()));
+    listing.byLowerCase.reserve(static_cast<qsizetype>(entries->size()));
+    for (const Entry& entry : *entries) {
         AddTo(listing, entry);
     }
     return listing;
+}
+
+QStringList UnknownFolders(const QString& path, const QSet<QString>& known)
+{
+    const std::vector<Entry> entries = EntriesOf(path, known).value_or(std::vector<Entry>());
+    Listing listing;
+    for (const Entry& entry : entries) {
+        AddTo(listing, entry);
+    }
+    return listing.folders;
 }
 
 std::optional<QString> FindPath(const QString& base, const QString& relative)

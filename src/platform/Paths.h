@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHash>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -43,6 +44,10 @@ struct Listing {
 };
 
 Listing ListFolder(const QString& path);
+
+/// The folders that ListFolder would give, in its order, without those that are known: of tens of
+/// thousands mostly none.
+QStringList UnknownFolders(const QString& path, const QSet<QString>& known);
 
 /// Walks `relative` (either separator) below the native folder `base`, each part without regard to
 /// case. nullopt if a part is missing. An empty base is the root, for absolute paths.

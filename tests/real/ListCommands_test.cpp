@@ -94,6 +94,29 @@ TEST_F(ListCommands, GamesAreFoundBySearchAndTreeByKeysAlone)
     EXPECT_TRUE(Shows(u"빛의 그림첩"_s)) << Title();
 }
 
+TEST_F(ListCommands, AColumnsEdgeIsDraggedAndTheWindowMadeLarger)
+{
+    Start();
+    const auto at = [&](int x, int y) { return m_person.Corner(m_window) + QPoint(x, y); };
+    m_person.Click(at(279, 17)); // the view with columns
+    const QSize larger(1200, 800);
+    m_person.Resize(m_window, larger);
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return m_person.Geometry(m_window).size() == larger; }, kStepMs));
+    // The first column is as wide as the settings of a new installation have it.
+    constexpr int kListLeft = 149;
+    constexpr int kFirstWidth = 300;
+    constexpr int kHeaderMiddle = 47;
+    const QPoint edge = at(kListLeft + kFirstWidth - 1, kHeaderMiddle);
+    m_person.Drag(edge, edge + QPoint(60, 0));
+    m_person.Close(m_window);
+    ASSERT_TRUE(m_pelorin->WaitForEnd(kStepMs));
+    const QStringList settings = m_app.ReadLines(u"Launcher.cfg"_s);
+    EXPECT_TRUE(settings.filter(u"5400"_s).size() == 1) << settings.join(u' ');
+    EXPECT_EQ(settings.filter(u"18000,"_s).size() + settings.filter(u"18030,"_s).size(), 1)
+        << settings.join(u' ');
+}
+
 TEST_F(ListCommands, TheMenuKeysOpenTheGamesFolderWithTheDesktopsProgram)
 {
     const RecordingOpener opener(m_session.Home(), m_session.Environment());

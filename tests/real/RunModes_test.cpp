@@ -144,6 +144,34 @@ TEST_F(RealRunModes, TheMenuStartsTheGameAndThePromptWhoseFileManagerStartsAProg
     })) << m_pelorin->Output().toStdString();
 }
 
+TEST_F(RealRunModes, TheEmulatorIsPutWhereTheBoxesSayAfterAStartAndByEnter)
+{
+    const auto type = [&](QPoint box, const QString& text) {
+        m_person.Click(box);
+        m_person.Key(u"ctrl+a"_s);
+        m_person.Type(text);
+    };
+    m_person.Click(Place(-35, 267)); // the page of settings
+    QTest::qWait(300);
+    const QPoint across = Place(-293, 41);
+    type(across, u"210"_s);
+    type(Place(-190, 41), u"140"_s);
+    m_person.Click(Place(-353, 95)); // to be moved after a start, in five seconds
+    m_person.Click(Place(300, 300)); // the list, below its rows
+    m_person.Key(u"Home"_s);
+    m_person.Key(u"Return"_s);
+    ASSERT_TRUE(Waits([&] { return m_app.Exists(u"Games/별 헤는 밤 (Star) [1]/READY.TXT"_s); }))
+        << m_pelorin->Output().toStdString();
+    const auto emulator = m_person.WaitForWindow(kEmulator, kStepMs);
+    ASSERT_TRUE(emulator.has_value());
+    EXPECT_TRUE(Waits([&] { return m_person.Corner(*emulator) == QPoint(210, 140); }));
+    ASSERT_TRUE(m_person.Activate(m_window, kStepMs));
+    type(across, u"-20"_s);
+    m_person.Key(u"Return"_s);
+    EXPECT_TRUE(Waits([&] { return m_person.Corner(*emulator) == QPoint(-20, 140); }));
+    EXPECT_TRUE(SeeEmulatorAndEndIt());
+}
+
 TEST_F(RealRunModes, AFileGetsWhatIsTypedWithBlanksAndQuotes)
 {
     m_person.Key(u"End"_s);

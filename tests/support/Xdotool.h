@@ -34,6 +34,20 @@ public:
         Run(QStringLiteral("click --delay 80 --repeat %1 1").arg(times), {});
     }
 
+    /// The left button, held from one place of the screen to another.
+    void Drag(QPoint from, QPoint to) const
+    {
+        const auto move = [this](QPoint place) {
+            const QStringList at{QString::number(place.x()), QString::number(place.y())};
+            Run(QStringLiteral("mousemove --sync"), at);
+        };
+        move(from);
+        Run(QStringLiteral("mousedown 1"), {});
+        move((from + to) / 2);
+        move(to);
+        Run(QStringLiteral("mouseup 1"), {});
+    }
+
     /// A shown window whose title matches the regular expression.
     std::optional<WindowId> FindWindow(const QString& title) const
     {
@@ -85,6 +99,13 @@ public:
             return rest.left(rest.indexOf('\n')).trimmed().toInt();
         };
         return {behind("Absolute upper-left X:"), behind("Absolute upper-left Y:")};
+    }
+    void Resize(const WindowId& window, QSize size) const
+    {
+        Run(QStringLiteral("windowsize"),
+            {QString::fromLatin1(window),
+             QString::number(size.width()),
+             QString::number(size.height())});
     }
     /// Raises it and gives it the focus; false when it has not got it in time.
     bool Activate(const WindowId& window, int timeoutMs) const

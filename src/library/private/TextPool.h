@@ -3,6 +3,8 @@
 #include "library/GameEntry.h"
 
 #include <QSet>
+#include <QString>
+#include <QStringView>
 
 namespace pelorin::library {
 
@@ -15,6 +17,14 @@ public:
         for (QString GameEntry::*fact : kSharedFacts) {
             entry.*fact = *m_texts.insert(entry.*fact);
         }
+    }
+
+    /// The one text that is equal to this part of another.
+    const QString& Shared(QStringView text)
+    {
+        // Without a copy as long as it is only looked for.
+        const auto known = m_texts.constFind(QString::fromRawData(text.data(), text.size()));
+        return known != m_texts.constEnd() ? *known : *m_texts.insert(text.toString());
     }
 
 private:
