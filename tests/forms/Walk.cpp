@@ -39,7 +39,8 @@ const QStringList kOverlays{
     u"ProgressBar1"_s,
     u"Command1"_s,
     u"lblProgress"_s,
-    u"pbProgress"_s};
+    u"pbProgress"_s,
+    u"cmdFolderCFG_Empty"_s};
 
 /// Large and bold in colours that are fixed; 3 to 1 serves there.
 const QStringList kLarge{u"lblMessage"_s};

@@ -236,6 +236,56 @@ TEST_P(WindowWalkTest, WhatCantBeUsedYetCanBeRead)
     ExpectAGoodLook();
 }
 
+TEST_P(WindowWalkTest, WhatAPageShowsByTurns)
+{
+    using dosboxconf::ConfigTab;
+    using dosboxconf::EditCheck;
+    library::MediaPanel& media = screens.media;
+    media.fileImages = {u"/games/A/DosBox"_s, {u"a.png"_s, u"b.jpg"_s}, 0};
+    media.fileAV = {u"/games/A/DosBox"_s, {u"c.avi"_s}, 0};
+    media.fileManual = {u"/games/A/DosBox/Manual"_s, {u"d.txt"_s}, 0};
+    Activate(1);
+    const auto expectGood = [&](const QString& what) {
+        for (const bool dark : {false, true}) {
+            SetPalette(dark);
+            QTest::qWait(0);
+            EXPECT_EQ(Lines(FaultsOfTheLook(*window) + Walk(*window).Names()), std::string())
+                << what.toStdString() << dark;
+        }
+    };
+    for (int list = 1; list <= 3; ++list) {
+        media.TabStrip1 = list;
+        media.changed.Tell(~0U);
+        expectGood(u"media %1"_s.arg(list));
+    }
+    const dosboxconf::ConfigPageState states[] = {
+        dosboxconf::StateOf(ConfigTab::Global, true, true, EditCheck::Arranged),
+        dosboxconf::StateOf(ConfigTab::Game, true, false, EditCheck::Arranged),
+        dosboxconf::StateOf(ConfigTab::Game, true, false, EditCheck::Checked),
+        dosboxconf::StateOf(ConfigTab::Game, true, true, EditCheck::Checked),
+    };
+    ShowTab(dosboxconf::kGameTab);
+    for (const dosboxconf::ConfigPageState& state : states) {
+        screens.config.page = state;
+        screens.config.changed.Tell(dosboxconf::ConfigEditor::State);
+        expectGood(state.message ? u"message"_s : state.lists ? u"lists"_s : u"nothing"_s);
+    }
+    screens.config.page = states[2];
+    screens.config.changed.Tell(dosboxconf::ConfigEditor::State);
+    screens.config.cmbConfig = {true, {1, 0}, 0, {u"true"_s, u"false"_s}, 0};
+    screens.config.changed.Tell(dosboxconf::ConfigEditor::Combo);
+    expectGood(u"combo"_s);
+    screens.list.items.clear();
+    screens.list.Select(-1);
+    screens.list.outcome = finding::ListOutcome::NoGames;
+    screens.list.changed.Tell(finding::GameList::Reset);
+    screens.frame.picBack0Enabled = false;
+    screens.frame.picBack1Enabled = false;
+    screens.frame.isEmptyLibrary = true;
+    screens.frame.panelsEnabled.Tell(1);
+    expectGood(u"empty library"_s);
+}
+
 TEST_P(WindowWalkTest, EveryControlHasANameAndIsReachedByTheTabKey)
 {
     Activate(1);

@@ -102,6 +102,22 @@ TEST_F(IconImagesTest, WhatIsNoPictureIsAnError)
 
 TEST_F(IconImagesTest, APictureThatClaimsToBeHugeIsNotUnpacked)
 {
+    // Whole, and small as a file: nothing but its size stands against it.
+    const auto bitonal = [](int side) {
+        FIBITMAP* const bitmap = FreeImage_Allocate(side, side, 1);
+        FIMEMORY* const memory = FreeImage_OpenMemory(nullptr, 0);
+        FreeImage_SaveToMemory(FIF_PNG, bitmap, memory, 0);
+        BYTE* data = nullptr;
+        DWORD size = 0;
+        FreeImage_AcquireMemory(memory, &data, &size);
+        const QByteArray file(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
+        FreeImage_CloseMemory(memory);
+        FreeImage_Unload(bitmap);
+        return file;
+    };
+    EXPECT_TRUE(library::LoadIcon(File(bitonal(1000))));
+    EXPECT_FALSE(library::LoadIcon(File(bitonal(8193)))) << "just above the bound";
+
     QByteArray png = Png(32, kRed);
     qToBigEndian<quint32>(60000, png.data() + 16);
     qToBigEndian<quint32>(60000, png.data() + 20);
