@@ -26,7 +26,7 @@ ROWS = [
     Row("Full scan", "scan/is", "scan/floor", 1.5),
     Row("Both cache files saved where none stood", "save_new/is", "save_new/floor", 2),
     Row("Saved again, nothing has changed", "save_unchanged/is", "save_new/floor", 2),
-    Row("Saved again, one icon has changed", "save_one_icon/is", "save_one_icon/floor"),
+    Row("Saved again, one icon has changed", "save_one_icon/is", "save_one_icon/floor", 2),
     Row("Start to the first list, 500 games", "start_500/is", "start_500/floor", 1.5),
     Row("Start to the first list, 32,767 games", "start_32767/is", "start_32767/floor"),
     Row("First start, 32,767 games, no cache", "first_start_32767/is"),

@@ -17,6 +17,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <optional>
 #include <tuple>
 #include <vector>
 
@@ -156,7 +157,13 @@ platform::Done SaveSheet(
     ScanProgress& progress)
 {
     const QString path = SheetPath(places);
-    if (!IconSheetIsCurrent(path, icons, positions)) {
+    const std::optional<std::vector<int>> stale = StaleBands(path, icons, positions);
+    if (stale && !stale->empty()) {
+        // A few icons of many have changed. The list goes first here as well.
+        const platform::Done dropped = archives::DeleteFileIfThere(listPath);
+        return dropped ? RewriteBands(path, icons, positions, *stale) : dropped;
+    }
+    if (!stale) {
         // The list belongs to the sheet that is about to go. Should the program end before the new
         // list is in its place, a missing one is noticed; one of another order would not be. The
         // sheet alone is worth nothing then, and a file system that is told to put a file in the

@@ -17,6 +17,7 @@ namespace {
 constexpr int kHeaderBytes = 54; // file header 14, information header 40
 constexpr int kInfoHeaderBytes = 40;
 constexpr int kBytesAPixel = 3;
+constexpr int kFewBands = 4;        // one in so many, at most
 constexpr int kPixelsAMetre = 2835; // 72 a inch, what FreeImage gives a new picture
 
 /// A band is one row of cells.
@@ -115,22 +116,22 @@ QByteArray ReadBand(QFile& file, SheetSize size)
     return wide;
 }
 
-/// A look at one line of pixels in each band. Where an icon has changed that mostly differs, and the
-/// sheet need not be read whole to know it.
-bool LooksCurrent(
+/// The bands in which one line of pixels is not as it should be. Where an icon has changed it mostly
+/// isn't, and the sheet need not be read whole to know it.
+std::vector<bool> BandsWithAStaleLine(
     QFile& file, const IconSheet& icons, const std::vector<int>& positions, SheetSize size)
 {
     constexpr int kLine = kLargeIcon / 2;
     const qsizetype rowBytes = qsizetype{size.width} * kBytesAPixel;
+    std::vector<bool> stale(static_cast<std::size_t>(size.height / kLargeIcon));
     for (int band = 0; band < size.height / kLargeIcon; ++band) {
         file.seek(BandOffset(size, band) + kLine * rowBytes);
         const QByteArray line = file.read(rowBytes);
         const BandPositions wanted = PositionsOf(positions, band);
-        if (line != icons.Band(wanted.first, wanted.count).mid(kLine * kBandRowBytes, rowBytes)) {
-            return false;
-        }
+        stale[static_cast<std::size_t>(band)] =
+            line != icons.Band(wanted.first, wanted.count).mid(kLine * kBandRowBytes, rowBytes);
     }
-    return true;
+    return stale;
 }
 
 platform::Error FileError(platform::ErrorKind kind, const QFileDevice& file)
@@ -178,7 +179,7 @@ platform::Outcome<IconSheet> ReadIconSheet(const QString& path, int count, ScanP
     return icons;
 }
 
-bool IconSheetIsCurrent(
+std::optional<std::vector<int>> StaleBands(
     const QString& path, const IconSheet& icons, const std::vector<int>& positions)
 {
     const SheetSize size = SheetSizeOf(static_cast<int>(positions.size()));
@@ -186,18 +187,48 @@ bool IconSheetIsCurrent(
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) ||
         file.size() != kHeaderBytes + BandBytesOf(size) * bands ||
-        file.read(kHeaderBytes) != HeaderOf(size) || !LooksCurrent(file, icons, positions, size)) {
-        return false;
+        file.read(kHeaderBytes) != HeaderOf(size)) {
+        return std::nullopt;
     }
+    const std::vector<bool> surely = BandsWithAStaleLine(file, icons, positions, size);
+    if (std::count(surely.begin(), surely.end(), true) * kFewBands > bands) {
+        return std::nullopt;
+    }
+    std::vector<int> stale;
     file.seek(kHeaderBytes);
     QByteArray read(BandBytesOf(size), Qt::Uninitialized);
     for (int band = bands - 1; band >= 0; --band) {
         if (file.read(read.data(), read.size()) != read.size() ||
             read != FileBand(icons, positions, size, band)) {
-            return false;
+            stale.push_back(band);
         }
     }
-    return true;
+    const bool few = static_cast<int>(stale.size()) * kFewBands <= bands;
+    return few ? std::optional(stale) : std::nullopt;
+}
+
+bool IconSheetIsCurrent(
+    const QString& path, const IconSheet& icons, const std::vector<int>& positions)
+{
+    const std::optional<std::vector<int>> stale = StaleBands(path, icons, positions);
+    return stale && stale->empty();
+}
+
+platform::Done RewriteBands(
+    const QString& path,
+    const IconSheet& icons,
+    const std::vector<int>& positions,
+    const std::vector<int>& bands)
+{
+    const SheetSize size = SheetSizeOf(static_cast<int>(positions.size()));
+    QFile file(path);
+    bool written = file.open(QIODevice::ReadWrite | QIODevice::Unbuffered);
+    for (const int band : bands) {
+        const QByteArray now = FileBand(icons, positions, size, band);
+        written = written && file.seek(BandOffset(size, band)) && file.write(now) == now.size();
+    }
+    return written ? platform::Success()
+                   : platform::Done(FileError(platform::ErrorKind::Unwritable, file));
 }
 
 platform::Done WriteIconSheet(

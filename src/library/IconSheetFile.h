@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 // The sheet of icons: a Windows bitmap of 24 bits a pixel, not compressed, rows from the bottom.
@@ -28,9 +29,22 @@ SheetSize SheetSizeOf(int count);
 /// progress of LoadingIcons; Abandoned when it says so.
 platform::Outcome<IconSheet> ReadIconSheet(const QString& path, int count, ScanProgress& progress);
 
-/// Whether the file already holds just these icons; `positions` are indices into `icons`.
+/// The rows of cells in which the file does not hold just these icons; `positions` are indices into
+/// `icons`. nullopt when it is no sheet of that many, or when more than a few rows are stale.
+std::optional<std::vector<int>> StaleBands(
+    const QString& path, const IconSheet& icons, const std::vector<int>& positions);
+
+/// There is such a sheet, and no row of it is stale.
 bool IconSheetIsCurrent(
     const QString& path, const IconSheet& icons, const std::vector<int>& positions);
+
+/// Writes these rows of cells over those of the file, which StaleBands has told of. The disk needs no
+/// more room for that. After a failure the sheet is neither the old one nor the new one.
+platform::Done RewriteBands(
+    const QString& path,
+    const IconSheet& icons,
+    const std::vector<int>& positions,
+    const std::vector<int>& bands);
 
 /// `positions` must not be empty. Cells behind the last icon are black. `beforeReplacing` runs when
 /// the new sheet is written and about to take the place of the old one; its failure is ours.

@@ -159,8 +159,7 @@ TEST_F(CrashTest, CacheReadsOldOrNewOrNotAtAll)
     ASSERT_TRUE(save(former));
     int places = 0;
     int without = 0;
-    for (int round = 1; round <= 17; ++round) {
-        Library next = LibraryOf(1 + round * 7 % 40, round % 3 == 0 ? round - 1 : round);
+    const auto killSaving = [&](const Library& next) {
         const auto check = [&] {
             const auto read = library::ReadCatalogueCache(m_places, progress);
             if (!read) {
@@ -180,7 +179,17 @@ TEST_F(CrashTest, CacheReadsOldOrNewOrNotAtAll)
         };
         places += KillEverywhere([&] { save(next); }, check);
         former = next;
+    };
+    for (int round = 1; round <= 17; ++round) {
+        killSaving(LibraryOf(1 + round * 7 % 40, round % 3 == 0 ? round - 1 : round));
     }
+    // Of a large sheet only the row of icons that changed is written.
+    former = LibraryOf(4 * 512 + 1, 30);
+    ASSERT_TRUE(save(former));
+    Library next = former;
+    next.icons.Set(5, test::NumberedIcon(9));
+    next.catalogue[0].TitleK = u"다른 제목"_s;
+    killSaving(next);
     RecordProperty("places", places);
     RecordProperty("without a cache", without);
     EXPECT_GE(places, 250);

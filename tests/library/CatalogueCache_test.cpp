@@ -9,6 +9,7 @@
 #include <QFileInfo>
 
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 
 #include <cstring>
 
@@ -163,6 +164,30 @@ TEST_F(CatalogueCacheTest, WhatTheListCantHoldIsLeftOutOfBothFiles)
     ASSERT_EQ(back.Value().catalogue.size(), 3U);
     EXPECT_EQ(back.Value().catalogue[1].TitleE, u"Ж!"_s);
     EXPECT_EQ(back.Value().icons.Large(1).bgr, library.icons.Large(5).bgr);
+}
+
+TEST_F(CatalogueCacheTest, OfALargeSheetOnlyTheRowsThatChangedAreWritten)
+{
+    constexpr int kGames = 4 * 512 + 1;
+    Library library(kGames);
+    ASSERT_TRUE(Save(library));
+    const auto inode = [&] {
+        struct stat status = {};
+        EXPECT_EQ(stat(QFile::encodeName(m_root.Path(u"IconList.bmp"_s)).constData(), &status), 0);
+        return status.st_ino;
+    };
+    const auto before = inode();
+    library.icons.Set(700, library::PlainIcon(library::kLargeIcon, 9, 8, 7));
+    ASSERT_TRUE(Save(library));
+    EXPECT_EQ(inode(), before) << "the file is the same";
+    EXPECT_EQ(m_root.ReadRaw(u"IconList.bmp"_s), SheetByFreeImage(library.icons, 512 * 32, 5 * 32));
+    // Where much has changed a new file takes its place.
+    for (int row = 0; row < 3; ++row) {
+        library.icons.Set(512 * row, library::PlainIcon(library::kLargeIcon, 1, 2, 3));
+    }
+    ASSERT_TRUE(Save(library));
+    EXPECT_NE(inode(), before);
+    EXPECT_EQ(Read().Value().icons.Large(1024).bgr, library.icons.Large(1024).bgr);
 }
 
 TEST_F(CatalogueCacheTest, WhatWasLeftOutIsFoundAgainByNameOrText)
