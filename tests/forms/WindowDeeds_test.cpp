@@ -251,24 +251,33 @@ TEST_F(WindowDeedsTest, TheListsKeysReachTheirCommands)
         return shell::MenuModel();
     };
     Open();
-    auto* list = Find("LVGamelist_icons");
     window->activateWindow();
-    const auto press = [&](const Row& row) {
-        did.clear();
-        QTest::keyClick(list, static_cast<Qt::Key>(row.key), row.modifiers);
-        return did.join(u' ');
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(press(row), QString::fromUtf16(row.does)) << row.key << row.modifiers;
-    }
-    screens.list.Select(-1);
-    for (const Row& row : rows) {
-        EXPECT_EQ(press(row), QString::fromUtf16(row.withoutSelection)) << row.key;
-    }
-    screens.list.items.clear();
-    screens.list.changed.Tell(finding::GameList::Reset);
-    for (const Row& row : rows) {
-        EXPECT_EQ(press(row), QString::fromUtf16(row.withoutItems)) << row.key;
+    const finding::GameRows games = screens.list.items;
+    for (const finding::View view : {finding::View::SmallIcons, finding::View::Details}) {
+        const bool details = view == finding::View::Details;
+        SCOPED_TRACE(details);
+        screens.list.view = view;
+        screens.list.items = games;
+        screens.list.changed.Tell(finding::GameList::Reset | finding::GameList::ViewMode);
+        screens.list.Select(0);
+        auto* list = Find(details ? "LVGamelist_details" : "LVGamelist_icons");
+        const auto expect = [&](const char16_t* Row::*does) {
+            for (const Row& row : rows) {
+                did.clear();
+                QTest::keyClick(list, static_cast<Qt::Key>(row.key), row.modifiers);
+                EXPECT_EQ(did.join(u' '), QString::fromUtf16(row.*does))
+                    << row.key << row.modifiers;
+            }
+        };
+        expect(&Row::does);
+        screens.list.Select(-1);
+        expect(&Row::withoutSelection);
+        screens.list.items.clear();
+        screens.list.changed.Tell(finding::GameList::Reset);
+        expect(&Row::withoutItems);
+        list->setFocus();
+        QTest::keyClick(list, Qt::Key_F3);
+        EXPECT_TRUE(list->hasFocus()) << "there is nothing to search";
     }
 }
 
