@@ -68,6 +68,10 @@ start:
 .change:
         mov     ah, 3Bh
         int     21h
+        jnc     .folder
+        mov     dl, 7                   ; a name that this DOS can't take
+        mov     ah, 2
+        int     21h
         jmp     .folder
 .program:
         inc     si
@@ -84,6 +88,7 @@ start:
 
 ; Fills entries, order and count with the current folder, sorted.
 ReadFolder:
+        call    AskFolder
         mov     dx, kDta
         mov     ah, 1Ah                 ; a program may have moved it
         int     21h
@@ -96,7 +101,11 @@ ReadFolder:
         jc      SortEntries
         cmp     word [kDta + 1Eh], '.'  ; itself
         je      .skip
-        mov     bx, [count]
+        cmp     word [kDta + 1Eh], '..'
+        jne     .take
+        cmp     byte [path], 0          ; above the root there is nothing
+        je      .skip
+.take:  mov     bx, [count]
         cmp     bx, kMostEntries
         jae     SortEntries
         shl     bx, 1

@@ -123,6 +123,33 @@ TEST_F(RealRunModes, TheShellOverAllGamesKnowsTheKeyboardsNumLock)
     EXPECT_TRUE(Conf().contains("c:\r\naddkey 62\r\nM\r\n"));
 }
 
+TEST_F(RealRunModes, TheShellOverAllGamesWalksIntoAGameAndStartsItsProgram)
+{
+    // By a name that DOSBox can take, and alone.
+    const QDir games(m_app.Path(u"Games"_s));
+    ASSERT_TRUE(
+        QDir().rename(games.filePath(u"주는 대로 적기 (Tell) [4]"_s), m_app.Path(u"TELL"_s)));
+    for (const QString& game : games.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QDir(games.filePath(game)).removeRecursively();
+    }
+    ASSERT_TRUE(QDir().rename(m_app.Path(u"TELL"_s), games.filePath(u"TELL"_s)));
+    ChooseInRunMenu(6);
+    ASSERT_TRUE(m_person.WaitForWindow(kEmulator, kStepMs).has_value())
+        << m_pelorin->Output().toStdString();
+    const QString told = u"Games/TELL/TELL.TXT"_s;
+    ASSERT_TRUE(Waits([&] {
+        // Into the only folder, from wherever the former keys have led.
+        m_person.Key(u"BackSpace"_s);
+        m_person.Key(u"Return"_s);
+        m_person.Key(u"t"_s);
+        m_person.Key(u"Return"_s);
+        return m_app.Exists(told);
+    }));
+    // It was started in the game's folder, below the root of all games.
+    EXPECT_TRUE(Waits([&] { return m_app.ReadRaw(told).startsWith("C:\\TELL\r\n"); }))
+        << m_app.ReadRaw(told).toStdString();
+}
+
 TEST_F(RealRunModes, TheMenuStartsTheGameAndThePromptWhoseFileManagerStartsAProgram)
 {
     ChooseInRunMenu(2);
