@@ -3,6 +3,7 @@
 
     tools/tidy.py                      every source in build/dev's compile database
     tools/tidy.py src/shell/Places.h   the named ones; a header stands for the sources that include it
+    tools/tidy.py --deep [...]         with the path-sensitive analyzer as well
 
 A source is looked at again only when something that could change the verdict has changed: its own
 text, that of a project header it reaches, its compile command, .clang-tidy, clang-tidy itself or
@@ -103,9 +104,9 @@ def drop_old(store):
             entry.unlink(missing_ok=True)
 
 
-def check(source, build):
+def check(source, build, more):
     done = subprocess.run(
-        [TIDY, "--quiet", "-p", str(build), str(source)],
+        [TIDY, "--quiet", "-p", str(build), *more, str(source)],
         stdin=subprocess.DEVNULL,
         stdout=subprocess.PIPE,
         stderr=subprocess.PIPE,
@@ -120,10 +121,12 @@ def check(source, build):
 def main():
     parser = argparse.ArgumentParser(description="clang-tidy with kept results")
     parser.add_argument("files", nargs="*", help="sources or headers; none means all")
+    parser.add_argument("--deep", action="store_true", help="the path-sensitive analyzer as well")
     parser.add_argument("-p", "--build", default=ROOT / "build/dev", type=pathlib.Path)
     parser.add_argument("-j", "--jobs", default=os.cpu_count(), type=int)
     options = parser.parse_args()
     build = options.build.resolve()
+    more = ["--checks=clang-analyzer-*,-clang-analyzer-cplusplus.NewDeleteLeaks"] if options.deep else []
 
     commands = read_commands(build)
     includes = Includes()
@@ -132,6 +135,7 @@ def main():
         [
             *(file.read_bytes() for file in (ROOT / ".clang-tidy", ROOT / "tests/.clang-tidy")),
             printed_by([TIDY, "--version"]),
+            " ".join(more).encode(),
             printed_by(["dpkg-query", "-W", "-f=${Package} ${Version}\n"] + LIBRARIES),
         ]
     )
@@ -149,7 +153,7 @@ def main():
 
     faulty = 0
     with concurrent.futures.ThreadPoolExecutor(options.jobs) as pool:
-        running = {pool.submit(check, source, build): source for source in waiting}
+        running = {pool.submit(check, source, build, more): source for source in waiting}
         for number, future in enumerate(concurrent.futures.as_completed(running), 1):
             source = running[future]
             findings = future.result()
