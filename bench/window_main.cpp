@@ -83,41 +83,62 @@ void AddSelection(BenchWindow& window)
     })->Iterations(100);
 }
 
+constexpr int kPresses = 100;
+
+/// One of the presses that a held key makes, when it is due. Seconds that it waited for its turn.
+double PressDown(QWidget& view, Clock::time_point due, bool repeats)
+{
+    while (Clock::now() < due) {
+        QCoreApplication::processEvents();
+    }
+    QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier, {}, repeats);
+    QCoreApplication::sendEvent(&view, &down);
+    return SecondsSince(due);
+}
+
+/// Holds the key over the first row; the longest wait of a press, negative if the selection did not
+/// follow one. `due` is the time of the last press.
+double HoldDown(BenchWindow& window, Clock::time_point& due)
+{
+    constexpr std::chrono::milliseconds kApart{10};
+    finding::GameList& list = window.launcher.screens.list;
+    QWidget& view = *window.Viewport().parentWidget();
+    list.Select(0);
+    QCoreApplication::processEvents();
+    due = Clock::now();
+    double longest = 0;
+    for (int press = 1; press <= kPresses; ++press) {
+        due += kApart;
+        longest = std::max(longest, PressDown(view, due, press > 1));
+        if (list.selected != press) {
+            return -1;
+        }
+    }
+    return longest;
+}
+
 /// An arrow key held down over the list: how long a press waits for its turn, and how long the details
 /// are behind the last one, whose release never comes.
 void AddHeldKey(BenchWindow& window)
 {
     AddFigure("held_key/is", [&](benchmark::State& state) {
-        constexpr int kPresses = 100;
-        constexpr std::chrono::milliseconds kApart{10};
         finding::SetView(window.launcher, finding::View::Details);
-        const finding::GameList& list = window.launcher.screens.list;
-        QWidget& view = *window.Viewport().parentWidget();
-        double longestWait = 0;
+        double longest = 0;
         for ([[maybe_unused]] auto unused : state) {
-            window.launcher.screens.list.Select(0);
-            QCoreApplication::processEvents();
-            Clock::time_point due = Clock::now();
-            for (int press = 1; press <= kPresses; ++press) {
-                due += kApart;
-                while (Clock::now() < due) {
-                    QCoreApplication::processEvents();
-                }
-                QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier, {}, press > 1);
-                QCoreApplication::sendEvent(&view, &down);
-                if (list.selected != press) {
-                    state.SkipWithError("the selection did not follow");
-                    return;
-                }
-                longestWait = std::max(longestWait, SecondsSince(due));
+            Clock::time_point due;
+            const double waited = HoldDown(window, due);
+            if (waited < 0) {
+                state.SkipWithError("the selection did not follow");
+                return;
             }
-            const QString& folder = list.items[kPresses].Folder();
+            longest = std::max(longest, waited);
+            const QString& folder = window.launcher.screens.list.items[kPresses].Folder();
             while (window.launcher.screens.details.folder != folder) {
                 QCoreApplication::processEvents();
             }
             state.SetIterationTime(SecondsSince(due));
         }
-        state.counters["follow_ms"] = 1000 * longestWait;
+        state.counters["follow_ms"] = 1000 * longest;
     });
 }
 

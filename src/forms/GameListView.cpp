@@ -159,8 +159,7 @@ void GameListView::Prepare(QAbstractItemView& view)
     view.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     view.setFrameShape(QFrame::NoFrame);
     connect(&view, &QAbstractItemView::doubleClicked, this, [this] {
-        if (QGuiApplication::mouseButtons() != Qt::MiddleButton &&
-            QGuiApplication::mouseButtons() != Qt::RightButton) {
+        if (!QGuiApplication::mouseButtons().testAnyFlags(Qt::MiddleButton | Qt::RightButton)) {
             Do(m_deeds.LVGamelist_DblClick);
         }
     });

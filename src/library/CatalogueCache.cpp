@@ -258,7 +258,7 @@ platform::Outcome<GameEntries> CatalogueFromLine(const QString& path, const QStr
         GameEntry& entry = catalogue[i];
         const bool whole = ReadRecord(records[static_cast<qsizetype>(i)], entry, pool);
         folders.insert(entry.Folder);
-        if (!whole || folders.size() != static_cast<qsizetype>(i + 1)) {
+        if (!whole || folders.size() != static_cast<qsizetype>(i) + 1) {
             return DamagedList(
                 path,
                 (whole ? u"record %1 repeats a folder"_s : u"record %1 is damaged"_s).arg(i + 1));

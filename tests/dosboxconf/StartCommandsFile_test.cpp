@@ -63,23 +63,23 @@ TEST(StartListTest, EachDeedLeavesTheRightLinesAndRow)
         ReplaceLine(start, -1, u"x"_s);
     };
     const Case cases[] = {
-        {kAddFile, u"a b c"_s, 1, u"a b GAME.EXE c"_s, 2},
-        {kAddFile, u"a b c"_s, -1, u"GAME.EXE a b c"_s, 0},
-        {kAddNone, u"a b c"_s, 1, u"a b c"_s, 1},
-        {AddEmptyLine, QString(), -1, u"REM"_s, 0},
-        {AddEmptyLine, u"a b c"_s, 2, u"a b c REM"_s, 3},
-        {DeleteLine, u"a b c"_s, 1, u"a c"_s, 1}, // keeps the place
-        {DeleteLine, u"a c"_s, 1, u"a"_s, 0},     // and moves up at the end
-        {DeleteLine, u"a"_s, 0, QString(), -1},
-        {DeleteLine, QString(), -1, QString(), -1},
-        {DeleteLine, u"a b c"_s, -1, u"b c"_s, 0},
-        {MoveLineUp, u"a b c"_s, 1, u"b a c"_s, 0},
-        {MoveLineUp, u"a b c"_s, 0, u"a b c"_s, 0},
-        {MoveLineDown, u"a b c"_s, 1, u"a c b"_s, 2},
-        {MoveLineDown, u"a b c"_s, 2, u"a b c"_s, 2},
-        {MoveLineDown, u"a b c"_s, -1, u"a b c"_s, -1},
-        {kReplace, u"a b c"_s, 0, u"a X c"_s, 0},
-        {kReplaceNone, u"a b c"_s, 0, u"a b c"_s, 0},
+        {kAddFile, {u"a b c"_s, 1}, {u"a b GAME.EXE c"_s, 2}},
+        {kAddFile, {u"a b c"_s, -1}, {u"GAME.EXE a b c"_s, 0}},
+        {kAddNone, {u"a b c"_s, 1}, {u"a b c"_s, 1}},
+        {AddEmptyLine, {QString(), -1}, {u"REM"_s, 0}},
+        {AddEmptyLine, {u"a b c"_s, 2}, {u"a b c REM"_s, 3}},
+        {DeleteLine, {u"a b c"_s, 1}, {u"a c"_s, 1}}, // keeps the place
+        {DeleteLine, {u"a c"_s, 1}, {u"a"_s, 0}},     // and moves up at the end
+        {DeleteLine, {u"a"_s, 0}, {QString(), -1}},
+        {DeleteLine, {QString(), -1}, {QString(), -1}},
+        {DeleteLine, {u"a b c"_s, -1}, {u"b c"_s, 0}},
+        {MoveLineUp, {u"a b c"_s, 1}, {u"b a c"_s, 0}},
+        {MoveLineUp, {u"a b c"_s, 0}, {u"a b c"_s, 0}},
+        {MoveLineDown, {u"a b c"_s, 1}, {u"a c b"_s, 2}},
+        {MoveLineDown, {u"a b c"_s, 2}, {u"a b c"_s, 2}},
+        {MoveLineDown, {u"a b c"_s, -1}, {u"a b c"_s, -1}},
+        {kReplace, {u"a b c"_s, 0}, {u"a X c"_s, 0}},
+        {kReplaceNone, {u"a b c"_s, 0}, {u"a b c"_s, 0}},
     };
     int number = 0;
     for (const Case& c : cases) {

@@ -11,6 +11,8 @@ using namespace pelorin::test;
 namespace {
 
 constexpr int kBuild073 = 2; // in the list of builds
+const QString kFolder = u"DOSBox/0.73"_s;
+const QString kGame = u"Games/별 헤는 밤 (Star) [1]"_s;
 
 /// A build that is a program of Windows: a few lines of ours that tell what it is given.
 class RealWine : public RealTest {
@@ -48,8 +50,6 @@ protected:
         return values;
     }
 
-    const QString kFolder = u"DOSBox/0.73"_s;
-    const QString kGame = u"Games/별 헤는 밤 (Star) [1]"_s;
     TestFolder m_app{u"my Pelorin 100 [1]"_s};
 };
 

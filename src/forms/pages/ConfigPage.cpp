@@ -44,6 +44,13 @@ QHBoxLayout* RowOf(QWidget& part)
     return row;
 }
 
+void ScrollTo(const std::vector<RowList*>& lists, int value)
+{
+    for (const RowList* const list : lists) {
+        list->verticalScrollBar()->setValue(value);
+    }
+}
+
 /// Lists side by side scroll together, as far as each has rows.
 void ScrollTogether(const std::vector<RowList*>& lists)
 {
@@ -54,9 +61,7 @@ void ScrollTogether(const std::vector<RowList*>& lists)
         QObject::connect(bar, &QScrollBar::valueChanged, moved, [lists, following](int value) {
             // A shorter list stops before its end, and must not pull the longer one back.
             if (!std::exchange(*following, true)) {
-                for (RowList* const list : lists) {
-                    list->verticalScrollBar()->setValue(value);
-                }
+                ScrollTo(lists, value);
                 *following = false;
             }
         });
