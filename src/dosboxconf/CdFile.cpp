@@ -7,7 +7,7 @@
 #include "platform/Paths.h"
 #include "platform/TextFile.h"
 
-#include <QFileInfo>
+#include <QDir>
 
 using namespace Qt::StringLiterals;
 
@@ -75,6 +75,7 @@ void FillCdList(CdPanel& panel, const CdFacts& facts, const QString& placeholder
     }
     if (facts.hasFolder) {
         panel.picCDVisible = panel.chkCD;
+        panel.edited = false;
     }
     panel.changed.Tell(CdPanel::All);
 }
@@ -85,6 +86,7 @@ void ResetCdPanel(CdPanel& panel)
     panel.picCDVisible = false;
     panel.chkMountCD = false;
     panel.CdMountMode = 0;
+    panel.edited = false;
     ShowImages(panel, {});
 }
 
@@ -93,6 +95,7 @@ void ChkCdClicked(
 {
     panel.chkCD = checked;
     panel.picCDVisible = checked;
+    panel.edited = true;
     if (checked) {
         panel.chkMountCD = false;
         panel.CdMountMode = images.isEmpty() ? 0 : 1;
@@ -108,6 +111,7 @@ void ChkCdClicked(
 void ChooseCdMode(CdPanel& panel, int mode, const QStringList& images, const QString& placeholder)
 {
     panel.CdMountMode = mode == 0 ? 0 : 1;
+    panel.edited = true;
     if (mode == 0) {
         ShowPlaceholder(panel, placeholder);
     } else {
@@ -120,6 +124,7 @@ void ChkMountCdClicked(
     CdPanel& panel, bool checked, const QStringList& images, const QString& placeholder)
 {
     panel.chkMountCD = checked;
+    panel.edited = true;
     if (checked) {
         ChooseCdMode(panel, 1, images, placeholder);
     } else {
@@ -138,6 +143,9 @@ platform::Done SaveCdConf(const shell::Places& places, const QString& folder, co
     if (platform::Done made = MakeMetaDir(places, folder); !made) {
         return made;
     }
+    // Without its folder the choice would not be shown again. A file or a link in its place stays,
+    // and the choice is saved all the same.
+    QDir().mkpath(places.InMetaDir(folder, u"CD"_s));
     return platform::WriteLines(
         CdConfPath(places, folder),
         {panel.chkMountCD ? u"1"_s : u"0"_s, QString::number(panel.CdMountMode == 0 ? 0 : 1)});

@@ -51,7 +51,7 @@ void ChkMountCdClicked(
     CdPanel& panel, bool checked, const QStringList& images, const QString& placeholder);
 
 /// Writes CD.conf; with chkCD but no row leaves all as it is; without chkCD deletes the file.
-/// Makes the metadata folder if it is missing. Error Unwritable, or Refused for a game that is not
+/// Makes the metadata folder, and CD in it where it can, if they are missing. Error Unwritable, or Refused for a game that is not
 /// there.
 platform::Done SaveCdConf(const shell::Places& places, const QString& folder, const CdPanel& panel);
 

@@ -14,6 +14,7 @@ struct StartCommands {
     enum Changed : std::uint32_t { Commands = 1, CommandRow = 2, Files = 4, FileRow = 8 };
 
     QStringList lstAutoexec;
+    QStringList saved;   // the lines that the game's file holds
     int commandRow = -1; // selected row; -1 none
     QStringList fileEXE; // names in GameDir
     int fileRow = -1;
@@ -32,6 +33,7 @@ struct CdPanel {
     QStringList lstCD;       // image names, or the one placeholder row
     int row = -1;
     int CdMountMode = 0; // 0 the game's folder is the CD, 1 images
+    bool edited = false; // the choice differs from what is saved
 
     platform::Notifier changed;
 };

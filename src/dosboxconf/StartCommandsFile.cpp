@@ -89,9 +89,19 @@ platform::Done WriteAutoexecConf(
 
 void FillStartCommands(StartCommands& start, const QStringList& commands)
 {
-    start.lstAutoexec = WithoutEmptyLines(commands);
+    start.saved = WithoutEmptyLines(commands);
+    start.lstAutoexec = start.saved;
     start.commandRow = start.lstAutoexec.isEmpty() ? -1 : 0;
     start.changed.Tell(Changed::Commands | Changed::CommandRow);
+}
+
+void RefillStartCommands(StartCommands& start, const QStringList& commands)
+{
+    if (start.lstAutoexec == start.saved) {
+        FillStartCommands(start, commands);
+    } else {
+        start.saved = WithoutEmptyLines(commands);
+    }
 }
 
 void AddSelectedFile(StartCommands& start)

@@ -31,8 +31,10 @@ platform::Done WriteAutoexecConf(
     const QStringList& commands,
     platform::Loss loss = platform::Loss::Refuse);
 
-/// Fills lstAutoexec and selects its first row, if there is any.
+/// The game's file holds `commands`: fills lstAutoexec and selects its first row, if there is any.
 void FillStartCommands(StartCommands& start, const QStringList& commands);
+/// The same where the game is shown already: lines that are not saved stay.
+void RefillStartCommands(StartCommands& start, const QStringList& commands);
 
 // What the buttons beside lstAutoexec do. All work in memory, and each tells what it changed.
 

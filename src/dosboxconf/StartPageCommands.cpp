@@ -70,6 +70,8 @@ void WriteAutoexecConf(Launcher& launcher)
         WriteAutoexecConf(launcher.places, folder, commands, platform::Loss::Accept);
     if (!written) {
         shell::TellNote(launcher, kCategory, written.Failure());
+    } else if (ShownGame(launcher) == folder) {
+        launcher.screens.start.saved = commands;
     }
 }
 
@@ -118,6 +120,7 @@ void cmdSaveCD_Click(Launcher& launcher)
         shell::TellNote(launcher, kCategory, saved.Failure());
         return;
     }
+    launcher.screens.cd.edited = false;
     library::RefreshGameEntry(launcher, folder);
 }
 

@@ -78,18 +78,25 @@ void ShowPath(Launcher& launcher, const GameFiles& files)
     status.changed.Tell(shell::StatusBar::Texts);
 }
 
-void ShowStartPage(Launcher& launcher, const GameFiles& files)
+/// What is edited there and not saved counts as long as the game stays the one that is shown.
+void ShowStartPage(Launcher& launcher, const GameFiles& files, bool shownAlready)
 {
     dosboxconf::StartCommands& start = launcher.screens.start;
     const platform::Outcome<QStringList> commands = dosboxconf::ReadAutoexecConf(files);
     if (!commands) {
         shell::TellNote(launcher, kCategory, commands.Failure());
     }
-    dosboxconf::FillStartCommands(start, commands.ValueOr({}));
+    if (shownAlready) {
+        dosboxconf::RefillStartCommands(start, commands.ValueOr({}));
+    } else {
+        dosboxconf::FillStartCommands(start, commands.ValueOr({}));
+    }
     start.fileEXE = RunnableFiles(files);
     start.fileRow = start.fileEXE.isEmpty() ? -1 : 0;
     start.changed.Tell(dosboxconf::StartCommands::Files | dosboxconf::StartCommands::FileRow);
-    dosboxconf::FillCdList(launcher, files);
+    if (!shownAlready || !launcher.screens.cd.edited) {
+        dosboxconf::FillCdList(launcher, files);
+    }
 }
 
 /// A configuration of an older layout is rewritten here, and its build read anew, so that a start
@@ -133,6 +140,7 @@ void ShowinfoProcess(Launcher& launcher)
         ShowGenres(launcher, tag, tag);
         return;
     }
+    const bool shownAlready = launcher.screens.details.folder == folder;
     launcher.screens.details.folder = folder;
     // The one listing of the folder, and each file read once. What fails says so where it is read,
     // and the rest goes on.
@@ -141,7 +149,7 @@ void ShowinfoProcess(Launcher& launcher)
     ShowIcon(launcher, files);
     ShowPath(launcher, files);
     ShowInfo(launcher, files);
-    ShowStartPage(launcher, files);
+    ShowStartPage(launcher, files, shownAlready);
     LoadConf(launcher, files);
     ShowCaption(launcher);
     FillMedia(launcher, files);
@@ -158,7 +166,7 @@ void ShowNoGame(Launcher& launcher)
     details.changed.Tell(DetailsPanel::Icon);
     ShowGenres(launcher, QString(), QString());
     ShowInfo(launcher, GameFiles());
-    ShowStartPage(launcher, GameFiles());
+    ShowStartPage(launcher, GameFiles(), false);
     ClearMedia(launcher);
     shell::StatusBar& status = launcher.screens.status;
     status.game.clear();

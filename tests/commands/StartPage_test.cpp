@@ -83,6 +83,40 @@ TEST(StartPage, AReplyForALineThatIsGoneChangesNothing)
     EXPECT_EQ(launcher->screens.start.lstAutoexec, (QStringList{u"rem"_s, u"game.com"_s}));
 }
 
+TEST(StartPage, WhatIsNotSavedStaysUntilAnotherGameIsShown)
+{
+    Installation app;
+    app.AddGame(u"하나"_s);
+    app.AddGame(u"둘"_s);
+    const auto launcher = app.Start();
+    Click(*launcher, u"하나"_s);
+    const QDir cd(app.folder.Path(u"Games/하나/DosBox/CD"_s));
+    QDir(cd).removeRecursively();
+    dosboxconf::AddEmptyLine(launcher->screens.start);
+    const QStringList typed = launcher->screens.start.lstAutoexec;
+    ASSERT_EQ(typed.size(), 2);
+    dosboxconf::chkCD_Click(*launcher, true);
+    library::cmdSaveInfo_Click(*launcher);
+    EXPECT_EQ(launcher->screens.start.lstAutoexec, typed);
+    EXPECT_TRUE(launcher->screens.cd.chkCD);
+    dosboxconf::cmdSaveCD_Click(*launcher);
+    EXPECT_EQ(launcher->screens.start.lstAutoexec, typed);
+    EXPECT_TRUE(launcher->screens.cd.chkCD) << "saved, its folder made, and shown again";
+    EXPECT_EQ(launcher->screens.cd.lstCD.size(), 1);
+
+    dosboxconf::WriteAutoexecConf(*launcher);
+    app.folder.WriteRaw(u"Games/하나/DosBox/autoexec.conf"_s, "another program's\r\n");
+    QDir().rename(cd.path(), cd.path() + u" off"_s);
+    library::cmdSaveInfo_Click(*launcher);
+    EXPECT_EQ(launcher->screens.start.lstAutoexec, QStringList{u"another program's"_s});
+    dosboxconf::AddEmptyLine(launcher->screens.start);
+    dosboxconf::chkCD_Click(*launcher, true);
+    Click(*launcher, u"둘"_s);
+    Click(*launcher, u"하나"_s);
+    EXPECT_EQ(launcher->screens.start.lstAutoexec, QStringList{u"another program's"_s});
+    EXPECT_FALSE(launcher->screens.cd.chkCD);
+}
+
 TEST(StartPage, TheNextGameDoesNotInheritTheCd)
 {
     Installation app;
