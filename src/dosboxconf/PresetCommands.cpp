@@ -64,15 +64,18 @@ void cmdOpenPreset_Click(Launcher& launcher)
             shell::TellNote(launcher, kCategory, done.Failure());
             return;
         }
-        if (hasGame) {
-            library::LVGamelist_ItemClick(launcher);
-            library::ShowinfoProcess(launcher);
-        } else {
-            ShowConfigPage(launcher);
-        }
     }
     if (hasGame) {
-        library::RefreshGameEntry(launcher, folder);
+        library::RereadGameEntry(launcher, folder);
+    }
+    if (preset.isEmpty()) {
+        return; // and what is edited stays
+    }
+    if (hasGame) {
+        library::LVGamelist_ItemClick(launcher);
+        library::ShowinfoProcess(launcher);
+    } else {
+        ShowConfigPage(launcher);
     }
 }
 

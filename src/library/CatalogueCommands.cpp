@@ -17,6 +17,7 @@
 #include "shell/JobCommands.h"
 #include "shell/Launcher.h"
 
+#include <QFileInfo>
 #include <QLoggingCategory>
 
 using namespace Qt::StringLiterals;
@@ -134,6 +135,7 @@ bool FillByScan(Launcher& launcher)
     }
     launcher.catalogue = Catalogue(std::move(scan.catalogue));
     launcher.icons = std::move(scan.icons);
+    launcher.settings.listedRoot = launcher.places.gamesRoot;
     launcher.settings.rootsChanged = false;
     TellTroubles(launcher, scan.troubles);
     TellLeftOut(launcher, scan);
@@ -179,6 +181,7 @@ bool FillByCache(Launcher& launcher)
     }
     launcher.catalogue = Catalogue(std::move(cached.Value().catalogue));
     launcher.icons = std::move(cached.Value().icons);
+    launcher.settings.listedRoot = launcher.places.gamesRoot;
     AddGamesWithoutCache(launcher);
     FillTree(launcher);
     FillList(launcher);
@@ -292,18 +295,19 @@ void ShowGameEntry(Launcher& launcher, const QString& folder)
 {
     finding::GameList& list = launcher.screens.list;
     const int position = PositionOf(launcher.catalogue, folder);
-    const int row = list.RowOf(folder);
-    if (position < 0 || row < 0) {
+    if (position < 0) {
         return;
     }
-    finding::GameItem& item = list.items[static_cast<std::size_t>(row)];
-    item = finding::ItemOf(
+    const finding::GameItem item = finding::ItemOf(
         launcher.catalogue[static_cast<std::size_t>(position)],
         launcher.options.BuildNames(),
         launcher.settings.TitleLanguageKorean);
-    list.changed.Tell(finding::GameList::Rows);
     if (folder == launcher.current.CurrentFolder) {
-        launcher.current.CurrentTitle = item.text[0];
+        launcher.current.CurrentTitle = item.text[0]; // also of a game that the filter hides
+    }
+    if (const int row = list.RowOf(folder); row >= 0) {
+        list.items[static_cast<std::size_t>(row)] = item;
+        list.changed.Tell(finding::GameList::Rows);
     }
 }
 
@@ -323,8 +327,9 @@ Done MoveGameToBin(Launcher& launcher, const QString& folder)
     const QString path = launcher.places.GameDir(folder);
     Done binned = launcher.ports.bin.MoveToBin(path);
     // Without its root a game may be on a disk that is unplugged, and then it is not gone.
-    const bool vanished = !binned && !archives::FolderExists(path) &&
-                          archives::FolderExists(launcher.places.gamesRoot);
+    // By its exact name, since another game may differ by case alone.
+    const bool vanished =
+        !binned && !QFileInfo(path).isDir() && archives::FolderExists(launcher.places.gamesRoot);
     return vanished ? platform::Success() : binned;
 }
 

@@ -1,10 +1,11 @@
 #include "library/FolderCommands.h"
 
-#include "archives/FileOperations.h"
 #include "platform/Paths.h"
 #include "shell/FolderCfgCommands.h"
 #include "shell/JobCommands.h"
 #include "shell/Launcher.h"
+
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -17,7 +18,8 @@ bool HasGameFolder(Launcher& launcher, const QString& folder)
     if (!platform::IsPlainName(folder) || shell::ShowsFormerRoot(launcher)) {
         return false;
     }
-    if (archives::FolderExists(launcher.places.GameDir(folder))) {
+    // By its exact name, since another game may differ by case alone.
+    if (QFileInfo(launcher.places.GameDir(folder)).isDir()) {
         return true;
     }
     shell::TellNote(launcher, "pelorin.library", launcher.lang.Told(FolderIsGone(folder)));

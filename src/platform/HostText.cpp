@@ -77,13 +77,18 @@ QString HostText::Shown(const Piece& piece, PathForm form)
     return text;
 }
 
+/// In the Windows form the paths are, too.
+bool HostText::IsGuestText(const Piece& piece, PathForm form)
+{
+    return piece.kind == Kind::Guest || form == PathForm::Windows;
+}
+
 QByteArray HostText::Print(PathForm form) const
 {
     QByteArray bytes;
     for (const Piece& piece : m_pieces) {
         const QString shown = Shown(piece, form);
-        const bool hostBytes = piece.kind != Kind::Guest && form == PathForm::Posix;
-        bytes += hostBytes ? QFile::encodeName(shown) : EncodeCp949(shown).bytes;
+        bytes += IsGuestText(piece, form) ? EncodeCp949(shown).bytes : QFile::encodeName(shown);
     }
     return bytes;
 }
@@ -92,7 +97,8 @@ QString HostText::Preview(PathForm form) const
 {
     QString text;
     for (const Piece& piece : m_pieces) {
-        text += Shown(piece, form);
+        const QString shown = Shown(piece, form);
+        text += IsGuestText(piece, form) ? DecodeCp949(EncodeCp949(shown).bytes) : shown;
     }
     return text;
 }
@@ -101,7 +107,7 @@ QString HostText::Lost(PathForm form) const
 {
     QString lost;
     for (const Piece& piece : m_pieces) {
-        if (piece.kind == Kind::Guest || form == PathForm::Windows) {
+        if (IsGuestText(piece, form)) {
             lost += EncodeCp949(Shown(piece, form)).lost;
         }
     }

@@ -43,7 +43,7 @@ public:
 
     /// Guest text that code page 949 can't keep becomes "?"; `Lost` tells which.
     QByteArray Print(PathForm form) const;
-    /// For eyes: the same with the paths decoded, no loss.
+    /// For eyes: what Print gives, decoded.
     QString Preview(PathForm form) const;
     /// Characters that Print would lose, in either form.
     QString Lost(PathForm form) const;
@@ -58,6 +58,7 @@ private:
         HostPath path;
     };
     static QString Shown(const Piece& piece, PathForm form);
+    static bool IsGuestText(const Piece& piece, PathForm form);
 
     std::vector<Piece> m_pieces;
 };

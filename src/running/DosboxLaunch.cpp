@@ -6,6 +6,7 @@
 #include <QFile>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -152,10 +153,15 @@ platform::Done CheckCommands(const RunRequest& request, const QString& build, Pa
 platform::Done CheckLaunch(
     const dosboxconf::RunFacts& facts, const platform::HostText& finished, PathForm form)
 {
-    const QString& mounted =
-        facts.request.mountRoot ? facts.gamesRoot.native : facts.gameDir.native;
-    if (platform::Done fits = CheckPath(mounted, kMountPathBytes, form); !fits) {
-        return fits;
+    QStringList mounted{facts.request.mountRoot ? facts.gamesRoot.native : facts.gameDir.native};
+    const dosboxconf::CdChoice& cd = facts.request.cd;
+    if (cd.chkCD && cd.CdMountMode == 0 && !dosboxconf::IsWin98Family(facts.request.build)) {
+        mounted << facts.gameDir.native;
+    }
+    for (const QString& folder : std::as_const(mounted)) {
+        if (platform::Done fits = CheckPath(folder, kMountPathBytes, form); !fits) {
+            return fits;
+        }
     }
     if (platform::Done fits = CheckImages(facts, form); !fits) {
         return fits;

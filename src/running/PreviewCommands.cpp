@@ -8,6 +8,8 @@
 #include "running/RunPlan.h"
 #include "shell/Launcher.h"
 
+#include <QFileInfo>
+
 namespace pelorin::running {
 
 namespace {
@@ -52,7 +54,11 @@ platform::Outcome<QString> PreviewGameText(const shell::Launcher& launcher)
     if (const platform::Done possible = CheckRequest(request, build); !possible) {
         return possible.Failure();
     }
-    const platform::PathForm form = FindEmulator(launcher, request.mode, build).pathForm;
+    const Emulator emulator = FindEmulator(launcher, request.mode, build);
+    if (!emulator.program && !QFileInfo(emulator.folder).isDir()) {
+        return emulator.program.Failure(); // no folder to write into
+    }
+    const platform::PathForm form = emulator.pathForm;
     if (const platform::Done possible = CheckCommands(request, build, form); !possible) {
         return possible.Failure();
     }

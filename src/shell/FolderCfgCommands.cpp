@@ -164,10 +164,10 @@ bool AcceptRoots(Launcher& launcher)
     launcher.places.exportRoot = exported;
     if (moves) {
         launcher.places.gamesRoot = games;
-        launcher.settings.rootsChanged = true;
+        launcher.settings.rootsChanged = games != launcher.settings.listedRoot;
         library::ForgetDrafts(launcher); // a namesake below the new root is another game
         ShowsFormerRoot(launcher);
-        launcher.screens.details.changed.Tell(DetailsPanel::Texts); // not to be edited any more
+        launcher.screens.details.changed.Tell(DetailsPanel::Texts); // whether they may be edited
     }
     return true;
 }

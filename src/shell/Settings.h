@@ -8,7 +8,8 @@ namespace pelorin::shell {
 struct Settings {
     bool TitleLanguageKorean = true; // which title the list shows
     bool owesOldCfg = false;         // Launcher.cfg could not be kept before it is written over
-    bool rootsChanged = false;       // a root was changed since the last scan: the cache is stale
+    QString listedRoot;              // the games root whose games the list holds
+    bool rootsChanged = false;       // it is no longer the one that is set: the cache is stale
 };
 
 } // namespace pelorin::shell

@@ -87,6 +87,10 @@ TEST_F(ConfigPage, AGameGetsSettingsOfItsOwnAndLosesThem)
     EXPECT_TRUE(TitleInList().endsWith(m_launcher->lang[164])) << TitleInList().toStdString();
     ShowTab(dosboxconf::kGlobalTab);
     EXPECT_TRUE(Editor().page.message);
+    // The grid holds the game's settings there, which are nobody else's.
+    const QByteArray global = m_app.folder.ReadRaw(u"Default.conf"_s);
+    dosboxconf::cmdSaveConfig_Click(*m_launcher);
+    EXPECT_EQ(m_app.folder.ReadRaw(u"Default.conf"_s), global);
 
     ShowTab(dosboxconf::kGameTab);
     m_app.fakes.prompts.WillAnswer(Answer::Cancel);
@@ -165,7 +169,29 @@ TEST_F(ConfigPage, PresetsGoOutAndComeIn)
     EXPECT_EQ(m_app.folder.ReadRaw(kOwn), m_app.folder.ReadRaw(u"Default.conf"_s));
     EXPECT_TRUE(Editor().page.picEdit);
 
-    // A picture, an empty file and a cancelled dialog change nothing.
+    // A game's own go out from either page, and over another preset, which is kept.
+    const QByteArray former = m_app.folder.ReadRaw(u"preset/빠름.conf"_s);
+    dosboxconf::chkEditConfig_Click(*m_launcher, true);
+    ChooseValue(u"memsize"_s, 3);
+    dosboxconf::cmdSaveConfig_Click(*m_launcher);
+    ShowTab(dosboxconf::kGlobalTab);
+    m_app.fakes.prompts.WillSave(preset);
+    dosboxconf::cmdSavePreset_Click(*m_launcher);
+    EXPECT_EQ(m_app.folder.ReadRaw(u"preset/빠름.conf"_s), m_app.folder.ReadRaw(kOwn));
+    EXPECT_EQ(m_app.folder.ReadRaw(u"preset/빠름.conf.bak"_s), former);
+    // What is opened on the page of all games is for all games, beside a game's own.
+    const QByteArray global = m_app.folder.ReadRaw(u"Default.conf"_s);
+    m_app.fakes.prompts.WillOpen(preset);
+    dosboxconf::cmdOpenPreset_Click(*m_launcher);
+    EXPECT_EQ(m_app.folder.ReadRaw(u"Default.conf"_s), m_app.folder.ReadRaw(kOwn));
+    EXPECT_EQ(m_app.folder.ReadRaw(u"Default.conf.bak"_s), global);
+    EXPECT_TRUE(Editor().page.message);
+    ShowTab(dosboxconf::kGameTab);
+    dosboxconf::chkEditConfig_Click(*m_launcher, true);
+    ChooseValue(u"memsize"_s, 0);
+    const dosboxconf::Selection edited = m_launcher->options.OptionSelection;
+
+    // A picture, an empty file and a cancelled dialog change nothing, and what is edited stays.
     m_app.folder.WriteRaw(u"preset/그림.conf"_s, "\x89PNG\r\n\x1a\n");
     m_app.folder.WriteRaw(u"preset/빈.conf"_s, m_app.folder.ReadRaw(kOwn).left(500)); // cut off
     const QByteArray own = m_app.folder.ReadRaw(kOwn);
@@ -178,6 +204,8 @@ TEST_F(ConfigPage, PresetsGoOutAndComeIn)
     m_app.fakes.prompts.WillOpen(QString());
     dosboxconf::cmdOpenPreset_Click(*m_launcher);
     EXPECT_EQ(m_app.folder.ReadRaw(kOwn), own);
+    EXPECT_EQ(m_launcher->options.OptionSelection, edited);
+    EXPECT_TRUE(Editor().chkEditConfig);
 
     // An old layout is upgraded when it is loaded; what it replaces is kept.
     QStringList old(kOldValues, u"0"_s);
@@ -202,13 +230,72 @@ TEST_F(ConfigPage, ThePreviewTellsWhyAStartWouldWriteNothing)
         u"version"_s, static_cast<int>(m_launcher->options.BuildNames().indexOf(u"SNES9X"_s)));
     EXPECT_EQ(Editor().preview.state, ConfPreview::State::WillBeNone);
     m_launcher->screens.start.lstAutoexec = QStringList(300, u"echo a line of some length"_s);
-    ChooseValue(u"version"_s, 0);
+    const auto installed =
+        static_cast<int>(m_launcher->options.BuildNames().indexOf(u"0.74_SVN"_s));
+    ChooseValue(u"version"_s, installed);
     EXPECT_EQ(Editor().preview.text, QString());
     EXPECT_PRED2(test::Holds, Editor().preview.refusal, u"DOSBox"_s);
     m_launcher->screens.start.lstAutoexec.clear();
-    ChooseValue(u"version"_s, 0);
+    ChooseValue(u"version"_s, installed);
     EXPECT_EQ(Editor().preview.refusal, QString());
     EXPECT_FALSE(Editor().preview.text.isEmpty());
+    ChooseValue(
+        u"version"_s, static_cast<int>(m_launcher->options.BuildNames().indexOf(u"0.73"_s)));
+    EXPECT_PRED2(test::Holds, Editor().preview.refusal, u"0.73"_s); // no folder to write into
+}
+
+TEST_F(ConfigPage, RowsAreMappedToTheirOptionsAndTheirDescriptions)
+{
+    m_app.folder.WriteText(u"Descript/메모리(MB).txt"_s, u"How much"_s);
+    ShowTab(dosboxconf::kGlobalTab);
+    // Cycles of no number have no row: what stands behind them moves up.
+    m_app.fakes.prompts.WillType(u"12345"_s);
+    ChooseValue(u"cycles"_s, -1);
+    const dosboxconf::Cell behind{Editor().cmbConfigSub, Editor().titleRow + 1};
+    const int before = dosboxconf::RowOfItem(Editor(), behind.item);
+    ASSERT_GT(before, 0);
+    m_launcher->options
+        .OptionSelection[dosboxconf::OptionGrid::Index({behind.group, behind.item - 1})] = 0;
+    dosboxconf::cmbConfigSub_Click(*m_launcher, behind.group);
+    ASSERT_EQ(dosboxconf::RowOfItem(Editor(), behind.item), before - 1);
+    dosboxconf::lstConfig_Row(*m_launcher, before - 1);
+    EXPECT_EQ(Editor().titleRow, behind.item);
+    ChooseValue(u"memsize"_s, 0);
+    EXPECT_EQ(Editor().txtDesc, u"How much"_s);
+
+    // Ctrl+Tab walks all groups and comes back.
+    dosboxconf::cmbConfigSub_Click(*m_launcher, 0);
+    QList<int> groups;
+    do {
+        groups << Editor().cmbConfigSub;
+        dosboxconf::lstConfigTitle_CtrlTab(*m_launcher, dosboxconf::GroupStep::Next);
+    } while (Editor().cmbConfigSub > groups.last());
+    EXPECT_EQ(groups.size(), m_launcher->options.GroupCaption.size());
+
+    ShowTab(dosboxconf::kGameTab);
+    dosboxconf::chkEditConfig_Click(*m_launcher, true);
+    ChooseValue(u"aspect"_s, 0);
+    ChooseValue(u"memsize"_s, 0);
+    dosboxconf::cmdSaveConfig_Click(*m_launcher);
+    const auto row = static_cast<int>(Editor().lstEdit[1].indexOf(u"메모리(MB)"_s));
+    ASSERT_GE(row, 0);
+    dosboxconf::lstEdit_Click(*m_launcher, row == 0 ? 1 : 0);
+    EXPECT_EQ(Editor().txtDesc, QString());
+    dosboxconf::lstEdit_Click(*m_launcher, row);
+    EXPECT_EQ(Editor().txtDesc, u"How much"_s);
+}
+
+TEST_F(ConfigPage, AGameThatTheFilterHidesIsNamedByItsNewMarks)
+{
+    finding::GameList& list = m_launcher->screens.list;
+    list.items = {};
+    list.Select(-1);
+    ASSERT_EQ(m_launcher->current.CurrentFolder, u"하나"_s);
+    ShowTab(dosboxconf::kGameTab);
+    dosboxconf::chkEditConfig_Click(*m_launcher, true);
+    dosboxconf::cmdSaveConfig_Click(*m_launcher);
+    EXPECT_TRUE(m_launcher->current.CurrentTitle.endsWith(m_launcher->lang[164]));
+    EXPECT_TRUE(m_launcher->screens.frame.caption.startsWith(m_launcher->current.CurrentTitle));
 }
 
 TEST_F(ConfigPage, WithoutAGameItHoldsNoneOfTheFormerOnes)

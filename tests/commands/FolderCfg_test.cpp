@@ -119,6 +119,13 @@ TEST_F(FolderCfg, ChangedRootsAreMadeAndScannedAtTheNextStart)
     EXPECT_EQ(m_launcher->places.gamesRoot, Path(u"Other"));
     EXPECT_EQ(m_launcher->catalogue[0].Folder, u"하나"_s);
     EXPECT_EQ(m_launcher->screens.status.notes.size(), 1U);
+    // Back again: the list is this folder's.
+    Boxes().txtGames = Path(u"Games");
+    ASSERT_TRUE(shell::AcceptRoots(*m_launcher));
+    EXPECT_FALSE(m_launcher->settings.rootsChanged);
+    EXPECT_EQ(m_launcher->screens.status.notes.size(), 1U);
+    Boxes().txtGames = Path(u"Other");
+    ASSERT_TRUE(shell::AcceptRoots(*m_launcher));
     ASSERT_TRUE(shell::Form_Unload(*m_launcher));
     EXPECT_FALSE(m_app.folder.Exists(u"Gamelist.lst"_s));
     EXPECT_FALSE(m_app.folder.Exists(u"IconList.bmp"_s));

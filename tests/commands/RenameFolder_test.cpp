@@ -1,3 +1,6 @@
+#include "library/CatalogueCommands.h"
+#include "library/DeleteCommands.h"
+#include "library/InfoCommands.h"
 #include "library/RenameCommands.h"
 #include "library/ShowinfoCommands.h"
 #include "running/RunCommands.h"
@@ -37,6 +40,8 @@ TEST(RenameFolder, AllThatKnowsTheGameFollows)
     Click(*launcher, u"Star"_s);
     running::RunGame(*launcher);
     app.fakes.processes.End(0, 60'000);
+    launcher->screens.details.txtTitle[1] = u"typed"_s;
+    library::Info_Change(*launcher);
 
     Rename(app, *launcher, u" R&D: <\"x\">"_s);
     const QString name = u" R&D (x)"_s;
@@ -46,6 +51,12 @@ TEST(RenameFolder, AllThatKnowsTheGameFollows)
     EXPECT_EQ(launcher->current.CurrentFolder, name);
     EXPECT_EQ(launcher->screens.details.folder, name);
     EXPECT_EQ(launcher->screens.details.txtInfo, u"밤하늘"_s);
+    // What is not saved yet goes along, and outlives another game and a scan.
+    Click(*launcher, u"Zebra"_s);
+    library::cmdRefresh_Click(*launcher);
+    Click(*launcher, name);
+    EXPECT_EQ(launcher->screens.details.txtTitle[1], u"typed"_s);
+    EXPECT_TRUE(launcher->screens.details.draft);
     const int row = launcher->screens.list.RowOf(name);
     ASSERT_GE(row, 0);
     EXPECT_EQ(launcher->screens.list.items.at(std::size_t(row)).text[0], u"별"_s);
@@ -117,6 +128,23 @@ TEST(RenameFolder, TheCaseAloneCanBeChanged)
     EXPECT_EQ(OnDisk(app), (QStringList{u"STAR"_s, u"STAR 2"_s}));
     EXPECT_EQ(launcher->current.CurrentFolder, u"STAR"_s);
     EXPECT_EQ(app.fakes.prompts.Asked().size(), 1U);
+}
+
+TEST(RenameFolder, AGameIsNotTakenForItsTwinInAnotherCase)
+{
+    Installation app;
+    app.AddGame(u"Star"_s);
+    app.AddGame(u"STAR"_s);
+    const auto launcher = app.Start();
+    Click(*launcher, u"Star"_s);
+    ASSERT_TRUE(QDir(app.folder.Path(u"Games/Star"_s)).removeRecursively());
+    library::RenameGameFolder(*launcher);
+    EXPECT_TRUE(app.fakes.prompts.Asked().empty());
+    app.fakes.prompts.WillAnswer(platform::Answer::Yes);
+    library::DeleteSelectedGames(*launcher);
+    EXPECT_EQ(OnDisk(app), QStringList{u"STAR"_s});
+    ASSERT_EQ(launcher->catalogue.size(), 1U) << "what has vanished leaves the list";
+    EXPECT_EQ(launcher->catalogue.at(0).Folder, u"STAR"_s);
 }
 
 TEST(RenameFolder, AFolderThatGoesMeanwhileOrRunsIsLeftAlone)

@@ -1,5 +1,6 @@
 #include "platform/HostText.h"
 
+#include "platform/TextFile.h"
 #include "support/Values.h"
 
 using namespace Qt::StringLiterals;
@@ -35,6 +36,8 @@ TEST(HostText, TellsWhatAFormLoses)
     EXPECT_EQ(text.Lost(PathForm::Windows), u"é😀"_s);
     EXPECT_EQ(text.Lost(PathForm::Posix), u"é"_s);
     EXPECT_TRUE(text.Print(PathForm::Posix).startsWith("echo ?/games/"));
+    EXPECT_EQ(text.Preview(PathForm::Posix), u"echo ?/games/日😀"_s);
+    EXPECT_EQ(text.Preview(PathForm::Windows), DecodeCp949(text.Print(PathForm::Windows)));
 }
 
 TEST(HostText, AppendsAndReplacesInGuestTextOnly)

@@ -32,7 +32,7 @@ TEST(DosboxLaunchTest, PathsCountInBytesOfTheFileSystem)
     const Case cases[] = {
         {300, 238, 3, false, true},
         {3, 239, 3, false, false},
-        {3, 300, 3, true, true}, // the game's own folder is not mounted
+        {3, 300, 3, true, true}, // the game's own folder is not mounted, unless it is the CD
         {300, 3, 3, true, false},
         {3, 3, 505, false, true}, // an image's path may be longer: 511
         {3, 3, 506, false, false},
@@ -48,6 +48,10 @@ TEST(DosboxLaunchTest, PathsCountInBytesOfTheFileSystem)
         EXPECT_EQ(CheckLaunch(facts, HostText(), PathForm::Posix).Ok(), c.starts);
         EXPECT_TRUE(CheckLaunch(facts, HostText(), PathForm::Windows));
         facts.request.cd.CdMountMode = 0;
+        EXPECT_EQ(
+            CheckLaunch(facts, HostText(), PathForm::Posix).Ok(),
+            (c.starts || c.cdFolder > 505) && c.game < 239);
+        facts.request.build = u"Win98"_s; // has no folder as its CD
         EXPECT_EQ(
             CheckLaunch(facts, HostText(), PathForm::Posix).Ok(), c.starts || c.cdFolder > 505);
     }
