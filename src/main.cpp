@@ -261,6 +261,9 @@ int RunWindow(int argc, char** argv)
     launcher.searchPath = platform::SearchPath();
     launcher.drawDefaultIcon = forms::DefaultGameIcon;
     prompts.SetLanguage(launcher.lang);
+    shellVerbs.failed = [&launcher](const platform::Error& failure, const QString& output) {
+        shell::TellNote(launcher, "pelorin.platform", failure, output);
+    };
 
     forms::Deeds deeds;
     Wire(deeds, launcher);

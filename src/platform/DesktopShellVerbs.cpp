@@ -5,18 +5,11 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QLoggingCategory>
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
 
 namespace pelorin::platform {
-
-namespace {
-
-Q_LOGGING_CATEGORY(logPlatform, "pelorin.platform")
-
-} // namespace
 
 DesktopShellVerbs::DesktopShellVerbs(Processes& processes, QStringList searchPath)
     : m_processes(processes)
@@ -35,10 +28,12 @@ Done DesktopShellVerbs::Start(const QString& what, const QString& workingFolder)
     request.program = opener;
     request.arguments = QStringList{what};
     request.workingFolder = workingFolder;
-    return m_processes.StartDetached(request, [what](const ProcessEnd& end) {
-        if (end.exitStatus != 0) {
-            qCWarning(logPlatform).noquote()
-                << what << "could not be opened:" << QString::fromLocal8Bit(end.output).trimmed();
+    return m_processes.StartDetached(request, [this, what](const ProcessEnd& end) {
+        if (end.exitStatus != 0 && failed) {
+            failed(
+                Error::Worded(
+                    ErrorKind::NotFound, Wording{470, u"<1>: no program could open it."_s, {what}}),
+                QString::fromLocal8Bit(end.output).trimmed());
         }
     });
 }

@@ -10,7 +10,7 @@ class Processes;
 
 /// The real ShellVerbs: the desktop's `xdg-open`, started on its own. It gets a path as it stands,
 /// not as an address, so blanks, Hangul, "%" and "#" in it mean themselves. Success says that it
-/// was started; what it could not open is told on standard error when it ends.
+/// was started; what it could not open is told by `failed` when it ends.
 class DesktopShellVerbs : public ShellVerbs {
 public:
     /// Folders where `xdg-open` is looked for, in order. `processes` outlives this.

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace pelorin::platform {
 
 /// The desktop's own way to open things.
@@ -15,6 +17,9 @@ public:
     virtual Done Open(const QString& path) = 0;
     /// An address in the browser.
     virtual Done OpenUrl(const QString& url) = 0;
+
+    /// Called when what was started has ended without opening it, with what it printed. May be empty.
+    std::function<void(const Error& failure, const QString& output)> failed;
 };
 
 } // namespace pelorin::platform

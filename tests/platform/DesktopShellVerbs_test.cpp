@@ -36,6 +36,18 @@ TEST(DesktopShellVerbsTest, OpensPathsAsTheyAreAndAddressesOfTheWebOnly)
     }
     EXPECT_EQ(processes.Starts().size(), 3U);
 
+    QStringList failures;
+    shell.failed = [&](const Error& failure, const QString& output) {
+        failures << failure.text + u" / "_s + output;
+    };
+    processes.End(0, 10, "done");
+    processes.End(1, 10, "gio: no application\n", 4);
+    EXPECT_EQ(
+        failures,
+        QStringList{
+            folder.Path(u"docs/Read me.txt"_s) +
+            u": no program could open it. / gio: no application"_s});
+
     processes.RefuseNext(ErrorKind::Refused, u"no"_s);
     EXPECT_FALSE(shell.Open(folder.Path(u"docs"_s)));
     const Done without = DesktopShellVerbs(processes, {}).Open(folder.Path(u"docs"_s));

@@ -42,10 +42,14 @@ public:
 
     /// A detached program ends now: its `ended` is called. Fails the test if there is no such
     /// start, or if it has ended before.
-    void End(std::size_t start, qint64 runMs = 0, const QByteArray& output = QByteArray())
+    void End(
+        std::size_t start,
+        qint64 runMs = 0,
+        const QByteArray& output = QByteArray(),
+        int exitStatus = 0)
     {
         ASSERT_TRUE(start < m_starts.size() && m_starts[start].ended) << start;
-        std::exchange(m_starts[start].ended, nullptr)({runMs, output});
+        std::exchange(m_starts[start].ended, nullptr)({runMs, output, exitStatus});
     }
 
     /// In the order of the calls, refused ones too.
