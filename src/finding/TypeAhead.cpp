@@ -69,6 +69,10 @@ int TypeAhead::Type(const GameList& list, const QString& text, qint64 nowMs)
     const bool composed = !m_composing.isEmpty();
     const bool fresh = BeginsNewWord(nowMs);
     m_composing.clear();
+    if (!text.isEmpty() && text.front().category() == QChar::Other_Control) {
+        m_typed.chop(text.front() == u'\b' ? 1 : m_typed.size());
+        return -1;
+    }
     m_typed += text;
     if (m_typed.trimmed().isEmpty()) {
         m_typed.clear();

@@ -19,6 +19,7 @@ public:
     static constexpr qint64 kWordMs = 1000;
 
     /// Text that was typed. The row that is now to be selected, -1 for none. `nowMs` is any clock.
+    /// Backspace takes a letter back; Esc and other control characters give the word up.
     int Type(const GameList& list, const QString& text, qint64 nowMs);
     /// What an input method shows while it composes; empty when it has given up or is done.
     int Compose(const GameList& list, const QString& text, qint64 nowMs);

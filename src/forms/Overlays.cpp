@@ -75,7 +75,7 @@ void ProgressOverlay::Place(const QRect& area)
 
 void ProgressOverlay::Follow()
 {
-    if (m_model.visible && !isHidden()) {
+    if (m_model.visible && isVisible()) {
         // Of steps that follow each other faster than a screen shows them the last one is painted.
         if (!m_frame.isActive()) {
             m_frame.start();
@@ -94,6 +94,7 @@ void ProgressOverlay::Follow()
 void ProgressOverlay::ShowStep()
 {
     m_lblProgress->setText(m_model.text);
+    m_pbProgress->setAccessibleName(m_model.text);
     m_pbProgress->setRange(0, qMax(1, m_model.maximum));
     m_pbProgress->setValue(m_model.value);
 }

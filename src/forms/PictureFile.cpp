@@ -1,10 +1,12 @@
 #include "forms/PictureFile.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QImageReader>
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 
 namespace pelorin::forms {
 
@@ -45,7 +47,9 @@ PictureFile ReadPicture(const QString& path, QSize bound)
 {
     PictureFile picture;
     QFile file(path);
-    const QByteArray format = file.open(QIODevice::ReadOnly) ? FormatOf(file) : QByteArray();
+    // A pipe would wait for somebody who writes into it.
+    const bool opens = QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly);
+    const QByteArray format = opens ? FormatOf(file) : QByteArray();
     QImageReader reader(&file, format);
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(true);
@@ -53,7 +57,8 @@ PictureFile ReadPicture(const QString& path, QSize bound)
         picture.trouble = PictureTrouble::NoPicture;
         return picture;
     }
-    const QSize size = reader.size();
+    // The height of a bitmap whose first row is the top one is negative.
+    const QSize size(reader.size().width(), std::abs(reader.size().height()));
     const bool lies = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
     picture.size = lies ? size.transposed() : size;
     if (size.isEmpty()) {

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -104,6 +105,7 @@ QString QtPrompts::InputText(const QString& prompt, const QString& title, const 
     QInputDialog dialog(Parent());
     dialog.setWindowTitle(title);
     dialog.setLabelText(QString(prompt).replace(u"&"_s, u"&&"_s)); // the box is its buddy
+    dialog.findChild<QLabel*>()->setTextFormat(Qt::PlainText);
     dialog.setTextValue(preset);
     dialog.setOkButtonText(Words(kOwnOk));
     dialog.setCancelButtonText(Words(kOwnCancel));

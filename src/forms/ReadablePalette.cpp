@@ -10,9 +10,10 @@ namespace pelorin::forms {
 
 namespace {
 
-// Above what readers need (3 and 4.5), since small letters are drawn fainter than their colour.
-constexpr double kDisabledContrast = 4.8;
+// Above the 4.5 that readers need, since small letters are drawn fainter than their colour, and
+// those of what is disabled, a hint among them, on another ground than their own.
 constexpr double kTextContrast = 5.5;
+constexpr double kDisabledContrast = 6.5;
 constexpr int kSteps = 50;
 
 double Luminance(const QColor& colour)
@@ -92,7 +93,7 @@ QPalette MadeReadable(QPalette palette)
     }
     const QColor base = palette.color(QPalette::Active, QPalette::Base);
     const QColor text = palette.color(QPalette::Active, QPalette::Text);
-    palette.setColor(QPalette::PlaceholderText, Contrasting(base, text, base, kTextContrast));
+    palette.setColor(QPalette::PlaceholderText, Contrasting(base, text, base, kDisabledContrast));
     MakeSelectionReadable(palette);
     return palette;
 }

@@ -6,6 +6,8 @@
 #include "forms/OwnTexts.h"
 #include "forms/Pictures.h"
 
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QKeyEvent>
 
 #include <array>
@@ -69,6 +71,8 @@ QToolButton* Toolbar::AddButton(
     auto* button = new QToolButton(this);
     Dress(*button, name, picture);
     button->setEnabled(static_cast<bool>(deed));
+    // A click leaves the keyboard with the box, and its last syllable with the input method.
+    connect(button, &QToolButton::pressed, this, [] { QGuiApplication::inputMethod()->commit(); });
     connect(button, &QToolButton::clicked, this, [deed] { Do(deed); });
     return button;
 }

@@ -54,11 +54,15 @@ QString BinOne(Launcher& launcher, const QString& folder)
     return binned ? QString() : launcher.lang.Told(binned.Failure().Told());
 }
 
-/// The lines of the report. Ends early when the user gives up.
-QStringList BinAll(Launcher& launcher, const std::vector<ListedGame>& games)
+struct Deletion {
+    QStringList gone;   // folders
+    QStringList report; // a line for each game that stayed
+};
+
+/// Ends early when the user gives up.
+Deletion BinAll(Launcher& launcher, const std::vector<ListedGame>& games)
 {
-    QStringList report;
-    QStringList gone;
+    Deletion done;
     const int count = static_cast<int>(games.size());
     for (int i = 0; i < count; ++i) {
         const ListedGame& game = games[static_cast<std::size_t>(i)];
@@ -67,16 +71,15 @@ QStringList BinAll(Launcher& launcher, const std::vector<ListedGame>& games)
         }
         const QString reason = BinOne(launcher, game.folder);
         if (reason.isEmpty()) {
-            gone << game.folder;
+            done.gone << game.folder;
         } else {
-            report << launcher.lang[311] + game.title + u" ==> "_s + reason;
+            done.report << launcher.lang[311] + game.title + u" ==> "_s + reason;
         }
     }
-    RemoveGameEntries(launcher, gone);
-    return report;
+    return done;
 }
 
-QStringList DeleteAll(Launcher& launcher, const std::vector<ListedGame>& games)
+Deletion DeleteAll(Launcher& launcher, const std::vector<ListedGame>& games)
 {
     const shell::Job job(launcher);
     if (!job.Held()) {
@@ -138,10 +141,15 @@ void SelectAfterwards(
     }
 }
 
+/// The entries and the rows go at once: the icons of both are counted alike.
 void ShowWhatIsLeft(
-    Launcher& launcher, const std::vector<ListedGame>& games, const QStringList& neighbours)
+    Launcher& launcher,
+    const QStringList& gone,
+    const std::vector<ListedGame>& games,
+    const QStringList& neighbours)
 {
     const platform::RedrawLock lock(launcher.screens.gate);
+    RemoveGameEntries(launcher, gone);
     finding::RefreshGameList(launcher);
     SelectAfterwards(launcher, games, neighbours);
     if (PositionOf(launcher.catalogue, launcher.current.CurrentFolder) < 0) {
@@ -167,14 +175,11 @@ void DeleteSelectedGames(Launcher& launcher)
     if (!MayDelete(launcher, games) || launcher.flags.JobHeld) {
         return;
     }
-    const QStringList report = DeleteAll(launcher, games);
-    if (launcher.flags.Ending) {
-        return;
-    }
+    const Deletion done = DeleteAll(launcher, games);
     // The list first: it is seen beside the report.
-    ShowWhatIsLeft(launcher, games, neighbours);
-    if (!report.isEmpty()) {
-        launcher.ports.prompts.ShowReport(launcher.lang[312], report.join(u"\r\n"_s));
+    ShowWhatIsLeft(launcher, done.gone, games, neighbours);
+    if (!done.report.isEmpty()) {
+        launcher.ports.prompts.ShowReport(launcher.lang[312], done.report.join(u"\r\n"_s));
     }
     if (launcher.catalogue.empty()) {
         TellEmptyLibrary(launcher);

@@ -93,6 +93,13 @@ TEST_F(TypeAheadTest, QuickLettersAreOneWordAndOneLetterGoesRound)
     EXPECT_EQ(Type(u"A"_s), u"Axe"_s);
     EXPECT_EQ(Type(u"b"_s, TypeAhead::kWordMs), u"Beta"_s);
     EXPECT_EQ(Type(u"b"_s, TypeAhead::kWordMs), u"Beta"_s) << "round to the selected one itself";
+    // A letter is taken back, a word given up.
+    EXPECT_EQ(Type(u"a"_s, TypeAhead::kWordMs), u"Alpha"_s);
+    EXPECT_EQ(Type(u"z"_s), u"stays"_s);
+    EXPECT_EQ(Type(u"\b"_s), u"stays"_s);
+    EXPECT_EQ(Type(u"x"_s), u"Axe"_s);
+    EXPECT_EQ(Type(u"\x1b"_s), u"stays"_s);
+    EXPECT_EQ(Type(u"b"_s), u"Beta"_s);
     m_list.items.clear();
     m_list.Select(-1);
     EXPECT_EQ(Type(u"a"_s, TypeAhead::kWordMs), u"stays"_s);

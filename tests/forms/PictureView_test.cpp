@@ -14,6 +14,8 @@
 #include <QMenu>
 #include <QPainter>
 
+#include <sys/stat.h>
+
 using namespace Qt::StringLiterals;
 
 namespace pelorin::test {
@@ -70,6 +72,13 @@ QByteArray HugePng()
     return png;
 }
 
+/// Its first row is the top one.
+QByteArray TopDownBmp()
+{
+    QByteArray bmp = Encoded(Halves({8, 4}), "bmp");
+    return bmp.replace(22, 4, QByteArray::fromHex("fcffffff")); // the height, -4
+}
+
 } // namespace
 
 TEST(PictureFile, IsReadByWhatItIsAndWithinBounds)
@@ -103,6 +112,7 @@ TEST(PictureFile, IsReadByWhatItIsAndWithinBounds)
          "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>",
          PictureTrouble::NoPicture,
          {0, 0}},
+        {"top down.bmp", TopDownBmp(), PictureTrouble::None, {8, 4}},
         {"empty.bmp", "", PictureTrouble::NoPicture, {0, 0}},
     };
     const TestFolder folder;
@@ -117,6 +127,10 @@ TEST(PictureFile, IsReadByWhatItIsAndWithinBounds)
     EXPECT_EQ(
         forms::ReadPicture(folder.Path(u"gone.png"_s), {200, 200}).trouble,
         PictureTrouble::NoPicture);
+    // It would be waited for.
+    const QString pipe = folder.Path(u"pipe.png"_s);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    EXPECT_EQ(forms::ReadPicture(pipe, {200, 200}).trouble, PictureTrouble::NoPicture);
 }
 
 class MediaTest : public WindowTest {

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
@@ -91,6 +92,7 @@ TEST_F(QtPromptsTest, ACancelledInputIsEmptyWhateverWasTyped)
     WhenOpen([](QDialog& dialog) {
         auto& input = static_cast<QInputDialog&>(dialog);
         EXPECT_EQ(input.textValue(), u"preset"_s);
+        EXPECT_EQ(dialog.findChild<QLabel*>()->textFormat(), Qt::PlainText);
         input.setTextValue(u"typed"_s);
         Press(dialog, u"OK"_s);
     });

@@ -1,6 +1,7 @@
 #include "Walk.h"
 
 #include "WalkTexts.h"
+#include "forms/PictureView.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -48,7 +49,7 @@ const QStringList kLarge{u"lblMessage"_s};
 const QStringList kDisplays{u"SBDirectory_1"_s};
 
 constexpr double kTextContrast = 4.5;
-constexpr double kWeakContrast = 3; // of large or disabled ones
+constexpr double kLargeContrast = 3; // of pictures, too
 
 bool IsInteractive(const QWidget& widget)
 {
@@ -64,7 +65,14 @@ bool IsControl(const QWidget& widget)
 {
     return IsInteractive(widget) || qobject_cast<const QLabel*>(&widget) != nullptr ||
            qobject_cast<const QGroupBox*>(&widget) != nullptr ||
-           qobject_cast<const QProgressBar*>(&widget) != nullptr;
+           qobject_cast<const QProgressBar*>(&widget) != nullptr ||
+           dynamic_cast<const forms::PictureView*>(&widget) != nullptr;
+}
+
+bool IsPicture(const QWidget& widget)
+{
+    const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+    return button != nullptr && button->text().isEmpty();
 }
 
 /// A part that the toolkit makes of another control: a header, a box in a combo box.
@@ -280,8 +288,9 @@ QStringList Walk::Contrast() const
     const QImage image = m_window.grab().toImage();
     const double ratio = image.devicePixelRatio();
     for (const QWidget* control : m_controls) {
-        const bool weak = !control->isEnabled() || kLarge.contains(control->objectName());
-        const double least = weak ? kWeakContrast : kTextContrast;
+        const double least = IsPicture(*control) || kLarge.contains(control->objectName())
+                                 ? kLargeContrast
+                                 : kTextContrast;
         const QPoint origin = Place(*control, m_window).topLeft();
         for (const QRect& text : TextPlaces(*control)) {
             const QRect logical = text.translated(origin);

@@ -408,6 +408,38 @@ TEST_F(WindowDeedsTest, TheStartPageWritesRowsAndHandsOnWhatToDo)
     EXPECT_EQ(did, (QStringList{u"edit 0"_s, u"cd 1"_s, u"save cd"_s}));
 }
 
+TEST_F(WindowDeedsTest, EachButtonOfThePagesDoesWhatItIsNamedFor)
+{
+    struct Button {
+        int tab;
+        const char* name;
+        forms::Deeds::Deed* deed;
+    };
+    const Button buttons[] = {
+        {2, "cmdAddExec", &deeds.cmdAddExec_Click},
+        {2, "cmdAddEmpty", &deeds.cmdAddEmpty_Click},
+        {2, "cmdUp", &deeds.cmdUp_Click},
+        {2, "cmdDown", &deeds.cmdDown_Click},
+        {2, "cmdDelete", &deeds.cmdDelete_Click},
+        {2, "cmdSaveExec", &deeds.cmdSaveExec_Click},
+        {3, "cmdSaveConfig", &deeds.cmdSaveConfig_Click},
+        {3, "cmdDeleteConfig", &deeds.cmdDeleteConfig_Click},
+        {3, "cmdOpenPreset", &deeds.cmdOpenPreset_Click},
+        {3, "cmdSavePreset", &deeds.cmdSavePreset_Click}};
+    QStringList names;
+    for (const Button& button : buttons) {
+        *button.deed = Note(QString::fromLatin1(button.name));
+        names << QString::fromLatin1(button.name);
+    }
+    screens.config.page.commands = true;
+    Open();
+    for (const Button& button : buttons) {
+        ShowTab(button.tab);
+        Press(button.name);
+    }
+    EXPECT_EQ(did, names);
+}
+
 TEST_F(WindowDeedsTest, TitlesAndDescriptionAreWrittenByTheUserOnly)
 {
     shell::DetailsPanel& details = screens.details;
@@ -499,6 +531,8 @@ TEST_F(WindowDeedsTest, AGenreMenuOpensByEitherButtonAndTheMenuKey)
 TEST_F(WindowDeedsTest, ThePlacementIsWrittenByTheUserOnly)
 {
     deeds.cmdMoveDosbox_Click = NoteIndex(u"nudge"_s);
+    deeds.txtDosboxPos_Step = [&](int box, int step) { did << u"%1 by %2"_s.arg(box).arg(step); };
+    deeds.cmdSetPos_Click = Note(u"place"_s);
     Open();
     ShowTab(5);
     screens.placement.txtDosboxPos = {u"12"_s, u"x7"_s};
@@ -512,7 +546,11 @@ TEST_F(WindowDeedsTest, ThePlacementIsWrittenByTheUserOnly)
     Find<QCheckBox>("chkDosboxMove")->click();
     EXPECT_TRUE(screens.placement.chkDosboxMove);
     Press("cmdMoveDosbox_3");
-    EXPECT_EQ(did, QStringList{u"nudge 3"_s});
+    QTest::keyClick(Find("txtDosboxPos_0"), Qt::Key_Up);
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Return}) {
+        QTest::keyClick(y, key);
+    }
+    EXPECT_EQ(did, (QStringList{u"nudge 3"_s, u"0 by 1"_s, u"1 by -1"_s, u"place"_s}));
 }
 
 TEST_F(WindowDeedsTest, NoticeAndProgressStayReadableOverDisabledPanels)

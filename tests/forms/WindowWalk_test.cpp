@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFile>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
@@ -143,8 +144,8 @@ protected:
         screens.details.txtInfo = u"About"_s;
         screens.details.draft = true;
         screens.details.savedInfo.state = library::InfoState::Cut;
-        screens.details.lblGenreK = lang[30];
-        screens.details.lblGenreE = lang[13];
+        screens.details.lblGenreK = u"RPG"_s;
+        screens.details.lblGenreE = u"RPG"_s;
         FillConfig();
         screens.status.game = u"Title 0"_s;
         screens.status.folder = lang[106] + u" /games/GAME0"_s;
@@ -437,6 +438,8 @@ TEST_F(SpoiltControl, IsNoticed)
          &Walk::Names,
          "no accessible name",
          [](QWidget& w) { w.setAccessibleName({}); }},
+        {1, "pbProgress", &Walk::Names, "no accessible name", nameless},
+        {1, "pic1", &Walk::Names, "no accessible name", nameless},
         {2, "chkCD", &Walk::Names, "is called", likeTree},
         {2, "lstAutoexec", &Walk::Names, "no accessible name", nameless},
         {3,
@@ -462,12 +465,16 @@ TEST_F(SpoiltControl, IsNoticed)
         {1, "txtTitle_0", &Walk::Contrast, "contrast", fade},
         {1, "TabStrip1", &Walk::Contrast, "contrast", fade},
         {1, "tabInfo", &Walk::Contrast, "contrast", fade},
+        {1, "TreeView1", &Walk::Contrast, "contrast", fade},
+        {1, "LVGamelist_icons", &Walk::Contrast, "contrast", fade},
         {1, "cmdRefresh", &Walk::TabOrder, "reach of the Tab", unreachable},
         {2, "lstAutoexec", &Walk::TabOrder, "reach of the Tab", unreachable},
         {5, "cmbDosboxMove", &Walk::TabOrder, "reach of the Tab", unreachable},
         {5, "txtDosboxPos_0", &Walk::TabOrder, "stands before it", first},
         {6, "cmdDownloadTools_3", &Walk::Overlaps, "overlaps", over},
     };
+    screens.progress.visible = true;
+    screens.progress.text = lang[5];
     for (const Case& c : cases) {
         SCOPED_TRACE(std::string(c.control) + ", " + c.what);
         Activate(c.tab);
@@ -482,6 +489,17 @@ TEST_F(SpoiltControl, IsNoticed)
         EXPECT_TRUE(notices());
         window.reset();
     }
+}
+
+TEST_F(SpoiltControl, IsNoticedInADialogToo)
+{
+    forms::frmFolderCFG folders(screens.folderCfg, lang, {});
+    folders.show();
+    EXPECT_EQ(Lines(Walk(folders).Names()), std::string());
+    auto* const frame = folders.findChild<QGroupBox*>();
+    ASSERT_NE(frame, nullptr);
+    frame->setTitle(QString());
+    EXPECT_EQ(Walk(folders).Names(), QStringList{frame->objectName() + u": no accessible name"_s});
 }
 
 } // namespace pelorin::test

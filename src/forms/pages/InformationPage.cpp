@@ -7,6 +7,7 @@
 #include "forms/OwnTexts.h"
 #include "forms/PictureFile.h"
 #include "forms/Pictures.h"
+#include "forms/Texts.h"
 
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -178,7 +179,6 @@ QLayout* InformationPage::BuildGenres()
 
 void InformationPage::Follow(std::uint32_t changed)
 {
-    const DetailsPanel& details = m_shown.screens.details;
     if ((changed & DetailsPanel::Texts) != 0) {
         ShowTexts();
     }
@@ -186,8 +186,7 @@ void InformationPage::Follow(std::uint32_t changed)
         ShowDraft();
     }
     if ((changed & DetailsPanel::Genres) != 0) {
-        m_lblGenreK->setText(shell::MenuTitle(details.lblGenreK));
-        m_lblGenreE->setText(shell::MenuTitle(details.lblGenreE));
+        ShowGenres();
     }
     if ((changed & DetailsPanel::Icon) != 0) {
         ShowIcon();
@@ -196,6 +195,23 @@ void InformationPage::Follow(std::uint32_t changed)
         QLineEdit* const title = m_txtTitle[m_shown.settings.TitleLanguageKorean ? 0 : 1];
         title->setFocus();
         title->selectAll();
+    }
+}
+
+/// A genre's button is known by what the genre is of, and tells all of what it may have to shorten.
+void InformationPage::ShowGenres()
+{
+    const DetailsPanel& details = m_shown.screens.details;
+    struct Row {
+        QToolButton* button;
+        const QString& genre;
+        int caption;
+    };
+    for (const Row& row :
+         {Row{m_lblGenreK, details.lblGenreK, 30}, Row{m_lblGenreE, details.lblGenreE, 13}}) {
+        row.button->setText(shell::MenuTitle(row.genre));
+        row.button->setAccessibleName(m_shown.lang[row.caption] + u": "_s + row.genre);
+        row.button->setToolTip(AsToolTip(row.genre));
     }
 }
 
@@ -241,6 +257,7 @@ void InformationPage::ShowInfoState()
 
 void InformationPage::TakeTexts()
 {
+    ShowGenres();
     ShowInfoState();
     m_media->TakeTexts();
 }

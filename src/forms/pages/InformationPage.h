@@ -30,6 +30,7 @@ private:
     QLayout* BuildGenres();
     QLayout* BuildInfoHead();
     void BuildInfo();
+    void ShowGenres();
     void ShowTexts();
     void ShowInfoState();
     void ShowDraft();
