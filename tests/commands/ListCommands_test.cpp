@@ -93,6 +93,53 @@ TEST(ListCommands, AFolderThatIsGoneIsToldAndNothingOpens)
     EXPECT_EQ(launcher->screens.list.items.size(), 2U);
 }
 
+TEST(ListCommands, TheMenusStartDeleteAndReadAnew)
+{
+    Installation app;
+    app.AddGame(u"하나"_s);
+    const auto launcher = app.Start();
+    Click(*launcher, u"하나"_s);
+    for (const int index : {10, 18}) {
+        app.fakes.prompts.WillAnswer(Answer::No);
+        library::mnuGame_Click(*launcher, index);
+        EXPECT_EQ(app.fakes.prompts.Asked().back().title, u"게임 삭제"_s) << index;
+    }
+    app.fakes.prompts.WillType(u"192.168.0.2"_s); // of the host, which the client asks for
+    const std::pair<int, QString> starts[] = {
+        {0, u"game.com"_s},
+        {1, u"MDIR"_s},
+        {3, u"ipxnet startserver"_s},
+        {4, u"ipxnet connect 192.168.0.2"_s}};
+    std::size_t started = 0;
+    for (const auto& [index, text] : starts) {
+        library::mnuGame_Click(*launcher, index);
+        ASSERT_EQ(app.fakes.processes.Starts().size(), ++started) << index;
+        EXPECT_PRED2(test::Holds, app.folder.ReadText(u"DOSBox/0.74_SVN/dosbox.conf"_s), text);
+    }
+    app.AddGame(u"둘"_s);
+    library::mnuFolder_Click(*launcher, 6);
+    EXPECT_EQ(launcher->catalogue.size(), 2U);
+}
+
+TEST(ListCommands, F2LeadsToTheTitleUnlessAJobStands)
+{
+    Installation app;
+    app.AddGame(u"하나"_s);
+    const auto launcher = app.Start();
+    bool focused = false;
+    launcher->screens.details.changed.SetListener([&](std::uint32_t changed) {
+        focused = focused || (changed & shell::DetailsPanel::FocusTitle) != 0;
+    });
+    launcher->screens.frame.tabInfo = 3;
+    launcher->flags.JobHeld = true;
+    library::FocusTitle(*launcher);
+    EXPECT_EQ(launcher->screens.frame.tabInfo, 3);
+    launcher->flags.JobHeld = false;
+    library::FocusTitle(*launcher);
+    EXPECT_EQ(launcher->screens.frame.tabInfo, 1);
+    EXPECT_TRUE(focused);
+}
+
 TEST(ListCommands, TheGameMenuTakesOverTheSelectionAndTheBatch)
 {
     Installation app;
