@@ -199,6 +199,38 @@ TEST_F(RealRunModes, TheEmulatorIsPutWhereTheBoxesSayAfterAStartAndByEnter)
     EXPECT_TRUE(SeeEmulatorAndEndIt());
 }
 
+TEST_F(RealRunModes, WhatIsChosenOnThePagesIsSavedAndStarted)
+{
+    const QString meta = u"Games/별 헤는 밤 (Star) [1]/DOSBOX/"_s;
+    m_person.Click(Place(-35, 96)); // the page of start commands
+    QTest::qWait(300);
+    m_person.Click(Place(-236, 263)); // cmdAddEmpty
+    m_person.Click(Place(-135, 263)); // cmdUp
+    m_person.Click(Place(-111, 23));  // cmdSaveExec
+    EXPECT_TRUE(Waits([&] {
+        return m_app.ReadRaw(meta + u"autoexec.conf"_s) == "REM\r\ngame.com\r\n";
+    })) << m_app.ReadRaw(meta + u"autoexec.conf"_s).toStdString();
+    m_person.Click(Place(-35, 217)); // the page of the game's options
+    QTest::qWait(300);
+    m_person.Click(Place(-352, 22)); // chkEditConfig
+    // The third group from here, its third option, and the value above its own.
+    for (const auto& stroke : Words(u"ctrl+Tab ctrl+Tab ctrl+Tab Down Down Return Up Return"_s)) {
+        m_person.Key(stroke);
+    }
+    EXPECT_FALSE(m_app.Exists(meta + u"edit.conf"_s)) << "nothing is written before it is saved";
+    m_person.Click(Place(-288, 627)); // cmdSaveConfig
+    ASSERT_TRUE(Waits([&] { return m_app.Exists(meta + u"edit.conf"_s); }));
+    ASSERT_TRUE(ShowsTitle(u"별 헤는 밤 [편집]"_s));
+    m_person.Click(Place(300, 300)); // the list, below its rows
+    m_person.Key(u"Home"_s);
+    m_person.Key(u"Return"_s);
+    ASSERT_TRUE(Waits([&] { return m_app.Exists(u"Games/별 헤는 밤 (Star) [1]/READY.TXT"_s); }))
+        << m_pelorin->Output().toStdString();
+    EXPECT_TRUE(Conf().contains("\r\nmemsize=8\r\n"));
+    EXPECT_TRUE(Conf().contains("\r\nREM\r\ngame.com\r\n"));
+    EXPECT_TRUE(SeeEmulatorAndEndIt());
+}
+
 TEST_F(RealRunModes, AFileGetsWhatIsTypedWithBlanksAndQuotes)
 {
     m_person.Key(u"End"_s);
