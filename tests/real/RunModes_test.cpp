@@ -63,6 +63,21 @@ protected:
         }
         m_person.Key(u"Return"_s);
     }
+    void TypeInto(QPoint box, const QString& text) const
+    {
+        m_person.Click(box);
+        m_person.Key(u"ctrl+a"_s);
+        m_person.Type(text);
+    }
+    /// On the page of settings: where an emulator is to be put after a start.
+    void AskForPlacement(const QString& across, const QString& down) const
+    {
+        m_person.Click(Place(-35, 267));
+        QTest::qWait(300);
+        TypeInto(Place(-293, 41), across);
+        TypeInto(Place(-190, 41), down);
+        m_person.Click(Place(-353, 95));
+    }
     bool Waits(const std::function<bool()>& condition) const
     {
         return QTest::qWaitFor(condition, kStepMs);
@@ -173,18 +188,8 @@ TEST_F(RealRunModes, TheMenuStartsTheGameAndThePromptWhoseFileManagerStartsAProg
 
 TEST_F(RealRunModes, TheEmulatorIsPutWhereTheBoxesSayAfterAStartAndByEnter)
 {
-    const auto type = [&](QPoint box, const QString& text) {
-        m_person.Click(box);
-        m_person.Key(u"ctrl+a"_s);
-        m_person.Type(text);
-    };
-    m_person.Click(Place(-35, 267)); // the page of settings
-    QTest::qWait(300);
-    const QPoint across = Place(-293, 41);
-    type(across, u"210"_s);
-    type(Place(-190, 41), u"140"_s);
-    m_person.Click(Place(-353, 95)); // to be moved after a start, in five seconds
-    m_person.Click(Place(300, 300)); // the list, below its rows
+    AskForPlacement(u"210"_s, u"140"_s); // in five seconds
+    m_person.Click(Place(300, 300));     // the list, below its rows
     m_person.Key(u"Home"_s);
     m_person.Key(u"Return"_s);
     ASSERT_TRUE(Waits([&] { return m_app.Exists(u"Games/별 헤는 밤 (Star) [1]/READY.TXT"_s); }))
@@ -193,9 +198,29 @@ TEST_F(RealRunModes, TheEmulatorIsPutWhereTheBoxesSayAfterAStartAndByEnter)
     ASSERT_TRUE(emulator.has_value());
     EXPECT_TRUE(Waits([&] { return m_person.Corner(*emulator) == QPoint(210, 140); }));
     ASSERT_TRUE(m_person.Activate(m_window, kStepMs));
-    type(across, u"-20"_s);
+    TypeInto(Place(-293, 41), u"-20"_s);
     m_person.Key(u"Return"_s);
     EXPECT_TRUE(Waits([&] { return m_person.Corner(*emulator) == QPoint(-20, 140); }));
+    EXPECT_TRUE(SeeEmulatorAndEndIt());
+}
+
+TEST_F(RealRunModes, AWindowThatOpensBehindTheDelayIsMissed)
+{
+    const QString build = u"DOSBox/0.74_SVN/dosbox"_s;
+    ASSERT_TRUE(QFile::remove(m_app.Path(build)));
+    m_app.WriteScript(build, u"sleep 3\nexec /usr/bin/dosbox \"$@\"\n"_s);
+    QFile script(m_app.Path(build));
+    ASSERT_TRUE(script.setPermissions(script.permissions() | QFile::ReadOther | QFile::ExeOther));
+    AskForPlacement(u"210"_s, u"140"_s);
+    m_person.Key(u"Tab"_s);
+    m_person.Key(u"Home"_s); // in one second
+    m_person.Click(Place(300, 300));
+    m_person.Key(u"Home"_s);
+    m_person.Key(u"Return"_s);
+    const auto emulator = m_person.WaitForWindow(kEmulator, kStepMs);
+    ASSERT_TRUE(emulator.has_value()) << m_pelorin->Output().toStdString();
+    ASSERT_TRUE(Waits([&] { return m_app.Exists(u"Games/별 헤는 밤 (Star) [1]/READY.TXT"_s); }));
+    EXPECT_NE(m_person.Corner(*emulator), QPoint(210, 140));
     EXPECT_TRUE(SeeEmulatorAndEndIt());
 }
 
