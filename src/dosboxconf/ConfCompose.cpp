@@ -1,5 +1,7 @@
 #include "dosboxconf/ConfCompose.h"
 
+#include "dosboxconf/Builds.h"
+
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -114,14 +116,10 @@ private:
 
     void WriteCycles(const QString& key, std::int32_t selected)
     {
-        if (m_facts.request.build == u"Win98"_s) {
+        if (m_facts.request.build == kWin98) {
             WriteValue(key, u"max 105%"_s);
-        } else if (selected == 1) {
-            WriteValue(key, u"max"_s);
-        } else if (selected == 2) {
-            WriteValue(key, u"auto"_s);
-        } else if (selected > 2) {
-            WriteValue(key, QString::number(selected));
+        } else if (const QString cycles = CyclesText(selected); !cycles.isEmpty()) {
+            WriteValue(key, cycles);
         }
     }
 
@@ -239,11 +237,6 @@ void WriteNetwork(const ConfRequest& request, HostText& text)
 }
 
 } // namespace
-
-bool IsWin98Family(const QString& build)
-{
-    return build == u"Win98"_s || build == u"Win98_LCD"_s;
-}
 
 ConfText ComposeDosboxConf(const RunFacts& facts, const OptionGrid& grid)
 {

@@ -20,7 +20,4 @@ struct ConfText {
 /// pass over the keys that they don't know; CR LF throughout.
 ConfText ComposeDosboxConf(const RunFacts& facts, const OptionGrid& grid);
 
-/// The builds that boot Windows 98 and keep D: for it: "Win98" and "Win98_LCD".
-bool IsWin98Family(const QString& build);
-
 } // namespace pelorin::dosboxconf

@@ -6,6 +6,7 @@
 #include "dosboxconf/private/MetaFolder.h"
 #include "dosboxconf/private/StoredConf.h"
 #include "library/GameFiles.h"
+#include "library/GameInfo.h"
 #include "platform/Numbers.h"
 #include "platform/Paths.h"
 #include "platform/TextFile.h"
@@ -189,17 +190,6 @@ std::vector<Difference> DifferencesFrom(const Selection& global, const OptionGri
     return differences;
 }
 
-QString CycleText(std::int32_t selected)
-{
-    if (selected < 1) {
-        return QString();
-    }
-    if (selected == 1) {
-        return u"max"_s;
-    }
-    return selected == 2 ? u"auto"_s : QString::number(selected);
-}
-
 } // namespace
 
 QString ShownValue(const OptionGrid& grid, Cell cell, std::int32_t selected)
@@ -207,7 +197,7 @@ QString ShownValue(const OptionGrid& grid, Cell cell, std::int32_t selected)
     switch (grid.Kind(cell)) {
     case OptionKind::Index:
     case OptionKind::Mapper: return grid.ValueText(cell, selected);
-    case OptionKind::CpuCycle: return CycleText(selected);
+    case OptionKind::CpuCycle: return CyclesText(selected);
     case OptionKind::Text: return QString::number(selected);
     case OptionKind::SavePath:
     case OptionKind::Capture:
@@ -350,22 +340,23 @@ Outcome<ConfReport> SaveGameConf(
     return saved;
 }
 
-int ReadBuildLine(const QString& path)
+std::int16_t ReadDefaultBuild(const shell::Places& places, const OptionGrid& grid)
 {
-    const Outcome<QStringList> lines = platform::ReadFirstLines(path, 2);
-    return lines ? platform::IntegerPrefix(lines.Value().value(1)) : 0;
-}
-
-int ReadBuildIndex(const shell::Places& places, const QString& folder, const OptionGrid& grid)
-{
-    if (HasGameConf(places, folder)) {
-        return ReadBuildLine(GameConfPath(places, folder));
-    }
     const QString path = DefaultConfPath(places);
     if (!QFileInfo::exists(path) && !WriteConf(path, grid, FactorySelection(grid))) {
-        return FactorySelection(grid)[OptionGrid::Index(kVersionCell)];
+        return 0;
     }
-    return ReadBuildLine(path);
+    const Outcome<QStringList> lines = platform::ReadFirstLines(path, 2);
+    return lines ? library::BuildOf(lines.Value().value(1)) : std::int16_t{0};
+}
+
+std::int16_t ReadBuildIndex(
+    const shell::Places& places, const QString& folder, const OptionGrid& grid)
+{
+    const std::int16_t build = ReadDefaultBuild(places, grid);
+    return platform::IsPlainName(folder)
+               ? library::ReadBuild(library::ListGame(places, folder), build)
+               : build;
 }
 
 QString ReadGameBuild(const shell::Places& places, const QString& folder, const OptionGrid& grid)

@@ -84,13 +84,15 @@ LoadedConf LoadGameConf(
 platform::Outcome<ConfReport> SaveGameConf(
     const shell::Places& places, const QString& folder, OptionGrid& grid);
 
-/// The build of a game: the number in line 2 of its edit.conf, or else of Default.conf, which is
-/// generated with factory values if it is missing. 0 where the line can't be read. Reads the disk,
-/// so an unsaved choice does not count, and leaves the grid's selection alone.
-int ReadBuildIndex(const shell::Places& places, const QString& folder, const OptionGrid& grid);
+/// The build of all games: the number in line 2 of Default.conf, which is generated with factory
+/// values if it is missing. 0 where it can't be read. Reads the disk, so an unsaved choice does not
+/// count, and leaves the grid's selection alone.
+std::int16_t ReadDefaultBuild(const shell::Places& places, const OptionGrid& grid);
 
-/// Line 2 of one file as a number, for a caller who knows the path. 0 where it can't be read.
-int ReadBuildLine(const QString& path);
+/// The same of a game: line 2 of its edit.conf, or that of all games where there is none or it can't
+/// be read.
+std::int16_t ReadBuildIndex(
+    const shell::Places& places, const QString& folder, const OptionGrid& grid);
 
 /// The build's name; empty where the index lies outside the list of builds.
 QString ReadGameBuild(const shell::Places& places, const QString& folder, const OptionGrid& grid);

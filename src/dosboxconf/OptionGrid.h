@@ -77,4 +77,16 @@ struct OptionGrid {
     static std::size_t Index(Cell cell) { return static_cast<std::size_t>(Position(cell)); }
 };
 
+/// A selection of the option "cycles" as it is shown and written; empty for none.
+inline QString CyclesText(std::int32_t selected)
+{
+    if (selected < 1) {
+        return QString();
+    }
+    if (selected == 1) {
+        return QStringLiteral("max");
+    }
+    return selected == 2 ? QStringLiteral("auto") : QString::number(selected);
+}
+
 } // namespace pelorin::dosboxconf

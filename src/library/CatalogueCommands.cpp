@@ -34,8 +34,8 @@ constexpr auto kCategory = "pelorin.library";
 
 ReadingRules RulesOf(const Launcher& launcher)
 {
-    const int build = dosboxconf::ReadBuildIndex(launcher.places, QString(), launcher.options);
-    return ReadingRules{launcher.lang, static_cast<std::int16_t>(build)};
+    return ReadingRules{
+        launcher.lang, dosboxconf::ReadDefaultBuild(launcher.places, launcher.options)};
 }
 
 void TellTroubles(Launcher& launcher, const Troubles& troubles)

@@ -373,15 +373,17 @@ platform::Done WriteGenre(GameFiles& files, GenreFile which, const QString& genr
     return WriteMetaLines(files, GenreFileName(which), {CleanField(genre)});
 }
 
+std::int16_t BuildOf(const QString& line)
+{
+    using Limits = std::numeric_limits<std::int16_t>;
+    const std::int32_t build = platform::IntegerPrefix(line);
+    return static_cast<std::int16_t>(std::clamp<std::int32_t>(build, Limits::min(), Limits::max()));
+}
+
 std::int16_t ReadBuild(const GameFiles& files, std::int16_t defaultBuild, Troubles* troubles)
 {
     const std::optional<QStringList> lines = FirstLines(files, u"edit.conf"_s, 2, troubles);
-    if (!lines) {
-        return defaultBuild;
-    }
-    using Limits = std::numeric_limits<std::int16_t>;
-    const std::int32_t build = platform::IntegerPrefix(lines->value(1));
-    return static_cast<std::int16_t>(std::clamp<std::int32_t>(build, Limits::min(), Limits::max()));
+    return lines ? BuildOf(lines->value(1)) : defaultBuild;
 }
 
 } // namespace pelorin::library

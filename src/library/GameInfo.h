@@ -106,6 +106,9 @@ platform::Done DeleteFacts(GameFiles& files);
 Genres ReadGenres(GameFiles& files, GenreForm form, Troubles& troubles);
 platform::Done WriteGenre(GameFiles& files, GenreFile which, const QString& genre);
 
+/// The index of a build as a settings file has it, kept within 16 bits. 0 for no number.
+std::int16_t BuildOf(const QString& line);
+
 /// Line 2 of edit.conf as a number, which is the index of the game's build; `defaultBuild` without
 /// a readable edit.conf. A missing line counts as 0; beyond 16 bits the value is clamped.
 std::int16_t ReadBuild(

@@ -1,6 +1,7 @@
 #include "library/ListCommands.h"
 
 #include "archives/FileOperations.h"
+#include "dosboxconf/Builds.h"
 #include "dosboxconf/ConfFiles.h"
 #include "library/CatalogueCommands.h"
 #include "library/DeleteCommands.h"
@@ -158,9 +159,9 @@ shell::MenuModel mnuGame_Popup(Launcher& launcher, bool hasDetails)
     GameMenuFacts facts;
     facts.selected = static_cast<int>(games.size());
     facts.title = launcher.current.CurrentTitle;
-    facts.windowsGame =
-        dosboxconf::ReadGameBuild(
-            launcher.places, launcher.current.CurrentFolder, launcher.options) == u"Windows"_s;
+    facts.windowsGame = dosboxconf::KindOf(dosboxconf::ReadGameBuild(
+                            launcher.places, launcher.current.CurrentFolder, launcher.options)) ==
+                        dosboxconf::BuildKind::Windows;
     for (const MenuCommand& command : kGameCommands) {
         facts.commands << command.index;
     }

@@ -1,5 +1,6 @@
 #include "running/DosboxLaunch.h"
 
+#include "dosboxconf/Builds.h"
 #include "running/GuestCommand.h"
 #include "running/RunPlan.h"
 
@@ -18,8 +19,6 @@ using platform::Error;
 using platform::ErrorKind;
 using platform::PathForm;
 using platform::Wording;
-
-constexpr auto kWin98 = "Win98"_L1;
 
 bool BreaksItsLine(QChar c)
 {
@@ -100,7 +99,7 @@ platform::Done CheckAutoexec(const QByteArray& printed)
 /// What the guest is to run. A guest Windows runs none of the start commands.
 QStringList TypedCommands(const RunRequest& request, const QString& build)
 {
-    if (IsGuestWindows(build) && request.mode != RunMode::FileWithArgs) {
+    if (dosboxconf::IsGuestWindows(build) && request.mode != RunMode::FileWithArgs) {
         return {};
     }
     switch (request.mode) {
@@ -130,7 +129,7 @@ platform::Done CheckRequest(const RunRequest& request, const QString& build)
 
 platform::Done CheckCommands(const RunRequest& request, const QString& build, PathForm form)
 {
-    if (build == kWin98 && request.mode != RunMode::LibraryShell) {
+    if (build == dosboxconf::kWin98 && request.mode != RunMode::LibraryShell) {
         const QString disk = request.startCommands.mid(0, 2).join(u' ');
         if (std::any_of(disk.begin(), disk.end(), BreaksItsLine)) {
             return BrokenName(disk);

@@ -1,5 +1,6 @@
 #include "running/GlideIni.h"
 
+#include "dosboxconf/Builds.h"
 #include "platform/TextFile.h"
 
 #include <QFileInfo>
@@ -12,23 +13,17 @@ namespace {
 
 using dosboxconf::OptionGrid;
 
-const QString kWin98 = u"Win98"_s;
-
 QString Resolution(const OptionGrid& grid, bool fullscreen)
 {
-    struct Row {
-        QStringView start;
-        QStringView width;
-    };
-    static constexpr Row kRows[] = {{u"640", u"640"}, {u"800", u"800"}, {u"1280", u"1280"}};
-    if (grid.SelectedText(dosboxconf::kVersionCell) == kWin98) {
+    static constexpr QStringView kWidths[] = {u"640", u"800", u"1280"};
+    if (grid.SelectedText(dosboxconf::kVersionCell) == dosboxconf::kWin98) {
         return u"640"_s;
     }
     const QString text = grid.SelectedText(
         fullscreen ? dosboxconf::kFullresolutionCell : dosboxconf::kWindowresolutionCell);
-    for (const Row& row : kRows) {
-        if (text.startsWith(row.start)) {
-            return row.width.toString();
+    for (const QStringView width : kWidths) {
+        if (text.startsWith(width)) {
+            return width.toString();
         }
     }
     return u"1024"_s;
@@ -74,7 +69,7 @@ QStringList GlideLines(const OptionGrid& grid)
 platform::Done WriteGlideIni(const shell::Places& places, const OptionGrid& grid)
 {
     const QString build = grid.SelectedText(dosboxconf::kVersionCell);
-    const QString folder = build == kWin98 ? u"0.74_SVN"_s : build;
+    const QString folder = build == dosboxconf::kWin98 ? dosboxconf::kHostBuild.toString() : build;
     const QString path = places.InAppDir(u"DOSBox/"_s + folder + u"/glide.ini"_s);
     if (folder.isEmpty() || !QFileInfo(path).isFile()) {
         return platform::Success();

@@ -20,11 +20,13 @@
 #include <QFileInfo>
 
 #include <optional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace pelorin::running {
 
+using platform::HostText;
 using platform::Outcome;
 using shell::Launcher;
 
@@ -42,27 +44,58 @@ struct Launch {
     QList<platform::Wording> notes;
 };
 
-/// Composes and checks without writing anything. A missing program is no error yet.
+Emulator FindEmulator(const Launcher& launcher, RunMode mode, const QString& build)
+{
+    const CommandLine command = DosboxCommandLine(launcher.options);
+    const QString folder = launcher.places.InAppDir(u"DOSBox/"_s + ConfigFolder(mode, build));
+    const QString asked = platform::ResolvePath(folder, command.program);
+    const platform::ProgramHost host(launcher.places.appDir, launcher.searchPath);
+    Emulator emulator{folder, command.arguments, host.Find(asked), platform::PathForm::Posix};
+    if (emulator.program) {
+        emulator.pathForm = emulator.program.Value().pathForm;
+    } else if (QFileInfo::exists(asked)) {
+        emulator.pathForm = platform::PathForm::Windows; // that can't be run here
+    }
+    return emulator;
+}
+
+/// By the grid as it is and the keyboard's NumLock.
+RunEnding EndingOf(const Launcher& launcher, const RunRequest& request, const QString& build)
+{
+    RunEnding ending{request.mode, request.startCommands, request.typedLine, false, {}};
+    ending.addkey = WantsAddkey(
+        request.mode,
+        launcher.options,
+        launcher.places.gamesRoot,
+        launcher.ports.desktop.NumLockOn());
+    if (BranchOf(request.mode, build, request.startCommands.size()) == RunBranch::GuestWindows) {
+        ending.guestLines = GuestWindowsLines(request, build, launcher.places);
+    }
+    return ending;
+}
+
+void LoadSettings(Launcher& launcher, const RunRequest& request)
+{
+    const bool ofAllGames = request.mode == RunMode::LibraryShell;
+    dosboxconf::TellReport(
+        launcher,
+        dosboxconf::LoadGameConf(
+            launcher.places, ofAllGames ? QString() : request.folder, launcher.options)
+            .report);
+}
+
+/// Writes nothing. A missing program is no error yet.
 Outcome<Launch> PrepareLaunch(Launcher& launcher, const RunRequest& request, const QString& build)
 {
-    const dosboxconf::RunFacts facts =
-        dosboxconf::LoadRunFacts(launcher.places, ConfRequestOf(request, build));
-    const Outcome<dosboxconf::ConfText> composed = BuildDosboxConf(launcher, request, facts);
+    LoadSettings(launcher, request);
+    const Outcome<ComposedStart> composed = ComposeStart(launcher, request, build);
     if (!composed) {
         return composed.Failure();
     }
-    const Emulator emulator = FindEmulator(launcher, request.mode, build);
+    const auto& [emulator, text, glideOn] = composed.Value();
     const platform::PathForm form = emulator.pathForm;
-    if (const platform::Done possible = CheckCommands(request, build, form); !possible) {
-        return possible.Failure();
-    }
-    const platform::HostText text =
-        FinishRunText(composed.Value().text, EndingOf(launcher, request, build));
-    if (const platform::Done fits = CheckLaunch(facts, text, form); !fits) {
-        return fits.Failure();
-    }
     Launch launch{
-        composed.Value().glideOn,
+        glideOn,
         platform::ProcessRequest(),
         platform::ResolvePath(emulator.folder, u"dosbox.conf"_s),
         text.Print(form),
@@ -151,51 +184,36 @@ void WriteAndStart(Launcher& launcher, const RunRequest& request, const QString&
 
 } // namespace
 
-Emulator FindEmulator(const Launcher& launcher, RunMode mode, const QString& build)
-{
-    const CommandLine command = DosboxCommandLine(launcher.options);
-    const QString folder = launcher.places.InAppDir(u"DOSBox/"_s + ConfigFolder(mode, build));
-    const QString asked = platform::ResolvePath(folder, command.program);
-    const platform::ProgramHost host(launcher.places.appDir, launcher.searchPath);
-    Emulator emulator{folder, command.arguments, host.Find(asked), platform::PathForm::Posix};
-    if (emulator.program) {
-        emulator.pathForm = emulator.program.Value().pathForm;
-    } else if (QFileInfo::exists(asked)) {
-        emulator.pathForm = platform::PathForm::Windows; // that can't be run here
-    }
-    return emulator;
-}
-
-RunEnding EndingOf(const Launcher& launcher, const RunRequest& request, const QString& build)
-{
-    RunEnding ending{request.mode, request.startCommands, request.typedLine, false, {}};
-    ending.addkey = WantsAddkey(
-        request.mode,
-        launcher.options,
-        launcher.places.gamesRoot,
-        launcher.ports.desktop.NumLockOn());
-    if (BranchOf(request.mode, build, request.startCommands.size()) == RunBranch::GuestWindows) {
-        ending.guestLines = GuestWindowsLines(request, build, launcher.places);
-    }
-    return ending;
-}
-
 Outcome<dosboxconf::ConfText> BuildDosboxConf(
-    Launcher& launcher, const RunRequest& request, const dosboxconf::RunFacts& facts)
+    Launcher& launcher, const RunRequest& request, const QString& build)
 {
-    if (const platform::Done possible = CheckRequest(request, facts.request.build); !possible) {
+    if (const platform::Done possible = CheckRequest(request, build); !possible) {
         return possible.Failure();
     }
-    const bool hasOwn = dosboxconf::HasGameConf(launcher.places, request.folder);
-    if (UsesGlobalConf(request.mode, hasOwn)) {
-        dosboxconf::TellReport(
-            launcher, dosboxconf::ReadDefaultConf(launcher.places, launcher.options));
-    } else {
-        dosboxconf::TellReport(
-            launcher,
-            dosboxconf::LoadGameConf(launcher.places, request.folder, launcher.options).report);
+    LoadSettings(launcher, request);
+    return dosboxconf::ComposeDosboxConf(
+        dosboxconf::LoadRunFacts(launcher.places, ConfRequestOf(request, build)), launcher.options);
+}
+
+Outcome<ComposedStart> ComposeStart(
+    const Launcher& launcher, const RunRequest& request, const QString& build)
+{
+    if (const platform::Done possible = CheckRequest(request, build); !possible) {
+        return possible.Failure();
     }
-    return dosboxconf::ComposeDosboxConf(facts, launcher.options);
+    Emulator emulator = FindEmulator(launcher, request.mode, build);
+    const platform::PathForm form = emulator.pathForm;
+    if (const platform::Done possible = CheckCommands(request, build, form); !possible) {
+        return possible.Failure();
+    }
+    const dosboxconf::RunFacts facts =
+        dosboxconf::LoadRunFacts(launcher.places, ConfRequestOf(request, build));
+    const dosboxconf::ConfText composed = dosboxconf::ComposeDosboxConf(facts, launcher.options);
+    HostText text = FinishRunText(composed.text, EndingOf(launcher, request, build));
+    if (const platform::Done fits = CheckLaunch(facts, text, form); !fits) {
+        return fits.Failure();
+    }
+    return ComposedStart{std::move(emulator), std::move(text), composed.glideOn};
 }
 
 void LaunchDosbox(Launcher& launcher, const RunRequest& request, const QString& build)

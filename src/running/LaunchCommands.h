@@ -18,10 +18,10 @@ struct Launcher;
 
 namespace pelorin::running {
 
-/// The text of a start: loads the configuration of the run into the grid, which keeps it, and
-/// composes. `facts` are those of the request. Error Refused when it can't become a text.
+/// The text of a start without its ending: loads the configuration of the run into the grid, which
+/// keeps it, and composes. Error Refused when it can't become a text.
 platform::Outcome<dosboxconf::ConfText> BuildDosboxConf(
-    shell::Launcher& launcher, const RunRequest& request, const dosboxconf::RunFacts& facts);
+    shell::Launcher& launcher, const RunRequest& request, const QString& build);
 
 /// What a start runs, by the build and the grid as it is.
 struct Emulator {
@@ -30,10 +30,16 @@ struct Emulator {
     platform::Outcome<platform::HostProgram> program;        // or why there is none
     platform::PathForm pathForm = platform::PathForm::Posix; // of the paths in its dosbox.conf
 };
-Emulator FindEmulator(const shell::Launcher& launcher, RunMode mode, const QString& build);
 
-/// How the text of a start ends, by the grid as it is and the keyboard's NumLock.
-RunEnding EndingOf(
+/// What a start comes to with the settings in the grid as they are.
+struct ComposedStart {
+    Emulator emulator;       // may have no program
+    platform::HostText text; // the whole of dosbox.conf
+    bool glideOn = false;    // glide.ini is to be rewritten
+};
+
+/// Composes and checks, and writes nothing. Error Refused for what the emulator would choke on.
+platform::Outcome<ComposedStart> ComposeStart(
     const shell::Launcher& launcher, const RunRequest& request, const QString& build);
 
 /// Composes, writes dosbox.conf (and glide.ini) into the folder of the build and starts the emulator

@@ -1,9 +1,7 @@
 #include "running/PreviewCommands.h"
 
-#include "dosboxconf/ConfCompose.h"
 #include "library/TitleMarks.h"
 #include "platform/Paths.h"
-#include "running/DosboxLaunch.h"
 #include "running/LaunchCommands.h"
 #include "running/RunPlan.h"
 #include "shell/Launcher.h"
@@ -51,25 +49,15 @@ platform::Outcome<QString> PreviewGameText(const shell::Launcher& launcher)
     case RunBranch::AskForPrompt: request.mode = RunMode::DosPrompt; break;
     default: return QString();
     }
-    if (const platform::Done possible = CheckRequest(request, build); !possible) {
-        return possible.Failure();
+    const platform::Outcome<ComposedStart> start = ComposeStart(launcher, request, build);
+    if (!start) {
+        return start.Failure();
     }
-    const Emulator emulator = FindEmulator(launcher, request.mode, build);
+    const Emulator& emulator = start.Value().emulator;
     if (!emulator.program && !QFileInfo(emulator.folder).isDir()) {
         return emulator.program.Failure(); // no folder to write into
     }
-    const platform::PathForm form = emulator.pathForm;
-    if (const platform::Done possible = CheckCommands(request, build, form); !possible) {
-        return possible.Failure();
-    }
-    const dosboxconf::RunFacts facts =
-        dosboxconf::LoadRunFacts(launcher.places, ConfRequestOf(request, build));
-    const platform::HostText composed = dosboxconf::ComposeDosboxConf(facts, launcher.options).text;
-    const platform::HostText text = FinishRunText(composed, EndingOf(launcher, request, build));
-    if (const platform::Done fits = CheckLaunch(facts, text, form); !fits) {
-        return fits.Failure();
-    }
-    return text.Preview(form);
+    return start.Value().text.Preview(emulator.pathForm);
 }
 
 } // namespace pelorin::running

@@ -129,10 +129,8 @@ bool AskForArguments(Launcher& launcher, RunRequest& request)
 /// Processes the settings before anything is asked: what can't become a text is told at once.
 bool ProcessSettings(Launcher& launcher, const RunRequest& request, const QString& build)
 {
-    const platform::Outcome<dosboxconf::ConfText> composed = BuildDosboxConf(
-        launcher,
-        request,
-        dosboxconf::LoadRunFacts(launcher.places, ConfRequestOf(request, build)));
+    const platform::Outcome<dosboxconf::ConfText> composed =
+        BuildDosboxConf(launcher, request, build);
     if (!composed) {
         shell::TellNote(launcher, kCategory, composed.Failure());
         return false;

@@ -1,7 +1,6 @@
 #include "running/RunPlan.h"
 
-#include <algorithm>
-#include <iterator>
+#include "dosboxconf/Builds.h"
 
 using namespace Qt::StringLiterals;
 
@@ -9,16 +8,11 @@ namespace pelorin::running {
 
 namespace {
 
+using dosboxconf::BuildKind;
 using dosboxconf::OptionGrid;
 using platform::HostText;
 
 constexpr auto kEnd = "\r\n"_L1;
-
-template <std::size_t Count>
-bool IsOneOf(const QString& name, const QStringView (&names)[Count])
-{
-    return std::find(std::begin(names), std::end(names), name) != std::end(names);
-}
 
 bool StartsCommands(RunMode mode)
 {
@@ -62,18 +56,6 @@ void EndWithCommands(const RunEnding& ending, HostText& text)
 
 } // namespace
 
-bool IsOtherEmulator(const QString& build)
-{
-    static constexpr QStringView kNames[] = {u"ANEX86", u"SNES9X", u"FUSION", u"NP21", u"M88"};
-    return IsOneOf(build, kNames);
-}
-
-bool IsGuestWindows(const QString& build)
-{
-    static constexpr QStringView kNames[] = {u"Win31KOR", u"Win31ENG", u"Win98"};
-    return IsOneOf(build, kNames);
-}
-
 RunBranch BranchOf(RunMode mode, const QString& build, qsizetype startCommands)
 {
     if (mode == RunMode::LibraryShell) {
@@ -82,27 +64,23 @@ RunBranch BranchOf(RunMode mode, const QString& build, qsizetype startCommands)
     if (build.isEmpty()) {
         return RunBranch::NoSuchBuild;
     }
-    if (build == u"Windows"_s) {
-        return WindowsBranch(mode);
-    }
-    if (IsOtherEmulator(build)) {
+    switch (dosboxconf::KindOf(build)) {
+    case BuildKind::Windows: return WindowsBranch(mode);
+    case BuildKind::OtherEmulator:
         return mode == RunMode::Game ? RunBranch::OtherEmulator : RunBranch::Nothing;
+    case BuildKind::GuestWindows: return GuestBranch(mode);
+    case BuildKind::Windows98Lcd: return RunBranch::Dos;
+    case BuildKind::Dosbox: break;
     }
-    if (IsGuestWindows(build)) {
-        return GuestBranch(mode);
-    }
-    if (StartsCommands(mode) && startCommands == 0 && build != u"Win98_LCD"_s) {
-        return RunBranch::AskForPrompt;
-    }
-    return RunBranch::Dos;
+    return StartsCommands(mode) && startCommands == 0 ? RunBranch::AskForPrompt : RunBranch::Dos;
 }
 
 QString ConfigFolder(RunMode mode, const QString& build)
 {
     if (mode == RunMode::LibraryShell) {
-        return build == u"Win98"_s ? build : u"0.74_SVN"_s;
+        return build == dosboxconf::kWin98 ? build : dosboxconf::kHostBuild.toString();
     }
-    return IsGuestWindows(build) ? u"0.74_SVN"_s : build;
+    return dosboxconf::IsGuestWindows(build) ? dosboxconf::kHostBuild.toString() : build;
 }
 
 QString CommandLine::Reference() const

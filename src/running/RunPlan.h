@@ -31,11 +31,6 @@ enum class RunBranch {
 
 RunBranch BranchOf(RunMode mode, const QString& build, qsizetype startCommands);
 
-/// "ANEX86", "SNES9X", "FUSION", "NP21", "M88".
-bool IsOtherEmulator(const QString& build);
-/// "Win31KOR", "Win31ENG", "Win98". "Win98_LCD" is a DOS build with Windows 98's drive letters.
-bool IsGuestWindows(const QString& build);
-
 /// The folder below AppDir\DOSBox that runs a build and takes its dosbox.conf: guests run under
 /// "0.74_SVN", and so does the library shell, except for "Win98".
 QString ConfigFolder(RunMode mode, const QString& build);

@@ -2,11 +2,6 @@
 
 namespace pelorin::running {
 
-bool UsesGlobalConf(RunMode mode, bool hasGameConf)
-{
-    return mode == RunMode::LibraryShell || !hasGameConf;
-}
-
 dosboxconf::ConfRequest ConfRequestOf(const RunRequest& request, const QString& build)
 {
     dosboxconf::ConfRequest conf;

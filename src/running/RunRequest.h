@@ -29,9 +29,6 @@ struct RunRequest {
     int serverPort = dosboxconf::kIpxPort; // NetHost: what can be bound
 };
 
-/// The game's own settings are not looked at: LibraryShell, and a game without an edit.conf.
-bool UsesGlobalConf(RunMode mode, bool hasGameConf);
-
 /// What the request asks of the text, under the build's own name (a guest's too).
 dosboxconf::ConfRequest ConfRequestOf(const RunRequest& request, const QString& build);
 

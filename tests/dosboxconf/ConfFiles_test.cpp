@@ -417,6 +417,10 @@ TEST_F(GameConfTest, TheBuildIsLineTwoOfTheGamesFileOrElseOfTheGlobalOne)
         EXPECT_EQ(ReadBuildIndex(places, u"Star"_s, grid), c.index);
         EXPECT_EQ(ReadGameBuild(places, u"Star"_s, grid), c.name) << c.index;
     }
+    // A file that can't be read is as none, here as in the list and for what a start takes of it.
+    QFile::remove(folder.Path(editConf));
+    folder.MakeFolder(editConf);
+    EXPECT_EQ(ReadGameBuild(places, u"Star"_s, grid), u"0.74"_s);
     const std::pair<int, QString> cycles[] = {
         {0, QString()}, {1, u"max"_s}, {2, u"auto"_s}, {3, u"3"_s}};
     for (const auto& [value, shown] : cycles) {

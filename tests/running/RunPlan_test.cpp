@@ -77,8 +77,6 @@ TEST(RunPlanTest, GuestsAndTheLibraryRunUnderTheSvnBuild)
         EXPECT_EQ(ConfigFolder(RunMode::LibraryShell, c.build), c.ofTheLibrary) << c.build;
     }
     for (const RunMode mode : kModes) {
-        EXPECT_EQ(UsesGlobalConf(mode, true), mode == RunMode::LibraryShell);
-        EXPECT_TRUE(UsesGlobalConf(mode, false));
         const bool normal = ShowStateOf(mode) == platform::ShowState::Normal;
         EXPECT_EQ(normal, mode == RunMode::Game);
     }
