@@ -62,7 +62,7 @@ platform::Outcome<QByteArray> ReadPreset(const QString& path)
     if (!begins || !stored.whole) {
         return platform::Error::Worded(
             platform::ErrorKind::Malformed,
-            platform::Wording{458, u"<1> is no saved configuration."_s, {path}});
+            platform::Wording{458, u"<1> is not a saved configuration."_s, {path}});
     }
     return bytes;
 }

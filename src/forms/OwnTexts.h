@@ -52,7 +52,7 @@ inline constexpr OwnEntry kOwnSearchHint{409, u"Press Esc in the search box to e
 inline constexpr OwnEntry kOwnFilterHint{
     410, u"Take a check mark off on the left to see more games."};
 inline constexpr OwnEntry kOwnAddHint{
-    411, u"Put each game in a folder of its own in the games folder, then press F5."};
+    411, u"Put each game in a folder of its own in the games root, then press F5."};
 inline constexpr OwnEntry kOwnSave{430, u"Save"};
 inline constexpr OwnEntry kOwnDiscard{431, u"Discard"};
 inline constexpr OwnEntry kOwnDraft{432, u"Not saved"};
@@ -61,7 +61,7 @@ inline constexpr OwnEntry kOwnInfoCut{
 inline constexpr OwnEntry kOwnInfoUnreadable{
     434, u"The file of titles and description can't be read."};
 inline constexpr OwnEntry kOwnNoPicture{438, u"No pictures"};
-inline constexpr OwnEntry kOwnNotAPicture{439, u"This file is no picture that can be shown."};
+inline constexpr OwnEntry kOwnNotAPicture{439, u"This file is not a picture that can be shown."};
 inline constexpr OwnEntry kOwnPictureBroken{440, u"This picture is damaged."};
 inline constexpr OwnEntry kOwnPictureLarge{
     442, u"This picture is too large to be shown: <1> x <2>"};

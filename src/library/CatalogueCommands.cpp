@@ -60,7 +60,7 @@ void TellBeyondBound(Launcher& launcher, int folders)
     if (folders > 0) {
         const QString text = launcher.lang.OwnText(
             352,
-            u"Folders left out, the last by name: <1>. A library holds 32,767 games."_s,
+            u"Folders left out, the last by name: <1>. A library holds 32,767 games at most."_s,
             {QString::number(folders)});
         shell::TellNote(launcher, kCategory, text);
     }

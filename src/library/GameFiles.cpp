@@ -180,7 +180,7 @@ platform::Done MakeMetaDir(GameFiles& files)
     const QString name = kMetaDirName.toString();
     if (!files.game.Find(name).isEmpty()) {
         return Error::Worded(
-            ErrorKind::Refused, Wording{464, u"<1> is no folder."_s, {files.GamePath(name)}});
+            ErrorKind::Refused, Wording{464, u"<1> is not a folder."_s, {files.GamePath(name)}});
     }
     // Not with the folders above it: a game folder that has vanished must not come back.
     if (!QDir().mkdir(files.metaDir)) {

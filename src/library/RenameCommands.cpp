@@ -36,7 +36,7 @@ QString WhyNot(const Launcher& launcher, const QString& oldName, const QString& 
     if (!MayNameFolder(newName)) {
         return launcher.lang.OwnText(
             422,
-            u"<1>: no name for a game's folder: a point stands at an end or a blank last."_s,
+            u"<1>: the name of a game's folder can't begin with a dot, or end with a dot or a space."_s,
             {newName});
     }
     if (IsTaken(launcher, oldName, newName)) {
@@ -44,7 +44,9 @@ QString WhyNot(const Launcher& launcher, const QString& oldName, const QString& 
     }
     if (launcher.runningGames.contains(oldName)) {
         return launcher.lang.OwnText(
-            423, u"<1>: the game is running. Its folder can be renamed after that."_s, {oldName});
+            423,
+            u"<1>: the game is running. Its folder can be renamed once it has ended."_s,
+            {oldName});
     }
     return QString();
 }

@@ -53,7 +53,7 @@ Done DesktopShellVerbs::OpenUrl(const QString& url)
     const bool isWeb = address.scheme() == u"http" || address.scheme() == u"https";
     if (!isWeb || address.host().isEmpty()) {
         return Error::Worded(
-            ErrorKind::Refused, Wording{466, u"<1> is no address of the web."_s, {url}});
+            ErrorKind::Refused, Wording{466, u"<1> is not a web address."_s, {url}});
     }
     return Start(QString::fromLatin1(address.toEncoded()), QDir::rootPath());
 }

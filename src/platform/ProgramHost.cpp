@@ -87,7 +87,7 @@ std::optional<Wording> WhyNotNative(const QString& path)
         return std::nullopt;
     }
     return Wording{
-        394, u"<1> is no program of this system, or not marked as executable."_s, {path}};
+        394, u"<1> is not a program of this system, or not marked as executable."_s, {path}};
 }
 
 } // namespace

@@ -220,7 +220,8 @@ Done XdgBin::MoveToBin(const QString& path)
     if (!given.isAbsolute() || name.isEmpty() || name == u"." || name == u"..") {
         return Error::Worded(
             ErrorKind::Refused,
-            Wording{426, u"<1> is no full path and can't be moved to the recycle bin."_s, {path}});
+            Wording{
+                426, u"<1> is not a full path and can't be moved to the recycle bin."_s, {path}});
     }
     const QString source = RealPlace(given);
     if (source.isEmpty() || !SightOf(source)) {

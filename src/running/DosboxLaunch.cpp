@@ -92,7 +92,7 @@ platform::Done CheckAutoexec(const QByteArray& printed)
         ErrorKind::Refused,
         Wording{
             389,
-            u"The start commands make <1> bytes; DOSBox takes <2>. Fewer of them or fewer CD images help."_s,
+            u"The start commands come to <1> bytes; DOSBox takes <2>. Fewer of them or fewer CD images help."_s,
             {QString::number(bytes), QString::number(most)}});
 }
 

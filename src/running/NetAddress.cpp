@@ -45,7 +45,7 @@ platform::Outcome<QString> NetAddressOf(const QString& typed)
             platform::ErrorKind::Refused,
             platform::Wording{
                 341,
-                u"This is no address: <1>. A name or number is, with a port behind it if need be: 192.168.0.2 19900"_s,
+                u"<1> is not an address. Type the name or number of a computer, and a port after it if needed: 192.168.0.2 19900"_s,
                 {address.left(kMostCharacters).simplified()}});
     }
     return address;

@@ -39,7 +39,8 @@ QString WordsOf(const Launcher& launcher, RootFault fault, const QString& path)
     case RootFault::DriveRoot: return lang[107];
     case RootFault::InOneAnother:
         return lang.OwnText(
-            447, u"The games root and the export folder can't be the same or lie in each other."_s);
+            447,
+            u"The games root and the export folder can't be the same folder, and neither can lie in the other."_s);
     case RootFault::HoldsProgram:
         return lang.OwnText(
             448,

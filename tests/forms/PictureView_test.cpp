@@ -188,7 +188,8 @@ TEST_F(MediaTest, ThePictureFitsInShapeAndFollowsTheSize)
     screens.media.fileImages.row = 1;
     screens.media.changed.Tell(library::MediaPanel::ImageRow);
     EXPECT_EQ(shown(), QSize(-pic1->width(), -pic1->height())) << "nothing of the former one";
-    EXPECT_EQ(pic1->accessibleDescription(), u"b.png This file is no picture that can be shown."_s);
+    EXPECT_EQ(
+        pic1->accessibleDescription(), u"b.png This file is not a picture that can be shown."_s);
 }
 
 TEST_F(MediaTest, ListsAndPictureAreUsedByKeysAndMouse)

@@ -90,7 +90,7 @@ TEST_F(ProgramHostTest, WhatLiesBesideMustBeAProgram)
         (QStringList{m_folder.Path(u"games/Moon/MOON.EXE"_s), u"/w"_s}));
 
     m_folder.WriteRaw(u"app/tool"_s, "#!/bin/sh\n");
-    ExpectTrouble(u"tool.exe"_s, u"app/tool is no program"_s);
+    ExpectTrouble(u"tool.exe"_s, u"app/tool is not a program"_s);
     m_folder.WriteRaw(u"app/readme.txt"_s, "text");
     ExpectTrouble(u"readme.txt"_s, QString());
     m_folder.WriteScript(u"app/update.sh"_s, QString());
