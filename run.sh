@@ -25,7 +25,7 @@ if [ ! -f "data/$language/Language.dat" ]; then
 fi
 
 groups=(build run)
-[ -n "${DISPLAY:-}" ] || groups+=(test)
+[ -n "${DISPLAY:-}" ] || groups+=(screen)
 need_packages "${groups[@]}" </dev/null
 build_preset release -DPELORIN_LANGUAGE="$language"
 mkdir -p dist

@@ -18,6 +18,6 @@ if [ "${1-}" = --sanitize ]; then
     export UBSAN_OPTIONS=print_stacktrace=1
     export LSAN_OPTIONS=suppressions=$PWD/tests/lsan.supp:print_suppressions=0
 fi
-need_packages build run test </dev/null
+need_packages build run screen test </dev/null
 build_preset "$preset"
 ctest --preset "$preset" -j "$(nproc)" "$@"

@@ -11,9 +11,11 @@ packages_of() {
     run) # what the program starts, and what a window needs to look right (Korean, icons, file types)
         echo dosbox dosbox-debug 7zip libqt6svg6 fonts-nanum \
             xdg-utils file shared-mime-info ;;
-    test) # test libraries, what makes CD images and programs of Windows, what runs those, and a display without a monitor whose windows can be read and driven
+    screen) # a display without a monitor, whose windows can be driven and pictured
+        echo xvfb openbox xdotool imagemagick ;;
+    test) # test libraries, what makes CD images and programs of Windows, what runs those, and what reads the windows of a screen
         echo libgtest-dev libgmock-dev python3 genisoimage gcc-mingw-w64-x86-64 wine wine64 \
-            xvfb openbox xdotool wmctrl imagemagick x11-apps x11-utils xauth ;;
+            wmctrl x11-apps x11-utils ;;
     check) # formatting and linting
         echo git ccache clang-format-14 clang-tidy-14 ;;
     fuzz) # libFuzzer, and how much of a reader it reached
