@@ -49,6 +49,30 @@ as_root() {
     fi
 }
 
+# Installs the named packages; else says why not.
+install_packages() {
+    local status=0
+    if [ "$(id -u)" -ne 0 ] && ! command -v sudo >/dev/null; then
+        echo "That takes root or sudo, and here is neither." >&2
+        return 1
+    fi
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get -q update || status=$?
+    # apt-get itself fails with 100.
+    if [ "$status" -ne 0 ] && [ "$status" -ne 100 ]; then
+        echo "That takes root, and sudo did not give it." >&2
+        return 1
+    fi
+    if [ "$status" -ne 0 ]; then
+        echo "The package lists could not be fetched (is the network there?)." >&2
+        return 1
+    fi
+    if ! as_root env DEBIAN_FRONTEND=noninteractive \
+        apt-get -q install -y --no-install-recommends "$@"; then
+        echo "These packages could not be installed: $*" >&2
+        return 1
+    fi
+}
+
 # Installs what is missing of the named groups and says what it does. Status 1 when that is not
 # possible, with the command that would do it.
 need_packages() {
@@ -64,18 +88,10 @@ need_packages() {
     [ ${#missing[@]} -gt 0 ] || return 0
 
     echo "Installing ${#missing[@]} missing packages: ${missing[*]}"
-    if [ "$(id -u)" -ne 0 ] && ! command -v sudo >/dev/null; then
-        echo "That takes root or sudo, and here is neither. As root:" >&2
-        echo "  apt-get update && apt-get install --no-install-recommends ${missing[*]}" >&2
-        return 1
+    if install_packages "${missing[@]}"; then
+        return 0
     fi
-    if ! as_root env DEBIAN_FRONTEND=noninteractive apt-get -q update; then
-        echo "The package lists could not be fetched (is the network there?)." >&2
-        return 1
-    fi
-    if ! as_root env DEBIAN_FRONTEND=noninteractive \
-        apt-get -q install -y --no-install-recommends "${missing[@]}"; then
-        echo "These packages could not be installed: ${missing[*]}" >&2
-        return 1
-    fi
+    echo "As root:" >&2
+    echo "  apt-get update && apt-get install --no-install-recommends ${missing[*]}" >&2
+    return 1
 }
