@@ -38,5 +38,4 @@ if [ -n "${DISPLAY:-}" ]; then
 fi
 . tools/headless.sh
 start_display
-play_sample dist/Pelorin "$(cat samples/star/folder.txt)" \
-    "$(head -n 1 samples/star/files/DOSBOX/info.txt)"
+play_sample dist/Pelorin "$(cat samples/star/folder.txt)"

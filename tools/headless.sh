@@ -1,9 +1,7 @@
 # Driving Pelorin on a machine without a display. Meant to be sourced by bash.
 #   start_display            an X server of our own with a window manager; sets DISPLAY
-#   play_sample APP FOLDER TITLES
-#                            starts Pelorin in APP, starts the game in APP/Games/FOLDER by keys,
-#                            and leaves the picture of the whole screen in dist/run.png;
-#                            TITLES is the first line of its info.txt
+#   play_sample APP FOLDER   starts Pelorin in APP, starts the game in APP/Games/FOLDER by keys,
+#                            and leaves the picture of the whole screen in dist/run.png
 # Every wait has a limit; what fails says so and ends the script. What was started ends with it.
 
 started=()
@@ -94,28 +92,57 @@ let_settle() {
 press() { xdotool windowactivate --sync "$(pelorin_window)" key --clearmodifiers "$@"; }
 selected_title() { xdotool getwindowname "$(pelorin_window)"; }
 
-# Selects a game by the arrow keys, through the rows of the list, there and back. It is known by the
-# window's title, which begins with one of the two of its title line.
-select_game() {
-    local first=${1%$'\003'*} second=${1#*$'\003'} way=Right before
-    press Home
-    for _ in $(seq 200); do
-        before=$(selected_title)
-        [[ "$before" != "$first : "* && "$before" != "$second : "* ]] || return 0
-        press "$way"
-        sleep 0.2
-        [ "$(selected_title)" = "$before" ] || continue
-        [ "$way" = Right ] && way=Left || way=Right
-        press Down
-        sleep 0.2
-        [ "$(selected_title)" != "$before" ] || break
-    done
-    fail "the game \"$first\" is not in the list"
+# The titles of the game in this folder as the installation has them now, a line each.
+titles_of() {
+    local info line=""
+    info=$(find "$1" -mindepth 2 -maxdepth 2 -ipath '*/dosbox/info.txt' -print -quit)
+    [ -z "$info" ] || line=$(head -n 1 "$info" | tr -d '\r' | iconv -c -f CP949 -t UTF-8) || true
+    tr '\003' '\n' <<<"${line:-${1##*/}}"
 }
 
-# Presses Enter on the game of this title line until DOSBox shows a window.
+# Whether the game on hand has one of these titles. The window's title begins with its own, behind
+# which its marks may stand in brackets.
+is_selected() {
+    local shown title
+    shown=$(selected_title)
+    for title in "$@"; do
+        [[ "$shown" != "$title : "* && "$shown" != "$title ["* ]] || return 0
+    done
+    return 1
+}
+
+# Presses a key; status 1 when that leads to no other game.
+walk() {
+    local before
+    before=$(selected_title)
+    press "$1"
+    for _ in $(seq 10); do
+        sleep 0.05
+        [ "$(selected_title)" = "$before" ] || return 0
+    done
+    return 1
+}
+
+# Selects a game of one of these titles by the arrow keys, through the rows of the list, there and
+# back. It ends where the list does.
+select_game() {
+    local way=Right in_last_row=""
+    walk Home || true
+    until is_selected "$@"; do
+        walk "$way" && continue
+        [ "$way" = Right ] && way=Left || way=Right
+        walk Down && continue
+        # A last row that is shorter than the one above has to be entered at its end.
+        if [ -n "$in_last_row" ] || ! walk End; then
+            fail "the game \"$1\" is not in the list"
+        fi
+        in_last_row=yes way=Left
+    done
+}
+
+# Presses Enter on a game of one of these titles until DOSBox shows a window.
 start_game_by_keys() {
-    select_game "$1"
+    select_game "$@"
     for _ in 1 2 3; do
         press Return
         for _ in $(seq 75); do
@@ -135,7 +162,7 @@ colours_of_window() {
 }
 
 play_sample() {
-    local app=$1 folder=$2 titles=$3 ready=$1/Games/$2/READY.TXT pelorin colours
+    local app=$1 game=$1/Games/$2 ready=$1/Games/$2/READY.TXT pelorin colours titles
     rm -f "$ready"
     (cd "$app" && SDL_AUDIODRIVER=dummy QT_QPA_PLATFORM=xcb exec ./Pelorin) >dist/run.log 2>&1 &
     pelorin=$!
@@ -148,7 +175,8 @@ play_sample() {
         sleep 0.2
     done
     let_settle 10
-    start_game_by_keys "$titles"
+    mapfile -t titles < <(titles_of "$game")
+    start_game_by_keys "${titles[@]}"
     wait_for 60 "the game to say that it is up ($ready)" test -e "$ready"
     let_settle 10
     import -window root dist/run.png
