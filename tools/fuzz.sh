@@ -5,7 +5,7 @@
 #   FUZZ_SECONDS=600 tools/fuzz.sh    for ten minutes each
 # What they found on the way is kept in build/fuzz/corpus and is where the next run begins. An input
 # that breaks a promise lies in build/fuzz/crashes afterwards, and the status is 1; it is also when a
-# target reached less than 80 % of its reader's lines.
+# target reached less than 80 % of its reader's lines. A name that no target has ends it with status 2.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . tools/packages.sh
@@ -57,6 +57,13 @@ tell_target() {
             }'
 }
 
+targets=$(awk 'NF { print $1 }' <<<"$readers")
+for name in "$@"; do
+    if ! grep -qxF -- "$name" <<<"$targets"; then
+        echo "fuzz.sh: there is no target \"$name\"; there are: ${targets//$'\n'/ }" >&2
+        exit 2
+    fi
+done
 need_packages build fuzz </dev/null
 build_preset fuzz
 rm -rf build/fuzz/seeds
