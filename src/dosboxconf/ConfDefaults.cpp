@@ -14,8 +14,7 @@ struct Default {
     std::int32_t value = 0;
 };
 
-// Indexes into the value lists of option.dat, but for cycles (1 is "max") and the two steps of
-// the cycle keys.
+// Indexes into the value lists of option.dat, but for cycles (1 is "max").
 constexpr Default kDefaults[] = {
     {u"DirectX", 1},      {u"fullscreen", 1}, {u"windowresolution", 3},
     {u"output", 5},       {u"autolock", 1},   {u"sensitivity", 1},

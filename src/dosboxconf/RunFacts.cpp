@@ -43,7 +43,7 @@ RunFacts LoadRunFacts(const shell::Places& places, const ConfRequest& request)
     facts.safeTitle = SafeTitle(request.title);
     facts.gamesRoot = HostPathOf(places.gamesRoot);
     facts.gameDir = facts.gamesRoot.Below(folder);
-    // The reference spells the metadata folder in lower case, new ones are made as "DosBox".
+    // The Windows form spells the metadata folder in lower case, new ones are made as "DosBox".
     facts.metaDir = facts.gameDir.Below(u"dosbox"_s, LastPathSegment(places.MetaDir(folder)));
     facts.cdFolder = facts.metaDir.Below(u"CD"_s, OnDisk(places, folder, u"CD"_s));
     facts.ownMapper = facts.metaDir.Below(u"mapper.txt"_s, OnDisk(places, folder, u"mapper.txt"_s));

@@ -23,7 +23,7 @@ struct HostProgram {
         ShowState show = ShowState::Normal) const;
 };
 
-/// Decides how the programs of the reference system, named "X.exe", run here:
+/// Decides how programs that are named as on Windows, "X.exe", run here:
 ///
 ///   a native executable "X" in the folder of "X.exe" | that        | POSIX paths
 ///   any other "X.exe" that exists                    | Wine        | Windows paths
