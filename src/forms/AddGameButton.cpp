@@ -33,7 +33,7 @@ AddGameButton::AddGameButton(const Deeds& deeds, QWidget* parent)
     , m_deeds(deeds)
 {
     setObjectName(u"picAddGame"_s);
-    setIcon(PictureIcon(u"add-game"_s));
+    ShowPicture(true);
     const int side = SmallSide(*this);
     setIconSize(QSize(side, side));
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -53,6 +53,11 @@ void AddGameButton::StandOver(QWidget* place)
         widget->installEventFilter(this);
     }
     TakeSize();
+}
+
+void AddGameButton::ShowPicture(bool korean)
+{
+    setIcon(PictureIcon(korean ? u"add-game-korean"_s : u"add-game-english"_s));
 }
 
 void AddGameButton::TakeSize()

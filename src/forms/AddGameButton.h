@@ -15,6 +15,8 @@ public:
 
     /// The widget whose place it takes; `place` lies in a widget beside this one.
     void StandOver(QWidget* place);
+    /// By the language of the texts.
+    void ShowPicture(bool korean);
     /// Once its text is known: the place is as large as it wants to be.
     void TakeSize();
 

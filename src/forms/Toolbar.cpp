@@ -48,7 +48,7 @@ Toolbar::Toolbar(const Shown& shown, const Deeds& deeds, QWidget* parent)
     AddGap();
     m_addGamePlace = new QWidget(this);
     m_row->addWidget(m_addGamePlace);
-    m_cmdVespra = AddButton(u"cmdVespra"_s, u"site"_s, deeds.cmdVespra_Click);
+    m_cmdVespra = AddButton(u"cmdVespra"_s, u"site-korean"_s, deeds.cmdVespra_Click);
     m_row->addStretch();
     ShowViewMode();
     ShowTitlePicture();
@@ -216,6 +216,8 @@ void Toolbar::TakeTexts()
     auto* cmdOpenFolder = findChild<QToolButton*>(u"cmdOpenFolder"_s);
     cmdOpenFolder->setToolTip(lines.join(u'\n'));
     cmdOpenFolder->setAccessibleName(lines.front());
+    m_cmdVespra->setIcon(
+        PictureIcon(m_shown.lang.IsKorean() ? u"site-korean"_s : u"site-english"_s));
     m_cmdVespra->setText(m_shown.lang[0]);
     m_cmdVespra->setToolButtonStyle(
         m_shown.lang[0].isEmpty() ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon);

@@ -191,6 +191,7 @@ void frmDosGames::TakeTexts()
     m_list->TakeTexts();
     m_notice->TakeTexts(m_shown.lang);
     m_picBack1->TakeTexts();
+    m_addGame->ShowPicture(m_shown.lang.IsKorean());
     m_addGame->TakeSize();
     if (isVisible()) {
         ShowMinimumSize(); // else as it comes up
