@@ -282,11 +282,16 @@ platform::Outcome<CachedCatalogue> ReadCatalogueCache(
     if (QFileInfo(listPath).size() > kMostListBytes) {
         return DamagedList(listPath, u"too large"_s);
     }
-    const platform::Outcome<QStringList> lines = platform::ReadLines(listPath);
-    if (!lines) {
-        return lines.Failure();
+    const platform::Outcome<QByteArray> bytes = platform::ReadBytes(listPath);
+    if (!bytes) {
+        return bytes.Failure();
     }
-    platform::Outcome<GameEntries> catalogue = CatalogueFromLine(listPath, lines.Value().value(0));
+    // The end of the line is the one sign that the last record is whole, and that none is missing.
+    if (!bytes.Value().isEmpty() && !bytes.Value().endsWith('\n')) {
+        return DamagedList(listPath, u"cut off"_s);
+    }
+    const QStringList lines = platform::SplitLines(platform::DecodeCp949(bytes.Value()));
+    platform::Outcome<GameEntries> catalogue = CatalogueFromLine(listPath, lines.value(0));
     if (!catalogue) {
         return catalogue.Failure();
     }

@@ -168,6 +168,16 @@ void AddGamesWithoutCache(Launcher& launcher)
 }
 
 /// False: the cache is missing or damaged, nothing has changed.
+/// The settings file was put back, or edited by hand, since the list was saved.
+bool IsOfAnotherRoot(const Launcher& launcher, const GameEntries& entries)
+{
+    const auto isThere = [&](const GameEntry& entry) {
+        return QFileInfo(launcher.places.GameDir(entry.Folder)).isDir();
+    };
+    return !entries.empty() && QFileInfo(launcher.places.gamesRoot).isDir() &&
+           !isThere(entries.front()) && !isThere(entries.back());
+}
+
 bool FillByCache(Launcher& launcher)
 {
     if (!HasCatalogueCache(launcher.places)) {
@@ -177,6 +187,9 @@ bool FillByCache(Launcher& launcher)
     if (!cached) {
         const QLoggingCategory room(kCategory);
         qCWarning(room).noquote() << cached.Failure().text;
+        return false;
+    }
+    if (IsOfAnotherRoot(launcher, cached.Value().catalogue)) {
         return false;
     }
     launcher.catalogue = Catalogue(std::move(cached.Value().catalogue));

@@ -122,15 +122,23 @@ bool BackupHoldsMore(const Places& places)
            IsShortFormOf(damaged.Value(), backup.Value());
 }
 
-/// Of what can't be read no copy can be made: it is moved.
-Done MoveAside(const QString& path, const QString& backup)
+Done Rename(const QString& path, const QString& to)
 {
-    const QByteArray from = QFile::encodeName(path);
-    const QByteArray to = QFile::encodeName(backup);
-    if (std::rename(from.constData(), to.constData()) != 0) {
-        return Error{ErrorKind::Unwritable, u"%1: can't be kept as %2"_s.arg(path, backup)};
+    if (std::rename(QFile::encodeName(path).constData(), QFile::encodeName(to).constData()) != 0) {
+        return Error{ErrorKind::Unwritable, u"%1: can't be kept as %2"_s.arg(path, to)};
     }
     return platform::Success();
+}
+
+/// Of what can't be read no copy can be made: it is moved, and what was kept before as well.
+Done MoveAside(const QString& path, const QString& backup)
+{
+    if (QFileInfo::exists(backup)) {
+        if (Done kept = Rename(backup, backup + u'2'); !kept) {
+            return kept;
+        }
+    }
+    return Rename(path, backup);
 }
 
 /// Where Launcher.cfg is missing: what a first start writes.

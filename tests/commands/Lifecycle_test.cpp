@@ -106,6 +106,7 @@ TEST(Lifecycle, NoCacheIsReadUnderAnotherRootThanItsOwn)
     ASSERT_TRUE(shell::Form_Unload(*away));
     const QByteArray list = app.folder.ReadRaw(u"Gamelist.lst"_s);
     ASSERT_TRUE(list.startsWith("\xbc\xc2\x01"));
+    const QByteArray settings = app.folder.ReadRaw(u"Launcher.cfg"_s);
 
     const auto startsAtHome = [&](const char* why) {
         const auto launcher = app.Start();
@@ -121,6 +122,11 @@ TEST(Lifecycle, NoCacheIsReadUnderAnotherRootThanItsOwn)
     app.folder.WriteRaw(u"Gamelist.lst"_s, list);
     app.folder.WriteRaw(u"Launcher.cfg"_s, "damaged");
     startsAtHome("the settings were replaced");
+    // The former settings are put back: the list that stands there is the other root's.
+    app.folder.WriteRaw(u"Launcher.cfg"_s, settings);
+    const auto back = app.Start();
+    ASSERT_EQ(back->catalogue.size(), 1U);
+    EXPECT_EQ(back->catalogue[0].Folder, u"셋"_s);
 }
 
 TEST(Lifecycle, ProgressIsOverWhenTheListIsFilledAndTheTreeFollowsItInAScan)

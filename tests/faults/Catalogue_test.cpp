@@ -50,7 +50,8 @@ TEST(CacheFaults, ListDamagedOrForeignSheetCutOrOfAnotherSize)
     const QString sheet = u"IconList.bmp"_s;
     const Row rows[] = {
         {"empty list", list, [](auto& bytes) { bytes.clear(); }, u"record 1 is damaged"_s},
-        {"cut list", list, [](auto& bytes) { bytes.truncate(bytes.size() / 2); }, u"record "_s},
+        {"cut list", list, [](auto& bytes) { bytes.truncate(bytes.size() / 2); }, u"cut off"_s},
+        {"cut in its last field", list, [](auto& bytes) { bytes.chop(3); }, u"cut off"_s},
         {"a record twice",
          list,
          [](auto& bytes) { bytes = bytes.chopped(2) + '\2' + bytes; },

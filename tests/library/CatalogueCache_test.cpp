@@ -250,9 +250,11 @@ TEST_F(CatalogueCacheTest, DamagedFilesAreRefused)
         m_root.WriteRaw(u"IconList.bmp"_s, c.sheet);
         EXPECT_EQ(KindOf(Read()), ErrorKind::Malformed);
     }
-    m_root.WriteRaw(u"Gamelist.lst"_s, list.chopped(2));
+    m_root.WriteRaw(u"Gamelist.lst"_s, list.chopped(1));
     m_root.WriteRaw(u"IconList.bmp"_s, sheet);
-    EXPECT_TRUE(Read()) << "a missing line end does no harm";
+    EXPECT_EQ(KindOf(Read()), ErrorKind::Malformed) << "who knows what else is missing";
+    m_root.WriteRaw(u"Gamelist.lst"_s, list.chopped(2) + '\n');
+    EXPECT_TRUE(Read());
     QFile::remove(m_root.Path(u"IconList.bmp"_s));
     EXPECT_EQ(KindOf(Read()), ErrorKind::NotFound);
 }

@@ -141,10 +141,12 @@ TEST_F(SettingsFileTest, AMinimizedCloseResetsTheNextStartButLosesNothing)
 
 TEST_F(SettingsFileTest, AnUnreadableFileIsMovedAside)
 {
+    folder.WriteRaw(u"Launcher.cfg.bak"_s, "kept before");
     folder.MakeAll(u"Launcher.cfg/inside"_s);
     EXPECT_FALSE(Loaded().replacementReason.isEmpty());
     EXPECT_EQ(Cfg(), Defaults());
     EXPECT_TRUE(folder.Exists(u"Launcher.cfg.bak/inside"_s));
+    EXPECT_EQ(folder.ReadRaw(u"Launcher.cfg.bak2"_s), "kept before");
 }
 
 TEST_F(SettingsFileTest, SavesTheSettingsAlsoWhenTheRecentFileCantBeWritten)
