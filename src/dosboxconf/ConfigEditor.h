@@ -94,10 +94,10 @@ struct ConfigEditor {
     QString txtDesc;
     ConfPreview preview;
 
-    bool hasConf = false; // the game shown had an edit.conf when the grid was loaded
-    Selection saved{};    // what the grid held then
-    QString savedText;    // the text of a start by that
-    int loads = 0;        // how often it was; a command that waited sees whether it is the same
+    bool hasConf = false;     // the game shown had an edit.conf when the grid was loaded
+    Selection saved{};        // what the grid held then
+    ConfPreview savedPreview; // text and refusal of a start by that
+    int loads = 0;            // how often it was; a command that waited sees whether it is the same
 
     platform::Notifier changed;
 };

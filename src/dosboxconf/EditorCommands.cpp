@@ -69,11 +69,21 @@ bool IsSaved(const Launcher& launcher)
     return launcher.screens.config.saved == launcher.options.OptionSelection;
 }
 
+/// By the grid as it is, without a state.
+ConfPreview ComposedPreview(const Launcher& launcher)
+{
+    const Outcome<QString> text = running::PreviewGameText(launcher);
+    ConfPreview preview;
+    preview.text = text.ValueOr(QString());
+    preview.refusal = text ? QString() : launcher.lang.Told(text.Failure().Told());
+    return preview;
+}
+
 ConfPreview::State PreviewState(const Launcher& launcher)
 {
     using State = ConfPreview::State;
     const ConfigEditor& editor = launcher.screens.config;
-    const bool same = editor.preview.text == editor.savedText;
+    const bool same = editor.preview.text == editor.savedPreview.text;
     if (!editor.preview.refusal.isEmpty()) {
         return IsSaved(launcher) ? State::None : State::WillBeNone;
     }
@@ -93,9 +103,7 @@ void ShowPreview(Launcher& launcher)
         // What is on this page is not what the game starts with.
         editor.preview = ConfPreview();
     } else {
-        const Outcome<QString> text = running::PreviewGameText(launcher);
-        editor.preview.text = text.ValueOr(QString());
-        editor.preview.refusal = text ? QString() : launcher.lang.Told(text.Failure().Told());
+        editor.preview = IsSaved(launcher) ? editor.savedPreview : ComposedPreview(launcher);
         editor.preview.state = PreviewState(launcher);
     }
     editor.changed.Tell(ConfigEditor::Preview);
@@ -108,7 +116,7 @@ void TakeAsSaved(Launcher& launcher, bool hasConf)
     editor.hasConf = hasConf;
     editor.saved = launcher.options.OptionSelection;
     if (ShowsConfigPage(launcher)) {
-        editor.savedText = running::PreviewGameText(launcher).ValueOr(QString());
+        editor.savedPreview = ComposedPreview(launcher);
     }
     ++editor.loads;
 }

@@ -78,14 +78,15 @@ private:
 };
 
 /// A disk of its own in the place of a folder, which only this process sees: it can run full and
-/// be made read-only, for root as well. Only root may mount; whoever can't skips the test.
+/// be made read-only, for root as well. Others than root mount in a user namespace of their own; where
+/// the system allows none, the test is skipped.
 class PrivateDisk {
 public:
     PrivateDisk(const QString& folder, const QByteArray& size)
         : m_folder(QFile::encodeName(folder))
     {
         const QByteArray options = "mode=755,size=" + size;
-        m_isMounted = unshare(CLONE_NEWNS) == 0 &&
+        m_isMounted = MayMount() &&
                       mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
                       mount("none", m_folder.constData(), "tmpfs", 0, options.constData()) == 0;
     }
@@ -119,6 +120,23 @@ public:
     void Free() const { EXPECT_TRUE(QFile::remove(Filler())); }
 
 private:
+    static bool MayMount()
+    {
+        if (unshare(CLONE_NEWNS) == 0) {
+            return true;
+        }
+        const QByteArray user = QByteArray::number(geteuid());
+        const QByteArray group = QByteArray::number(getegid());
+        return unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0 && Tell("setgroups", "deny") &&
+               Tell("uid_map", user + ' ' + user + " 1") &&
+               Tell("gid_map", group + ' ' + group + " 1");
+    }
+    static bool Tell(const char* file, const QByteArray& text)
+    {
+        QFile proc(QStringLiteral("/proc/self/") + QString::fromLatin1(file));
+        return proc.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+               proc.write(text) == text.size();
+    }
     QString Filler() const { return QFile::decodeName(m_folder) + QStringLiteral("/filler"); }
 
     QByteArray m_folder;
