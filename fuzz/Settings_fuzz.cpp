@@ -21,7 +21,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     const auto again = shell::LoadSettingsFiles(places);
     fuzz::Require(again.Ok(), "what was saved can be read");
-    fuzz::Require(again.Value().replacementReason.isEmpty(), "what was saved is whole");
+    fuzz::Require(!again.Value().replacementReason, "what was saved is whole");
     fuzz::Require(
         fuzz::AsWritten(shell::LauncherCfgLines(again.Value().cfg)) ==
             fuzz::AsWritten(shell::LauncherCfgLines(first.cfg)),

@@ -277,7 +277,7 @@ int RunWindow(int argc, char** argv)
         deeds);
     prompts.SetParent(&form);
     if (const platform::Done loaded = shell::Form_Load(launcher); !loaded) {
-        const QString text = loaded.Failure().text;
+        const QString text = launcher.lang.Told(loaded.Failure().Told());
         Say(text);
         prompts.Ask(platform::MessageBox{
             text, u"Pelorin"_s, platform::Buttons::Ok, platform::BoxIcon::Exclamation});

@@ -2,6 +2,7 @@
 
 #include "archives/private/FileTrees.h"
 #include "archives/private/TreeWalk.h"
+#include "platform/PathWordings.h"
 #include "platform/Paths.h"
 
 #include <QDir>
@@ -17,6 +18,7 @@ using platform::Error;
 using platform::ErrorKind;
 using platform::Outcome;
 using platform::Success;
+using platform::Wording;
 
 namespace {
 
@@ -41,9 +43,19 @@ bool NamesFolder(const QString& path)
     return QDir::isAbsolutePath(path) && platform::IsPlainName(platform::LastPathSegment(path));
 }
 
-Error Refusal(const QString& path, const QString& reason)
+Error Refusal(const Wording& reason)
 {
-    return Error{ErrorKind::Refused, u"%1: %2"_s.arg(path, reason)};
+    return Error::Worded(ErrorKind::Refused, reason);
+}
+
+Error NeedsWholePath(const QString& path)
+{
+    return Refusal(Wording{480, u"<1>: a whole path below the root is needed."_s, {path}});
+}
+
+Error IsThereAlready(const QString& path)
+{
+    return Refusal(Wording{476, u"<1> is there already."_s, {path}});
 }
 
 bool Matches(QStringView pattern, QStringView name)
@@ -129,16 +141,15 @@ Done DeleteFile(const QString& path)
     const QString name = platform::LastPathSegment(path);
     const QString found = OnDisk(path);
     if (name.isEmpty()) {
-        return Refusal(path, u"names no file"_s);
+        return Refusal(Wording{479, u"<1> names no file."_s, {path}});
     }
     if (Stands(found)) {
-        return QFileInfo(found).isDir() ? Refusal(found, u"is a folder"_s)
+        return QFileInfo(found).isDir() ? Refusal(platform::IsAFolder(found))
                                         : RemoveFile(QFile::encodeName(found));
     }
     if (name.contains(u'*') || name.contains(u'?')) {
         const QString folder = OnDisk(path.chopped(name.size()));
-        return NamesFolder(folder) ? DeleteMatching(folder, name)
-                                   : Refusal(path, u"a whole path below the root is needed"_s);
+        return NamesFolder(folder) ? DeleteMatching(folder, name) : NeedsWholePath(path);
     }
     return NoSuchThing(found);
 }
@@ -154,13 +165,13 @@ Done DeleteFolder(const QString& path)
 {
     const QString folder = OnDisk(path);
     if (!NamesFolder(path)) {
-        return Refusal(path, u"a folder's whole path is needed"_s);
+        return NeedsWholePath(path);
     }
     if (!Stands(folder)) {
         return NoSuchThing(folder);
     }
     if (!QFileInfo(folder).isDir()) {
-        return Refusal(folder, u"is no folder"_s);
+        return Refusal(platform::NoFolder(folder));
     }
     return RemoveTree(QFile::encodeName(folder));
 }
@@ -176,10 +187,10 @@ Done MoveFolderQuiet(const QString& source, const QString& destination, const Ke
     const bool sameFolder = to == from;
     const QString target = sameFolder ? platform::NativePath(destination) : to;
     if (Stands(target)) {
-        return Refusal(target, u"is there already"_s);
+        return IsThereAlready(target);
     }
     if (LiesIn(target, from)) {
-        return Refusal(target, u"lies in the folder that is to be moved"_s);
+        return Refusal(Wording{477, u"<1> lies in the folder that is to be moved."_s, {target}});
     }
     return MoveTree(QFile::encodeName(from), QFile::encodeName(target), keepGoing);
 }
@@ -195,7 +206,7 @@ Done MoveFile(const QString& source, const QString& destination, const KeepGoing
     const bool sameFile = to == from;
     const QString target = sameFile && !into ? platform::NativePath(destination) : to;
     if (Stands(target)) {
-        return Refusal(target, u"is there already"_s);
+        return IsThereAlready(target);
     }
     return MoveTree(QFile::encodeName(from), QFile::encodeName(target), keepGoing);
 }
@@ -209,10 +220,10 @@ Done CopyFile(const QString& source, const QString& destination, const KeepGoing
         return NoSuchThing(from);
     }
     if (QFileInfo(from).canonicalFilePath() == QFileInfo(to).canonicalFilePath()) {
-        return Refusal(to, u"is the file that is to be copied"_s);
+        return Refusal(Wording{481, u"<1> is the file that is to be copied."_s, {to}});
     }
     if (QFileInfo(to).isDir()) {
-        return Refusal(to, u"is a folder"_s);
+        return Refusal(platform::IsAFolder(to));
     }
     return CopyOneFile(QFile::encodeName(from), QFile::encodeName(to), keepGoing);
 }

@@ -183,13 +183,13 @@ platform::Done SaveSheet(
 }
 
 /// Why former forms of the sheet are still there; nothing depends on them.
-QStringList DeleteFormerSheets(const shell::Places& places)
+QList<platform::Wording> DeleteFormerSheets(const shell::Places& places)
 {
-    QStringList reasons;
+    QList<platform::Wording> reasons;
     for (const QString& former : {u"IconList.jpg"_s, u"SmallIconList.jpg"_s}) {
         const platform::Done gone = archives::DeleteFileIfThere(places.InAppDir(former));
         if (!gone) {
-            reasons << gone.Failure().text;
+            reasons << gone.Failure().Told();
         }
     }
     return reasons;

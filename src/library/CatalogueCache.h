@@ -36,7 +36,7 @@ platform::Outcome<CachedCatalogue> ReadCatalogueCache(
 struct CacheReport {
     QStringList leftOut; // folders of games that the list can't hold as they are; both files lack
                          // them, and the next start reads them from their folders
-    QStringList formerSheets; // why former forms of the sheet could not be deleted
+    QList<platform::Wording> formerSheets; // why former forms of the sheet could not be deleted
 };
 
 /// Writes both files, and only then lets the sheet and the list take the place of the old ones; so

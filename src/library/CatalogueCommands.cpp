@@ -377,8 +377,8 @@ Done SaveCatalogue(Launcher& launcher)
     if (!saved) {
         return saved.Failure();
     }
-    for (const QString& reason : saved.Value().formerSheets) {
-        shell::TellNote(launcher, kCategory, reason);
+    for (const platform::Wording& reason : saved.Value().formerSheets) {
+        shell::TellNote(launcher, kCategory, launcher.lang.Told(reason));
     }
     TellWithoutCache(launcher, saved.Value().leftOut);
     return platform::Success();

@@ -1,5 +1,6 @@
 #include "library/GameFiles.h"
 
+#include "platform/PathWordings.h"
 #include "shell/Places.h"
 
 #include <QDir>
@@ -179,14 +180,11 @@ platform::Done MakeMetaDir(GameFiles& files)
     }
     const QString name = kMetaDirName.toString();
     if (!files.game.Find(name).isEmpty()) {
-        return Error::Worded(
-            ErrorKind::Refused, Wording{464, u"<1> is not a folder."_s, {files.GamePath(name)}});
+        return Error::Worded(ErrorKind::Refused, platform::NoFolder(files.GamePath(name)));
     }
     // Not with the folders above it: a game folder that has vanished must not come back.
     if (!QDir().mkdir(files.metaDir)) {
-        return Error::Worded(
-            ErrorKind::Unwritable,
-            Wording{413, u"The folder <1> can't be made."_s, {files.metaDir}});
+        return Error::Worded(ErrorKind::Unwritable, platform::FolderNotMade(files.metaDir));
     }
     NoteName(files.game, files.game.folders, name);
     files.meta = platform::Listing();

@@ -3,6 +3,7 @@
 #include "archives/FileOperations.h"
 #include "library/IconImages.h"
 #include "library/private/NewFile.h"
+#include "platform/PathWordings.h"
 
 #include <QDir>
 
@@ -23,8 +24,8 @@ void MakeMetaSubFolder(GameFiles& files, const QString& name, Troubles& troubles
     if (QDir().mkdir(path)) {
         files.NoteMetaFolder(name);
     } else {
-        troubles.Add(platform::Error{
-            platform::ErrorKind::Unwritable, u"%1: the folder can't be made"_s.arg(path)});
+        troubles.Add(platform::Error::Worded(
+            platform::ErrorKind::Unwritable, platform::FolderNotMade(path)));
     }
 }
 
@@ -111,10 +112,12 @@ IconPixels PrepareGameFolder(GameFiles& files, const IconPixels& defaultIcon, Tr
     // What can't be listed is left alone: nobody knows what a write would replace there.
     const platform::Done made = files.game.exists ? MakeMetaDir(files) : platform::Success();
     if (!made || !files.meta.exists) {
-        const QString reason = u"%1: the folder can't be read"_s.arg(
-            files.game.exists ? files.metaDir : files.gameDir);
+        const QString& unreadable = files.game.exists ? files.metaDir : files.gameDir;
         troubles.Add(
-            made ? platform::Error{platform::ErrorKind::Unreadable, reason} : made.Failure());
+            made ? platform::Error::Worded(
+                       platform::ErrorKind::Unreadable,
+                       platform::Wording{471, u"<1>: the folder can't be read."_s, {unreadable}})
+                 : made.Failure());
         return defaultIcon;
     }
     MakeMetaSubFolder(files, u"CD"_s, troubles);

@@ -20,7 +20,8 @@ constexpr int kBytesAPixel = 3;
 
 platform::Error NoPicture(const QString& path)
 {
-    return platform::Error{platform::ErrorKind::Malformed, u"%1: not a picture"_s.arg(path)};
+    return platform::Error::Worded(
+        platform::ErrorKind::Malformed, platform::Wording{475, u"<1> is no picture."_s, {path}});
 }
 
 platform::Outcome<QByteArray> ReadPictureFile(const QString& path)

@@ -1,5 +1,6 @@
 #include "platform/DesktopShellVerbs.h"
 
+#include "platform/PathWordings.h"
 #include "platform/Processes.h"
 #include "platform/ProgramHost.h"
 
@@ -42,7 +43,7 @@ Done DesktopShellVerbs::Open(const QString& path)
 {
     const QFileInfo info(path);
     if (!info.isAbsolute() || !info.exists()) {
-        return Error::Worded(ErrorKind::NotFound, Wording{427, u"<1> is not there."_s, {path}});
+        return Error::Worded(ErrorKind::NotFound, NotThere(path));
     }
     return Start(path, info.isDir() ? path : info.path());
 }

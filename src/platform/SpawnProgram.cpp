@@ -1,5 +1,7 @@
 #include "platform/SpawnProgram.h"
 
+#include "platform/PathWordings.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -115,24 +117,24 @@ Error MissingInterpreter(const QString& program)
     const QByteArray start = file.open(QIODevice::ReadOnly) ? file.readLine(256) : QByteArray();
     if (start.startsWith("#!")) {
         const QString interpreter = QFile::decodeName(start.mid(2).trimmed());
-        return {
+        return Error::Worded(
             ErrorKind::Refused,
-            u"%1: \"%2\", which runs it, is missing"_s.arg(program, interpreter)};
+            Wording{488, u"<1>: <2>, which runs it, is missing."_s, {program, interpreter}});
     }
-    return {
+    return Error::Worded(
         ErrorKind::Refused,
-        u"%1: the system's part that loads such programs is missing"_s.arg(program)};
+        Wording{489, u"<1>: the system's part that loads such programs is missing."_s, {program}});
 }
 
 Error WhyNotStarted(const QString& program, int code)
 {
     if (code == ENOENT) {
-        return QFileInfo::exists(program)
-                   ? MissingInterpreter(program)
-                   : Error{ErrorKind::NotFound, u"%1: no such program"_s.arg(program)};
+        return QFileInfo::exists(program) ? MissingInterpreter(program)
+                                          : Error::Worded(ErrorKind::NotFound, NotThere(program));
     }
     if (code == EACCES && QFileInfo(program).isDir()) {
-        return {ErrorKind::Refused, u"%1 is a folder, not a program"_s.arg(program)};
+        return Error::Worded(
+            ErrorKind::Refused, Wording{490, u"<1> is a folder, not a program."_s, {program}});
     }
     const auto reason = std::generic_category().message(code);
     return {ErrorKind::Refused, u"%1: %2"_s.arg(program, QString::fromLocal8Bit(reason.c_str()))};
@@ -150,13 +152,17 @@ Outcome<pid_t> SpawnProgram(const ProcessRequest& request, int output)
 {
     // A relative name would be looked for in the working folder, where anything may lie.
     if (!QDir::isAbsolutePath(request.program) || HoldsNul(request)) {
-        return Error{ErrorKind::Refused, u"%1: not a program's full path"_s.arg(request.program)};
+        return Error::Worded(
+            ErrorKind::Refused,
+            Wording{491, u"<1> is no full path of a program."_s, {request.program}});
     }
     if (!QFileInfo(request.workingFolder).isDir()) {
-        return Error{
+        return Error::Worded(
             ErrorKind::NotFound,
-            u"%1: its working folder \"%2\" is missing"_s.arg(
-                request.program, request.workingFolder)};
+            Wording{
+                492,
+                u"<1>: its working folder <2> is missing."_s,
+                {request.program, request.workingFolder}});
     }
     CStrings arguments = ArgumentsOf(request);
     CStrings environment = EnvironmentOf(request);

@@ -229,7 +229,8 @@ Outcome<QByteArray> ReadPlainFile(const QString& path, qint64 mostBytes)
     }
     const struct stat status = file.Status();
     if (!S_ISREG(status.st_mode) || status.st_size > mostBytes) {
-        return FileError(ErrorKind::Refused, path, u"no plain file, or too large"_s);
+        return Error::Worded(
+            ErrorKind::Refused, Wording{484, u"<1> is no plain file, or too large."_s, {path}});
     }
     return ReadToEnd(file, status.st_size);
 }

@@ -1,6 +1,7 @@
 #include "platform/XdgBin.h"
 
 #include "platform/MountTable.h"
+#include "platform/PathWordings.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -225,7 +226,7 @@ Done XdgBin::MoveToBin(const QString& path)
     }
     const QString source = RealPlace(given);
     if (source.isEmpty() || !SightOf(source)) {
-        return Error::Worded(ErrorKind::NotFound, Wording{427, u"<1> is not there."_s, {path}});
+        return Error::Worded(ErrorKind::NotFound, NotThere(path));
     }
     const QStringList mountPoints = MountPoints();
     if (HoldsMountPoint(mountPoints, source)) {

@@ -115,11 +115,15 @@ QStringList TypedCommands(const RunRequest& request, const QString& build)
 
 } // namespace
 
+Wording UnknownBuild(const QString& folder)
+{
+    return Wording{344, u"<1>: its settings name a build that is not in the list."_s, {folder}};
+}
+
 platform::Done CheckRequest(const RunRequest& request, const QString& build)
 {
     if (build.isEmpty() && request.mode != RunMode::LibraryShell) {
-        return Error{
-            ErrorKind::Refused, u"%1: its settings name no known build"_s.arg(request.folder)};
+        return Error::Worded(ErrorKind::Refused, UnknownBuild(request.folder));
     }
     if (std::any_of(request.folder.begin(), request.folder.end(), BreaksItsLine)) {
         return BrokenName(request.folder);

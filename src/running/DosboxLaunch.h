@@ -48,4 +48,7 @@ QList<platform::Wording> LaunchNotes(
     const platform::HostText& finished,
     platform::PathForm form);
 
+/// Of a game whose settings name a build that is not in the list.
+platform::Wording UnknownBuild(const QString& folder);
+
 } // namespace pelorin::running

@@ -5,9 +5,11 @@
 #include "library/FolderCommands.h"
 #include "library/GameFiles.h"
 #include "library/ShowinfoCommands.h"
+#include "platform/PathWordings.h"
 #include "platform/Paths.h"
 #include "platform/ProgramHost.h"
 #include "platform/Prompts.h"
+#include "running/DosboxLaunch.h"
 #include "running/GlideIni.h"
 #include "running/LaunchCommands.h"
 #include "running/NetAddress.h"
@@ -231,11 +233,7 @@ void Run(Launcher& launcher, RunMode mode)
     case RunBranch::RefuseGuest: RefuseGuest(launcher, request, build); break;
     case RunBranch::WindowsFile: StartWindowsFile(launcher, request); break;
     case RunBranch::NoSuchBuild:
-        shell::TellNote(
-            launcher,
-            kCategory,
-            launcher.lang.OwnText(
-                344, u"<1>: its settings name a build that is not in the list."_s, {folder}));
+        shell::TellNote(launcher, kCategory, launcher.lang.Told(UnknownBuild(folder)));
         break;
     default:
         shell::TellNote(
@@ -283,8 +281,7 @@ void RunLibraryShell(Launcher& launcher)
         return;
     }
     if (!archives::FolderExists(emulators)) {
-        shell::TellNote(
-            launcher, kCategory, launcher.lang.OwnText(427, u"<1> is not there."_s, {emulators}));
+        shell::TellNote(launcher, kCategory, launcher.lang.Told(platform::NotThere(emulators)));
         return;
     }
     ShowCurrentGame(launcher);

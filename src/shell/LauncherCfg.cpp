@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -13,6 +14,7 @@ namespace pelorin::shell {
 using platform::Error;
 using platform::ErrorKind;
 using platform::Outcome;
+using platform::Wording;
 
 namespace {
 
@@ -21,18 +23,19 @@ constexpr QChar kWidthMark(1);
 /// Hands out the lines in order and remembers the first fault; a line behind the end is empty.
 class LineReader {
 public:
-    explicit LineReader(const QStringList& lines)
+    LineReader(const QStringList& lines, const QString& name)
         : m_lines(lines)
+        , m_name(name)
     {}
 
     bool AtEnd() const { return m_next >= m_lines.size(); }
-    const QString& Fault() const { return m_fault; }
+    const std::optional<Wording>& Fault() const { return m_fault; }
 
     QString Next()
     {
         ++m_next;
         if (m_next > m_lines.size()) {
-            Blame(u"missing"_s);
+            Blame(Wording{493, u"<1>: line <2>: missing"_s, {}});
             return QString();
         }
         return m_lines[m_next - 1];
@@ -43,7 +46,7 @@ public:
     {
         const double value = platform::NumericPrefix(text);
         if (!(std::abs(value) <= std::numeric_limits<float>::max())) {
-            Blame(u"a number that is too large"_s);
+            Blame(Wording{494, u"<1>: line <2>: a number that is too large"_s, {}});
             return 0;
         }
         return value;
@@ -53,22 +56,28 @@ public:
     {
         const int choice = platform::RoundHalfEven(Number(Next()));
         if (choice < lowest || choice > highest) {
-            Blame(u"%1 is not among %2 to %3"_s.arg(choice).arg(lowest).arg(highest));
+            Blame(Wording{
+                495,
+                u"<1>: line <2>: <3> is not among <4> to <5>"_s,
+                {QString::number(choice), QString::number(lowest), QString::number(highest)}});
         }
         return choice;
     }
 
-    void Blame(const QString& reason)
+    /// The file's name and the line's number are put before the values.
+    void Blame(Wording reason)
     {
-        if (m_fault.isEmpty()) {
-            m_fault = u"line %1: %2"_s.arg(m_next).arg(reason);
+        if (!m_fault) {
+            reason.values = QStringList{m_name, QString::number(m_next)} + reason.values;
+            m_fault = reason;
         }
     }
 
 private:
     const QStringList& m_lines;
+    const QString& m_name;
     qsizetype m_next = 0;
-    QString m_fault;
+    std::optional<Wording> m_fault;
 };
 
 void ReadWindow(LineReader& in, LauncherCfg& cfg)
@@ -95,7 +104,10 @@ void ReadWidths(LineReader& in, LauncherCfg& cfg)
 {
     const QStringList widths = in.Next().split(kWidthMark);
     if (widths.size() < finding::kColumns) {
-        in.Blame(u"%1 column widths, %2 are needed"_s.arg(widths.size()).arg(finding::kColumns));
+        in.Blame(Wording{
+            496,
+            u"<1>: line <2>: <3> column widths, <4> are needed"_s,
+            {QString::number(widths.size()), QString::number(finding::kColumns)}});
         return;
     }
     for (std::size_t i = 0; i < cfg.columnWidths.size(); ++i) {
@@ -136,10 +148,10 @@ QString OneLine(QString text)
 
 } // namespace
 
-Outcome<LauncherCfg> ParseLauncherCfg(const QStringList& lines)
+Outcome<LauncherCfg> ParseLauncherCfg(const QStringList& lines, const QString& name)
 {
     LauncherCfg cfg;
-    LineReader in(lines);
+    LineReader in(lines, name);
     cfg.view = in.Choice(0, 3);
     ReadWindow(in, cfg);
     in.Next();
@@ -163,8 +175,8 @@ Outcome<LauncherCfg> ParseLauncherCfg(const QStringList& lines)
         ReadWidths(in, cfg);
     }
     cfg.titleLanguageKorean = in.AtEnd() || in.Next() == u"0"_s;
-    if (!in.Fault().isEmpty()) {
-        return Error{ErrorKind::Malformed, in.Fault()};
+    if (in.Fault()) {
+        return Error::Worded(ErrorKind::Malformed, *in.Fault());
     }
     return cfg;
 }

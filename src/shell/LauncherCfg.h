@@ -46,10 +46,11 @@ struct LauncherCfg {
     bool titleLanguageKorean = true;
 };
 
-/// Reads what the program or one of its old releases wrote. Error Malformed ("line 12: ...") for a
-/// line that is missing where no old release ended, fewer than eight widths, and a choice that has
-/// no such item.
-platform::Outcome<LauncherCfg> ParseLauncherCfg(const QStringList& lines);
+/// Reads what the program or one of its old releases wrote. Error Malformed, with `name` in the place
+/// of the path ("Launcher.cfg: line 12: ..."), for a line that is missing where no old release ended,
+/// fewer than eight widths, and a choice that has no such item.
+platform::Outcome<LauncherCfg> ParseLauncherCfg(
+    const QStringList& lines, const QString& name = QStringLiteral("Launcher.cfg"));
 
 /// The lines to write: 14, or 11 for a minimized window, which the next start can't read.
 QStringList LauncherCfgLines(const LauncherCfg& cfg);

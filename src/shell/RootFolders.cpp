@@ -1,5 +1,6 @@
 #include "shell/RootFolders.h"
 
+#include "platform/PathWordings.h"
 #include "platform/Paths.h"
 
 #include <QDir>
@@ -75,9 +76,7 @@ platform::Done MakeRoot(const QString& path)
     if (QFileInfo(path).isDir() || QDir().mkpath(path)) {
         return platform::Success();
     }
-    return platform::Error::Worded(
-        platform::ErrorKind::Unwritable,
-        platform::Wording{413, u"The folder <1> can't be made."_s, {path}});
+    return platform::Error::Worded(platform::ErrorKind::Unwritable, platform::FolderNotMade(path));
 }
 
 } // namespace pelorin::shell

@@ -20,11 +20,13 @@ SettingsTargets TargetsOf(Launcher& launcher)
 
 void TellReplaced(Launcher& launcher, const LoadedSettings& settings)
 {
-    if (settings.replacementReason.isEmpty()) {
+    if (!settings.replacementReason) {
         return;
     }
     const QString text = launcher.lang.OwnText(
-        383, u"<1>. The default settings stand in."_s, {settings.replacementReason});
+        383,
+        u"<1>. The default settings stand in."_s,
+        {launcher.lang.Told(*settings.replacementReason)});
     const QString kept =
         launcher.lang.OwnText(384, u"The old file is kept as <1>."_s, {u"Launcher.cfg.bak"_s});
     TellNote(launcher, kCategory, settings.oldCfgKept ? text + u' ' + kept : text);
@@ -45,10 +47,10 @@ platform::Done LoadSettings(Launcher& launcher)
     launcher.screens.frame.caption = launcher.WindowTitle;
     launcher.screens.frame.changed.Tell(MainFrame::Caption | MainFrame::TitlePicture);
     launcher.settings.rootsChanged = settings.gamesRootReplaced;
-    launcher.settings.owesOldCfg = !settings.oldCfgKept && !(settings.replacementReason.isEmpty() &&
-                                                             settings.lostRoots.isEmpty());
-    for (const QString& text : settings.unwritten) {
-        TellNote(launcher, kCategory, text);
+    launcher.settings.owesOldCfg =
+        !settings.oldCfgKept && (settings.replacementReason || !settings.lostRoots.isEmpty());
+    for (const platform::Wording& words : settings.unwritten) {
+        TellNote(launcher, kCategory, launcher.lang.Told(words));
     }
     TellReplaced(launcher, settings);
     for (const QString& root : settings.lostRoots) {

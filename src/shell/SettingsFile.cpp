@@ -1,5 +1,6 @@
 #include "shell/SettingsFile.h"
 
+#include "platform/PathWordings.h"
 #include "platform/Paths.h"
 #include "platform/TextFile.h"
 #include "shell/RecentFile.h"
@@ -20,6 +21,7 @@ using platform::Done;
 using platform::Error;
 using platform::ErrorKind;
 using platform::Outcome;
+using platform::Wording;
 
 namespace {
 
@@ -56,7 +58,7 @@ Done MakeFolder(const QString& path)
         return platform::Success();
     }
     if (!QDir().mkpath(path)) {
-        return Error{ErrorKind::Unwritable, u"%1: the folder can't be made"_s.arg(path)};
+        return Error::Worded(ErrorKind::Unwritable, platform::FolderNotMade(path));
     }
     return platform::Success();
 }
@@ -125,7 +127,8 @@ bool BackupHoldsMore(const Places& places)
 Done Rename(const QString& path, const QString& to)
 {
     if (std::rename(QFile::encodeName(path).constData(), QFile::encodeName(to).constData()) != 0) {
-        return Error{ErrorKind::Unwritable, u"%1: can't be kept as %2"_s.arg(path, to)};
+        return Error::Worded(
+            ErrorKind::Unwritable, Wording{472, u"<1> can't be kept as <2>."_s, {path, to}});
     }
     return platform::Success();
 }
@@ -152,11 +155,7 @@ Outcome<LauncherCfg> ReadCfg(const Places& places)
     if (!lines) {
         return lines.Failure();
     }
-    Outcome<LauncherCfg> cfg = ParseLauncherCfg(lines.Value());
-    if (!cfg) {
-        return Error{cfg.Failure().kind, u"%1: %2"_s.arg(path, cfg.Failure().text)};
-    }
-    return cfg;
+    return ParseLauncherCfg(lines.Value(), path);
 }
 
 /// Everything that is read, once; writes nothing.
@@ -181,8 +180,9 @@ Outcome<LoadedSettings> ReadOnce(const Places& places, const Outcome<LauncherCfg
     exportRoot = RepairedRoot(places, exportRoot, exported, loaded.lostRoots);
     for (const QString& folder : {exportRoot, gamesRoot, places.InAppDir(u"preset"_s)}) {
         if (IsBlocked(folder)) {
-            return Error{
-                ErrorKind::Refused, u"%1: a file is in the place of a folder"_s.arg(folder)};
+            return Error::Worded(
+                ErrorKind::Refused,
+                Wording{473, u"<1>: a file is in the place of a folder"_s, {folder}});
         }
     }
     return loaded;
@@ -193,12 +193,12 @@ void WriteAtStart(const Places& places, LoadedSettings& loaded)
 {
     const auto note = [&loaded](const Done& done) {
         if (!done) {
-            loaded.unwritten << done.Failure().text;
+            loaded.unwritten << done.Failure().Told();
         }
         return done.Ok();
     };
     note(MakeRecentFile(places));
-    const bool damaged = !loaded.replacementReason.isEmpty();
+    const bool damaged = loaded.replacementReason.has_value();
     if (damaged || !loaded.lostRoots.isEmpty()) {
         loaded.oldCfgKept = note(KeepOldCfg(places));
     }
@@ -218,7 +218,7 @@ Outcome<LoadedSettings> LoadSettingsFiles(const Places& places)
     Outcome<LoadedSettings> loaded = ReadOnce(places, ReadCfg(places));
     if (!loaded) {
         // Once more with the settings of a first start; they replace a file only where that helps.
-        const QString reason = loaded.Failure().text;
+        const Wording reason = loaded.Failure().Told();
         loaded = ReadOnce(places, ParseLauncherCfg(DefaultLines(places)));
         if (!loaded) {
             return loaded;
@@ -278,9 +278,9 @@ Outcome<QString> RootText(const Places& places, const QString& root)
     if (FitsALine(relative)) {
         return relative;
     }
-    return Error{
+    return Error::Worded(
         ErrorKind::Unencodable,
-        u"%1: code page 949 can't keep the path %2"_s.arg(CfgPath(places), root)};
+        Wording{474, u"<1>: code page 949 can't keep the path <2>."_s, {CfgPath(places), root}});
 }
 
 Done WriteDefaultSettings(const Places& places)

@@ -5,8 +5,11 @@
 #include "shell/Places.h"
 #include "shell/RecentList.h"
 
+#include <QList>
 #include <QString>
 #include <QStringList>
+
+#include <optional>
 
 namespace pelorin::shell {
 
@@ -16,11 +19,11 @@ namespace pelorin::shell {
 struct LoadedSettings {
     LauncherCfg cfg;
     RecentList recent;
-    QStringList lostRoots;     // as the file names them: not there now, so defaults stand in
-    QString replacementReason; // why Launcher.cfg was replaced by the defaults; empty: it was not
-    bool oldCfgKept = false;   // as Launcher.cfg.bak, because of one of these
-    bool gamesRootReplaced = false; // by the default, because of one of these
-    QStringList unwritten;          // what could not be made or replaced, with the paths
+    QStringList lostRoots; // as the file names them: not there now, so defaults stand in
+    std::optional<platform::Wording> replacementReason; // why the defaults replaced Launcher.cfg
+    bool oldCfgKept = false;            // as Launcher.cfg.bak, because of one of these
+    bool gamesRootReplaced = false;     // by the default, because of one of these
+    QList<platform::Wording> unwritten; // what could not be made or replaced, with the paths
 };
 
 /// Reads both files below `places.appDir`; the roots in `places` are not looked at. A Launcher.cfg

@@ -132,8 +132,7 @@ TEST_F(CrashTest, SettingsAndRecentListReadOldOrNew)
         const auto loaded = shell::LoadSettingsFiles(m_places);
         ASSERT_TRUE(loaded.Ok());
         EXPECT_TRUE(
-            loaded.Value().replacementReason.isEmpty() ||
-            cfg.state == shell::MainFrame::State::Minimized);
+            !loaded.Value().replacementReason || cfg.state == shell::MainFrame::State::Minimized);
     };
     int places = 0;
     for (int round = 0; round < 20; ++round) {

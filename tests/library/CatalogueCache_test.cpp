@@ -143,7 +143,8 @@ TEST_F(CatalogueCacheTest, FormerSheetsGoAndSpellingsStay)
     const auto saved = Save(Library(2));
     ASSERT_TRUE(saved);
     ASSERT_EQ(saved.Value().formerSheets.size(), 1);
-    EXPECT_TRUE(saved.Value().formerSheets.front().startsWith(m_root.Path(u"IconList.jpg"_s)));
+    EXPECT_TRUE(
+        saved.Value().formerSheets.front().English().startsWith(m_root.Path(u"IconList.jpg"_s)));
     EXPECT_FALSE(m_root.Exists(u"SmallIconList.jpg"_s));
     EXPECT_EQ(m_root.ReadRaw(u"GAMELIST.LST"_s).count('\x02'), 1);
 }

@@ -98,12 +98,14 @@ TEST(LauncherCfg, RefusesWhatNoControlHasAndAFileThatEndsElsewhere)
         {13, u"1,2,3,4,5,6,7,8"_s, u"line 13: 1 column widths, 8 are needed"_s},
     };
     for (const Case& one : cases) {
-        EXPECT_EQ(ErrorOf(ParseLauncherCfg(LinesOf(With(one.line, one.text)))), one.fault);
+        EXPECT_EQ(
+            ErrorOf(ParseLauncherCfg(LinesOf(With(one.line, one.text)))),
+            u"Launcher.cfg: "_s + one.fault);
     }
     for (const int count : {0, 1, 2, 3, 4, 6, 9, 10, 11}) {
         EXPECT_EQ(
             ErrorOf(ParseLauncherCfg(LinesOf(kWhole).mid(0, count))),
-            u"line %1: missing"_s.arg(count + 1));
+            u"Launcher.cfg: line %1: missing"_s.arg(count + 1));
     }
 }
 
@@ -117,7 +119,7 @@ TEST(LauncherCfg, AWindowsStateSurvivesTheFile)
     cfg.state = MainFrame::State::Minimized;
     const QStringList shortForm = LauncherCfgLines(cfg);
     EXPECT_EQ(TextOf(shortForm), u"3|"_s + kRoots + kPlacement + u"1#2#3.5#0#5#6#7#8|1"_s);
-    EXPECT_EQ(ErrorOf(ParseLauncherCfg(shortForm)), u"line 12: missing"_s);
+    EXPECT_EQ(ErrorOf(ParseLauncherCfg(shortForm)), u"Launcher.cfg: line 12: missing"_s);
 
     const QStringList first = DefaultCfgLines(u"/mnt/게임"_s, u"/mnt/out"_s);
     EXPECT_EQ(TextOf(first), u"1|100|100|0|"_s + kRoots + u"100|100|0|4|"_s + kWidths);

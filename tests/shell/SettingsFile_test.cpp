@@ -59,7 +59,7 @@ TEST_F(SettingsFileTest, AFirstStartMakesFilesAndFolders)
     EXPECT_EQ(loaded.cfg.gamesRoot, folder.Path(u"Games"_s));
     EXPECT_EQ(loaded.cfg.exportRoot, folder.Path(u"Export"_s));
     EXPECT_TRUE(loaded.lostRoots.isEmpty());
-    EXPECT_TRUE(loaded.replacementReason.isEmpty());
+    EXPECT_FALSE(loaded.replacementReason);
 }
 
 TEST_F(SettingsFileTest, ReusesWhatDiffersByCaseOnly)
@@ -117,7 +117,7 @@ TEST_F(SettingsFileTest, NothingIsMadeInThePlaceOfAnUnpluggedDisk)
     folder.MakeLink(u"Games"_s, u"/nowhere/disk"_s);
     const LoadedSettings loaded = Loaded();
     EXPECT_EQ(loaded.cfg.gamesRoot, folder.Path(u"Games"_s));
-    EXPECT_EQ(loaded.unwritten, QStringList());
+    EXPECT_TRUE(loaded.unwritten.isEmpty());
     EXPECT_EQ(QFile::symLinkTarget(folder.Path(u"Games"_s)), u"/nowhere/disk"_s);
 }
 
@@ -143,7 +143,7 @@ TEST_F(SettingsFileTest, AnUnreadableFileIsMovedAside)
 {
     folder.WriteRaw(u"Launcher.cfg.bak"_s, "kept before");
     folder.MakeAll(u"Launcher.cfg/inside"_s);
-    EXPECT_FALSE(Loaded().replacementReason.isEmpty());
+    EXPECT_TRUE(Loaded().replacementReason);
     EXPECT_EQ(Cfg(), Defaults());
     EXPECT_TRUE(folder.Exists(u"Launcher.cfg.bak/inside"_s));
     EXPECT_EQ(folder.ReadRaw(u"Launcher.cfg.bak2"_s), "kept before");

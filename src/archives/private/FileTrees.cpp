@@ -22,6 +22,7 @@ using platform::Done;
 using platform::Error;
 using platform::ErrorKind;
 using platform::Success;
+using platform::Wording;
 
 namespace {
 
@@ -53,7 +54,15 @@ bool MayGoOn(const KeepGoing& keepGoing)
 
 Error GivenUp(const QByteArray& path)
 {
-    return Fault(ErrorKind::Abandoned, path, u"given up"_s);
+    return Error::Worded(
+        ErrorKind::Abandoned, Wording{482, u"<1>: given up."_s, {QFile::decodeName(path)}});
+}
+
+Error NotWhole(const QByteArray& path)
+{
+    return Error::Worded(
+        ErrorKind::Unwritable,
+        Wording{485, u"<1> did not arrive whole."_s, {QFile::decodeName(path)}});
 }
 
 bool WriteAll(int descriptor, const char* bytes, ssize_t count)
@@ -116,7 +125,9 @@ Done FillCopy(
         return SystemFault(ErrorKind::Unreadable, from);
     }
     if (!S_ISREG(status.st_mode)) {
-        return Fault(ErrorKind::Refused, from, u"is no plain file"_s);
+        return Error::Worded(
+            ErrorKind::Refused,
+            Wording{483, u"<1> is no plain file."_s, {QFile::decodeName(from)}});
     }
     Done copied = CopyBytes(in, out, from, to, keepGoing);
     if (!copied) {
@@ -127,7 +138,7 @@ Done FillCopy(
         return SystemFault(ErrorKind::Unwritable, to);
     }
     if (arrived.st_size != status.st_size) {
-        return Fault(ErrorKind::Unwritable, to, u"the copy has another length"_s);
+        return NotWhole(to);
     }
     TakeOver(out, status);
     return Success();
@@ -194,8 +205,7 @@ Done CompareTrees(const QByteArray& from, const QByteArray& to)
             const bool same = lstat(place.constData(), &arrived) == 0 &&
                               (arrived.st_mode & S_IFMT) == (status.st_mode & S_IFMT) &&
                               (!S_ISREG(status.st_mode) || arrived.st_size == status.st_size);
-            return same ? Success()
-                        : Done(Fault(ErrorKind::Unwritable, path, u"did not arrive whole"_s));
+            return same ? Success() : Done(NotWhole(path));
         },
         DoNothing);
 }
@@ -258,9 +268,12 @@ Done MoveByCopy(const QByteArray& from, const QByteArray& to, const KeepGoing& k
     }
     done = RemoveTree(from);
     if (!done) {
-        return Error{
+        return Error::Worded(
             done.Failure().kind,
-            u"%1 (the copy in %2 is whole)"_s.arg(done.Failure().text, QFile::decodeName(to))};
+            Wording{
+                486,
+                u"<1> (the copy in <2> is whole)"_s,
+                {done.Failure().text, QFile::decodeName(to)}});
     }
     return done;
 }

@@ -95,7 +95,9 @@ OneFileSystem::OneFileSystem(const QByteArray& root)
 Done OneFileSystem::Check(const QByteArray& path, const struct stat& status) const
 {
     if (m_ok && S_ISDIR(status.st_mode) && status.st_dev != m_parent.st_dev) {
-        return Fault(ErrorKind::Refused, path, u"is another file system"_s);
+        return Error::Worded(
+            ErrorKind::Refused,
+            platform::Wording{487, u"<1> is another file system."_s, {QFile::decodeName(path)}});
     }
     return Success();
 }
