@@ -16,10 +16,4 @@ struct ListSource {
     QString storeMark; // what the titles of stored games hold
 };
 
-/// The stored title in that language, which may be empty.
-inline const QString& TitleOf(const library::GameEntry& entry, bool titleLanguageKorean)
-{
-    return titleLanguageKorean ? entry.TitleK : entry.TitleE;
-}
-
 } // namespace pelorin::finding

@@ -9,12 +9,6 @@
 
 namespace pelorin::finding {
 
-const QString& DisplayTitle(const library::GameEntry& entry, bool titleLanguageKorean)
-{
-    const QString& title = TitleOf(entry, titleLanguageKorean);
-    return title.isEmpty() ? entry.Folder : title;
-}
-
 TitleOrder::TitleOrder(const QLocale& locale, bool titleLanguageKorean)
     : m_collator(locale)
     , m_titleLanguageKorean(titleLanguageKorean)

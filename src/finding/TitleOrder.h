@@ -15,9 +15,6 @@
 
 namespace pelorin::finding {
 
-/// The title in use, or the folder's name for a game without one.
-const QString& DisplayTitle(const library::GameEntry& entry, bool titleLanguageKorean);
-
 /// The order of titles in one title language, and the titles as the search compares them. Both
 /// are costly, so they are kept from one rebuild of the list to the next: only titles that differ
 /// from those of the last call are worked on.

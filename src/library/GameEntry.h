@@ -24,6 +24,22 @@ struct GameEntry {
     QString Country;
 };
 
+/// The stored title in that language, which may be empty.
+inline const QString& TitleOf(const GameEntry& entry, bool titleLanguageKorean)
+{
+    return titleLanguageKorean ? entry.TitleK : entry.TitleE;
+}
+
+/// The title in use, or the folder's name for a game without one.
+inline const QString& DisplayTitle(const QString& title, const QString& folder)
+{
+    return title.isEmpty() ? folder : title;
+}
+inline const QString& DisplayTitle(const GameEntry& entry, bool titleLanguageKorean)
+{
+    return DisplayTitle(TitleOf(entry, titleLanguageKorean), entry.Folder);
+}
+
 /// The facts that many games share.
 inline constexpr std::array<QString GameEntry::*, 6> kSharedFacts{
     &GameEntry::GenreK,

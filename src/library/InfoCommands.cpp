@@ -56,22 +56,21 @@ Saved SaveDraft(
     return Saved::Yes;
 }
 
-QString TitleOf(const Launcher& launcher, const QString& folder)
+QString TitleOfFolder(const Launcher& launcher, const QString& folder)
 {
     const int position = PositionOf(launcher.catalogue, folder);
     if (position < 0) {
         return folder;
     }
     const GameEntry& entry = launcher.catalogue[static_cast<std::size_t>(position)];
-    const QString& title = launcher.settings.TitleLanguageKorean ? entry.TitleK : entry.TitleE;
-    return title.isEmpty() ? folder : title;
+    return DisplayTitle(entry, launcher.settings.TitleLanguageKorean);
 }
 
 QString QuestionAboutDrafts(const Launcher& launcher)
 {
     QStringList titles;
     for (const auto& [folder, draft] : launcher.drafts) {
-        titles << TitleOf(launcher, folder);
+        titles << TitleOfFolder(launcher, folder);
     }
     const QStringList lines =
         QStringList{

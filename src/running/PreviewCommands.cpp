@@ -27,7 +27,7 @@ QString TitleOnceSaved(const shell::Launcher& launcher)
     marks.edited = marks.edited || launcher.screens.frame.tabInfo == dosboxconf::kGameTab;
     const auto& [korean, english] = details.savedInfo.titles;
     const QString& title = launcher.settings.TitleLanguageKorean ? korean : english;
-    return library::MarkedTitle(title.isEmpty() ? details.folder : title, marks, launcher.lang);
+    return library::MarkedTitle(library::DisplayTitle(title, details.folder), marks, launcher.lang);
 }
 
 } // namespace

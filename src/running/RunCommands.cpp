@@ -300,7 +300,7 @@ void RunRandomGame(Launcher& launcher)
         launcher.catalogue[static_cast<std::size_t>(QRandomGenerator::global()->bounded(games))];
     launcher.current.CurrentFolder = entry.Folder;
     launcher.current.CurrentTitle =
-        launcher.settings.TitleLanguageKorean ? entry.TitleK : entry.TitleE;
+        library::DisplayTitle(entry, launcher.settings.TitleLanguageKorean);
     // Where the list shows it, it is selected there.
     finding::GameList& list = launcher.screens.list;
     if (const int row = list.RowOf(entry.Folder); row >= 0) {

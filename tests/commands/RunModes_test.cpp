@@ -1,4 +1,5 @@
 #include "dosboxconf/EditorCommands.h"
+#include "finding/FilterCommands.h"
 #include "library/ShowinfoCommands.h"
 #include "platform/TextFile.h"
 #include "running/RunCommands.h"
@@ -322,4 +323,15 @@ TEST_F(RunModes, ARandomGameIsSelectedAndStarted)
         }
     }
     EXPECT_EQ(seen.size(), 2) << "64 draws of two";
+}
+
+TEST_F(RunModes, ARandomGameWithoutATitleThatTheListHidesBearsItsFoldersName)
+{
+    m_app.folder.WriteRaw(u"Games/하나/DosBox/info.txt"_s, "\x03Star\r\n");
+    Start();
+    m_launcher->screens.search.txtFind = u"없음"_s;
+    finding::cmdFind_Click(*m_launcher);
+    ASSERT_EQ(m_launcher->screens.list.RowOf(u"하나"_s), -1);
+    running::RunRandomGame(*m_launcher);
+    EXPECT_EQ(m_launcher->recent.RecentTitles[0], u"하나"_s);
 }
