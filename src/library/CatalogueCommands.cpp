@@ -348,11 +348,10 @@ Done MoveGameToBin(Launcher& launcher, const QString& folder)
 
 void RemoveGameEntries(Launcher& launcher, const QStringList& folders)
 {
-    launcher.icons.Remove(launcher.catalogue.Remove(QSet<QString>(folders.begin(), folders.end())));
+    const QSet<QString> gone(folders.begin(), folders.end());
+    launcher.icons.Remove(launcher.catalogue.Remove(gone));
     launcher.screens.list.changed.Tell(finding::GameList::Icons);
-    for (const QString& folder : folders) {
-        FolderGone(launcher, folder);
-    }
+    FoldersGone(launcher, gone);
     shell::SetPanelsEnabled(launcher, !launcher.catalogue.empty());
 }
 

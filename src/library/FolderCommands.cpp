@@ -7,6 +7,8 @@
 
 #include <QFileInfo>
 
+#include <map>
+
 using namespace Qt::StringLiterals;
 
 namespace pelorin::library {
@@ -39,10 +41,12 @@ void FolderRenamed(Launcher& launcher, const QString& oldName, const QString& ne
     }
 }
 
-void FolderGone(Launcher& launcher, const QString& folder)
+void FoldersGone(Launcher& launcher, const QSet<QString>& folders)
 {
-    launcher.current.BatchSelection.removeAll(folder);
-    launcher.drafts.erase(folder);
+    launcher.current.BatchSelection.removeIf(
+        [&](const QString& folder) { return folders.contains(folder); });
+    std::erase_if(
+        launcher.drafts, [&](const auto& draft) { return folders.contains(draft.first); });
 }
 
 } // namespace pelorin::library

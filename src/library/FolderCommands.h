@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSet>
 #include <QString>
 
 namespace pelorin::shell {
@@ -17,7 +18,7 @@ bool HasGameFolder(shell::Launcher& launcher, const QString& folder);
 /// The game's folder bears the new name on the disk and in the Catalogue.
 void FolderRenamed(shell::Launcher& launcher, const QString& oldName, const QString& newName);
 
-/// The game's folder is gone, from the disk and from the Catalogue.
-void FolderGone(shell::Launcher& launcher, const QString& folder);
+/// The games' folders are gone, from the disk and from the Catalogue.
+void FoldersGone(shell::Launcher& launcher, const QSet<QString>& folders);
 
 } // namespace pelorin::library
