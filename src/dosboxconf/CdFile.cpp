@@ -46,7 +46,8 @@ CdFacts ReadCdFacts(const library::GameFiles& files)
     if (files.meta.HasFolder(name)) {
         const platform::Listing cd = platform::ListFolder(files.MetaPath(name));
         facts.hasFolder = cd.exists;
-        facts.images = platform::FilesMatching(cd, {u"*.iso"_s, u"*.cue"_s});
+        facts.images =
+            platform::FilesWithEndings(cd, {u".iso"}) + platform::FilesWithEndings(cd, {u".cue"});
     }
     facts.hasConf = !files.meta.Find(u"CD.conf"_s).isEmpty();
     if (facts.hasConf) {

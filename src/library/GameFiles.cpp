@@ -1,13 +1,14 @@
 #include "library/GameFiles.h"
 
+#include "archives/FileOperations.h"
 #include "platform/PathWordings.h"
+#include "platform/TextFile.h"
 #include "shell/Places.h"
 
 #include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
-#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -45,22 +46,6 @@ QString FindFolder(const platform::Listing& listing, QStringView name)
             return folder.compare(name, Qt::CaseInsensitive) == 0;
         });
     return hit == listing.folders.end() ? QString() : *hit;
-}
-
-template <std::size_t count>
-QStringList FilesEndingWith(
-    const platform::Listing& listing, const std::array<QStringView, count>& endings)
-{
-    QStringList files;
-    for (const QString& file : listing.files) {
-        const bool hit = std::any_of(endings.begin(), endings.end(), [&](QStringView ending) {
-            return file.endsWith(ending, Qt::CaseInsensitive);
-        });
-        if (hit) {
-            files << file;
-        }
-    }
-    return files;
 }
 
 QString PathOf(const QString& folder, const platform::Listing& listing, const QString& name)
@@ -192,6 +177,32 @@ platform::Done MakeMetaDir(GameFiles& files)
     return platform::Success();
 }
 
+platform::Done WriteMeta(GameFiles& files, const QString& name, const QByteArray& bytes)
+{
+    platform::Done made = MakeMetaDir(files);
+    if (!made) {
+        return made;
+    }
+    platform::Done written = platform::WriteBytes(files.MetaPath(name), bytes);
+    if (written && !files.HasMetaFile(name)) {
+        files.NoteMetaFile(name);
+    }
+    return written;
+}
+
+platform::Done DeleteMeta(GameFiles& files, const QString& name)
+{
+    const QString found = files.meta.Find(name);
+    if (found.isEmpty()) {
+        return platform::Success();
+    }
+    platform::Done gone = archives::DeleteFileIfThere(files.MetaPath(found));
+    if (gone) {
+        files.ForgetMetaFile(found);
+    }
+    return gone;
+}
+
 bool IsGameStored(const GameFiles& files)
 {
     return files.HasGameFile(u"Store.7z"_s);
@@ -199,13 +210,13 @@ bool IsGameStored(const GameFiles& files)
 
 QStringList RunnableFiles(const GameFiles& files)
 {
-    return FilesEndingWith(files.game, std::array<QStringView, 3>{u".exe", u".com", u".bat"});
+    return platform::FilesWithEndings(files.game, {u".exe", u".com", u".bat"});
 }
 
 QStringList PictureFiles(const GameFiles& files)
 {
-    QStringList pictures = FilesEndingWith(
-        files.meta, std::array<QStringView, 5>{u".jpg", u".jpeg", u".png", u".gif", u".bmp"});
+    QStringList pictures =
+        platform::FilesWithEndings(files.meta, {u".jpg", u".jpeg", u".png", u".gif", u".bmp"});
     std::stable_partition(pictures.begin(), pictures.end(), [](const QString& name) {
         return name.compare(u"Icon.jpg"_s, Qt::CaseInsensitive) != 0;
     });
@@ -214,7 +225,7 @@ QStringList PictureFiles(const GameFiles& files)
 
 QStringList RecordingFiles(const GameFiles& files)
 {
-    return FilesEndingWith(files.meta, std::array<QStringView, 3>{u".avi", u".wav", u".vgm"});
+    return platform::FilesWithEndings(files.meta, {u".avi", u".wav", u".vgm"});
 }
 
 QString ManualDir(const GameFiles& files)

@@ -3,6 +3,7 @@
 #include "platform/Outcome.h"
 #include "platform/Paths.h"
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -67,6 +68,13 @@ GameFiles ListGame(const shell::Places& places, const QString& folder);
 /// Makes the metadata folder where there is none; `files` tells. An existing one is a success, also
 /// one that could not be listed. Error Refused when a file bears its name, Unwritable otherwise.
 platform::Done MakeMetaDir(GameFiles& files);
+
+/// Writes a file of the metadata folder, which is made where there is none; `files` tells.
+platform::Done WriteMeta(GameFiles& files, const QString& name, const QByteArray& bytes);
+
+/// Deletes the file of that name, in whatever case, from the metadata folder; `files` tells. None is a
+/// success.
+platform::Done DeleteMeta(GameFiles& files, const QString& name);
 
 /// The game's files lie in its store archive.
 bool IsGameStored(const GameFiles& files);

@@ -1,6 +1,5 @@
 #include "library/GameInfo.h"
 
-#include "archives/FileOperations.h"
 #include "library/private/NewFile.h"
 #include "platform/Numbers.h"
 
@@ -123,6 +122,11 @@ platform::Error TooLarge(const QString& path)
             441, u"<1>: too large to be edited here; the file stays as it is."_s, {path}});
 }
 
+platform::Error Unfit(const QString& path, const QString& lost)
+{
+    return platform::Error{platform::ErrorKind::Unencodable, u"%1: %2"_s.arg(path, lost)};
+}
+
 bool EndsALine(const QByteArray& line)
 {
     return line.endsWith('\n') || line.endsWith('\r');
@@ -174,11 +178,7 @@ QString ReadGenreFile(GameFiles& files, GenreFile which, QStringView missing, Tr
         return CleanField(*line);
     }
     if (files.meta.exists && !files.HasMetaFile(name)) {
-        const platform::Done written = WriteNewFile(files.MetaPath(name), {missing.toString()});
-        troubles.AddIfFailed(written);
-        if (written) {
-            files.NoteMetaFile(name);
-        }
+        troubles.AddIfFailed(WriteNewMeta(files, name, {missing.toString()}));
     }
     return missing.toString();
 }
@@ -202,26 +202,15 @@ Genres ConvertOldGenre(GameFiles& files, const QString& code, GenreForm form, Tr
     if (!korean || !second) {
         return genres;
     }
-    const QString name = files.meta.Find(u"Extra.dat"_s);
-    const platform::Done gone = archives::DeleteFileIfThere(files.MetaPath(name));
-    troubles.AddIfFailed(gone);
-    if (gone) {
-        files.ForgetMetaFile(name);
-    }
+    troubles.AddIfFailed(DeleteMeta(files, u"Extra.dat"_s));
     return genres;
 }
 
 platform::Done WriteMetaLines(GameFiles& files, const QString& name, const QStringList& lines)
 {
-    platform::Done made = MakeMetaDir(files);
-    if (!made) {
-        return made;
-    }
-    platform::Done written = platform::WriteLines(files.MetaPath(name), lines);
-    if (written && !files.HasMetaFile(name)) {
-        files.NoteMetaFile(name);
-    }
-    return written;
+    const platform::Encoded text = platform::EncodeCp949(lines.join(u"\r\n"_s) + u"\r\n"_s);
+    return text.lost.isEmpty() ? WriteMeta(files, name, text.bytes)
+                               : platform::Done(Unfit(files.MetaPath(name), text.lost));
 }
 
 } // namespace
@@ -314,13 +303,9 @@ platform::Done WriteInfo(GameFiles& files, const InfoChange& change, Loss loss)
         return TooLarge(path);
     }
     if (loss == Loss::Refuse && !lost.isEmpty()) {
-        return platform::Error{platform::ErrorKind::Unencodable, u"%1: %2"_s.arg(path, lost)};
+        return Unfit(path, lost);
     }
-    platform::Done written = platform::WriteBytes(path, bytes);
-    if (written && !files.HasMetaFile(name)) {
-        files.NoteMetaFile(name);
-    }
-    return written;
+    return WriteMeta(files, name, bytes);
 }
 
 Facts ReadFacts(const GameFiles& files, Troubles* troubles)
@@ -347,15 +332,7 @@ platform::Done WriteFacts(GameFiles& files, const Facts& facts)
 
 platform::Done DeleteFacts(GameFiles& files)
 {
-    const QString name = files.meta.Find(u"ExtraInfo.txt"_s);
-    if (name.isEmpty()) {
-        return platform::Success();
-    }
-    platform::Done gone = archives::DeleteFileIfThere(files.MetaPath(name));
-    if (gone) {
-        files.ForgetMetaFile(name);
-    }
-    return gone;
+    return DeleteMeta(files, u"ExtraInfo.txt"_s);
 }
 
 Genres ReadGenres(GameFiles& files, GenreForm form, Troubles& troubles)

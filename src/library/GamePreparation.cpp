@@ -1,6 +1,5 @@
 #include "library/GamePreparation.h"
 
-#include "archives/FileOperations.h"
 #include "library/IconImages.h"
 #include "library/private/NewFile.h"
 #include "platform/PathWordings.h"
@@ -35,16 +34,11 @@ void WriteStartFile(GameFiles& files, Troubles& troubles)
     if (files.HasMetaFile(name)) {
         return;
     }
-    const QString path = files.MetaPath(name);
-    platform::Done written = WriteNewFile(path, {DetectStartFile(files)});
+    const platform::Done written = WriteNewMeta(files, name, {DetectStartFile(files)});
     troubles.AddIfFailed(written);
     if (!written && written.Failure().kind == platform::ErrorKind::Unencodable) {
         // DOS could not be told that name either.
-        written = WriteNewFile(path, {QString()});
-        troubles.AddIfFailed(written);
-    }
-    if (written) {
-        files.NoteMetaFile(name);
+        troubles.AddIfFailed(WriteNewMeta(files, name, {QString()}));
     }
 }
 
@@ -74,20 +68,15 @@ IconPixels IconOfGame(GameFiles& files, const IconPixels& defaultIcon, Troubles&
         }
         return icon.ValueOr(defaultIcon);
     }
-    const QStringList icos = platform::FilesMatching(files.meta, {u"*.ico"_s});
+    const QStringList icos = platform::FilesWithEndings(files.meta, {u".ico"});
     return icos.isEmpty() ? defaultIcon : IconFromIco(files, icos[0], defaultIcon, troubles);
 }
 
 void DeleteSmallIcon(GameFiles& files, Troubles& troubles)
 {
-    const QString name = files.meta.Find(u"smallicon.jpg"_s);
-    if (name.isEmpty() || !files.HasMetaFile(name)) {
-        return;
-    }
-    const platform::Done gone = archives::DeleteFileIfThere(files.MetaPath(name));
-    troubles.AddIfFailed(gone);
-    if (gone) {
-        files.ForgetMetaFile(name);
+    const QString name = u"smallicon.jpg"_s;
+    if (files.HasMetaFile(name)) {
+        troubles.AddIfFailed(DeleteMeta(files, name));
     }
 }
 

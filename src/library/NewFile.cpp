@@ -8,10 +8,11 @@ using namespace Qt::StringLiterals;
 
 namespace pelorin::library {
 
-platform::Done WriteNewFile(const QString& path, const QStringList& lines)
+platform::Done WriteNewMeta(GameFiles& files, const QString& name, const QStringList& lines)
 {
     using platform::Error;
     using platform::ErrorKind;
+    const QString path = files.MetaPath(name);
     const platform::Encoded text = platform::EncodeCp949(lines.join(u"\r\n"_s) + u"\r\n"_s);
     if (!text.lost.isEmpty()) {
         return Error{ErrorKind::Unencodable, u"%1: %2"_s.arg(path, text.lost)};
@@ -26,6 +27,7 @@ platform::Done WriteNewFile(const QString& path, const QStringList& lines)
         file.remove();
         return Error{ErrorKind::Unwritable, u"%1: %2"_s.arg(path, reason)};
     }
+    files.NoteMetaFile(name);
     return platform::Success();
 }
 

@@ -7,6 +7,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -203,21 +204,19 @@ QString ResolvePath(const QString& base, const QString& relative)
     return path;
 }
 
-QStringList FilesMatching(const Listing& listing, const QStringList& patterns)
+QStringList FilesWithEndings(const Listing& listing, std::initializer_list<QStringView> endings)
 {
-    QStringList matches;
-    for (const QString& pattern : patterns) {
-        const QString ending =
-            pattern.startsWith(u'*') ? pattern.mid(1).toLower() : pattern.toLower();
-        const bool anyStart = pattern.startsWith(u'*');
-        for (const QString& file : listing.files) {
-            const QString lower = file.toLower();
-            if (anyStart ? lower.endsWith(ending) : lower == ending) {
-                matches << file;
-            }
-        }
-    }
-    return matches;
+    QStringList files;
+    std::copy_if(
+        listing.files.begin(),
+        listing.files.end(),
+        std::back_inserter(files),
+        [&](const QString& file) {
+            return std::any_of(endings.begin(), endings.end(), [&](QStringView ending) {
+                return file.endsWith(ending, Qt::CaseInsensitive);
+            });
+        });
+    return files;
 }
 
 } // namespace pelorin::platform

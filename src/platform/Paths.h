@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <initializer_list>
 #include <optional>
 
 // Inside the program a path is a native path. Names are found without regard to case, since game
@@ -57,8 +58,8 @@ std::optional<QString> FindPath(const QString& base, const QString& relative);
 /// disk, the rest stands as given.
 QString ResolvePath(const QString& base, const QString& relative);
 
-/// Files of a folder that match one of the patterns ("*.iso"), without regard to case, pattern by
-/// pattern in the order given, each in the listing's order.
-QStringList FilesMatching(const Listing& listing, const QStringList& patterns);
+/// Files of a folder that end with one of the endings (".iso"), without regard to case, in the
+/// listing's order.
+QStringList FilesWithEndings(const Listing& listing, std::initializer_list<QStringView> endings);
 
 } // namespace pelorin::platform

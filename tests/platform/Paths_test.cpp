@@ -111,14 +111,13 @@ TEST(Paths, AreFoundPartByPart)
     EXPECT_EQ(ResolvePath(folder.Path(u"none"_s), u"a/b"_s), folder.Path(u"none/a/b"_s));
 }
 
-TEST(Listing, FilesMatchPatternByPattern)
+TEST(Listing, FilesByTheirEndingsInWhateverCase)
 {
     const TestFolder folder;
     folder.MakeAll(u"b.CUE A.iso c.Iso .iso Store.7z x.iso/"_s);
     const Listing listing = ListFolder(folder.Path());
-    EXPECT_EQ(FilesMatching(listing, Words(u"*.cue *.ISO"_s)), Words(u"b.CUE A.iso c.Iso"_s));
-    EXPECT_EQ(FilesMatching(listing, {u"store.7Z"_s}), QStringList{u"Store.7z"_s});
-    EXPECT_EQ(FilesMatching(listing, Words(u".iso *.gif"_s)), QStringList());
+    EXPECT_EQ(FilesWithEndings(listing, {u".cue", u".ISO"}), Words(u"A.iso b.CUE c.Iso"_s));
+    EXPECT_EQ(FilesWithEndings(listing, {u".gif"}), QStringList());
 }
 
 } // namespace

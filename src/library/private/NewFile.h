@@ -1,5 +1,6 @@
 #pragma once
 
+#include "library/GameFiles.h"
 #include "platform/Outcome.h"
 
 #include <QString>
@@ -7,9 +8,10 @@
 
 namespace pelorin::library {
 
-/// Writes a small file that must not exist yet, each line ended by CR LF. Without the detour by a
-/// temporary file, since there is nothing to lose; a scan makes tens of thousands of these. Error
-/// Unwritable (also when there is one, or a dangling link), or Unencodable with nothing written.
-platform::Done WriteNewFile(const QString& path, const QStringList& lines);
+/// Writes a small file of the metadata folder that must not exist yet, each line ended by CR LF;
+/// `files` tells. Without the detour by a temporary file, since there is nothing to lose; a scan makes
+/// tens of thousands of these. Error Unwritable (also when there is one, or a dangling link), or
+/// Unencodable with nothing written.
+platform::Done WriteNewMeta(GameFiles& files, const QString& name, const QStringList& lines);
 
 } // namespace pelorin::library
