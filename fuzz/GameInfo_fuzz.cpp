@@ -59,21 +59,15 @@ void CheckFacts(library::GameFiles& files)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     static const fuzz::FuzzInstallation installation;
-    static const QStringList names{
-        u"info.txt"_s,
-        u"ExtraInfo.txt"_s,
-        u"GenreK.dat"_s,
-        u"GenreE.dat"_s,
-        u"Extra.dat"_s,
-        u"edit.conf"_s};
     if (size == 0) {
         return 0;
     }
-    for (const QString& name : names) {
-        fuzz::FuzzInstallation::Remove(installation.InMeta(name));
+    for (const library::EntryFile& file : library::kEntryFiles) {
+        fuzz::FuzzInstallation::Remove(installation.InMeta(file.name.toString()));
     }
+    const QStringView name = library::kEntryFiles[data[0] % library::kEntryFiles.size()].name;
     fuzz::FuzzInstallation::Write(
-        installation.InMeta(names[data[0] % names.size()]), fuzz::BytesOf(data + 1, size - 1));
+        installation.InMeta(name.toString()), fuzz::BytesOf(data + 1, size - 1));
 
     library::GameFiles files = installation.Star();
     library::ReadBuild(files, 3);

@@ -17,7 +17,7 @@ namespace {
 
 QString CdConfPath(const shell::Places& places, const QString& folder)
 {
-    return places.InMetaDir(folder, u"CD.conf"_s);
+    return places.InMetaDir(folder, library::kCdConfFile.toString());
 }
 
 void ShowImages(CdPanel& panel, const QStringList& images)
@@ -49,10 +49,10 @@ CdFacts ReadCdFacts(const library::GameFiles& files)
         facts.images =
             platform::FilesWithEndings(cd, {u".iso"}) + platform::FilesWithEndings(cd, {u".cue"});
     }
-    facts.hasConf = !files.meta.Find(u"CD.conf"_s).isEmpty();
+    facts.hasConf = !files.meta.Find(library::kCdConfFile.toString()).isEmpty();
     if (facts.hasConf) {
-        const QStringList lines =
-            platform::ReadFirstLines(files.MetaPath(u"CD.conf"_s), 2).ValueOr(QStringList());
+        const QStringList lines = platform::ReadFirstLines(files.MetaPath(library::kCdConfFile), 2)
+                                      .ValueOr(QStringList());
         facts.chkMountCD = platform::IntegerPrefix(lines.value(0)) != 0;
         facts.CdMountMode = platform::IntegerPrefix(lines.value(1)) != 0 ? 1 : 0;
     }

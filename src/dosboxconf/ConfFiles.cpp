@@ -272,7 +272,7 @@ LoadedConf LoadGameConf(
 {
     LoadedConf loaded;
     loaded.report = ReadDefaultConf(places, grid);
-    const QString name = u"edit.conf"_s;
+    const QString name = library::kOwnConfFile.toString();
     if (files.meta.Find(name).isEmpty()) {
         return loaded;
     }

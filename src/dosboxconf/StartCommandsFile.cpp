@@ -16,7 +16,7 @@ using Changed = StartCommands::Changed;
 
 QString AutoexecConfPath(const shell::Places& places, const QString& folder)
 {
-    return places.InMetaDir(folder, u"autoexec.conf"_s);
+    return places.InMetaDir(folder, library::kStartFile.toString());
 }
 
 QStringList WithoutEmptyLines(QStringList lines)
@@ -69,9 +69,9 @@ platform::Outcome<QStringList> ReadAutoexecConf(const shell::Places& places, con
 
 platform::Outcome<QStringList> ReadAutoexecConf(const library::GameFiles& files)
 {
-    const QString name = u"autoexec.conf"_s;
-    return files.HasMetaFile(name) ? ReadCommands(files.MetaPath(name))
-                                   : platform::Outcome<QStringList>(QStringList());
+    return files.HasMetaFile(library::kStartFile)
+               ? ReadCommands(files.MetaPath(library::kStartFile))
+               : platform::Outcome<QStringList>(QStringList());
 }
 
 platform::Done WriteAutoexecConf(

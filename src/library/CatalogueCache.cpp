@@ -84,17 +84,9 @@ bool FitsList(const GameEntry& entry)
 /// The same for a game that is not in the Catalogue, by the files that its record is made of.
 bool HoldsUnfitText(const shell::Places& places, const QString& folder)
 {
-    struct Source {
-        QString name;
-        int lines = 0;
-    };
     const GameFiles files = ListGame(places, folder);
-    for (const Source& source :
-         {Source{u"info.txt"_s, 1},
-          Source{u"ExtraInfo.txt"_s, 4},
-          Source{u"GenreK.dat"_s, 1},
-          Source{u"GenreE.dat"_s, 1}}) {
-        if (!files.HasMetaFile(source.name)) {
+    for (const EntryFile& source : kEntryFiles) {
+        if (source.lines == 0 || !files.HasMetaFile(source.name)) {
             continue;
         }
         const QStringList lines =

@@ -25,32 +25,25 @@ struct ListedGame {
     QString metaName; // as spelled on disk
     bool metaExists = false;
     bool stored = false;
-    QStringList metaFiles; // those that make up an entry, as spelled on disk
+    QStringList metaFiles; // those of kEntryFiles that are there, as spelled on disk
 };
 
-ListedGame Shorten(const GameFiles& files)
+ListedGame KeepForEntry(const GameFiles& files)
 {
     ListedGame listed;
     listed.folder = files.folder;
     listed.metaName = platform::LastPathSegment(files.metaDir);
     listed.metaExists = files.meta.exists;
     listed.stored = IsGameStored(files);
-    for (const QString& name :
-         {u"info.txt"_s,
-          u"ExtraInfo.txt"_s,
-          u"GenreK.dat"_s,
-          u"GenreE.dat"_s,
-          u"Extra.dat"_s,
-          u"edit.conf"_s,
-          u"CD.conf"_s}) {
-        if (files.HasMetaFile(name)) {
-            listed.metaFiles << files.meta.Find(name);
+    for (const EntryFile& file : kEntryFiles) {
+        if (files.HasMetaFile(file.name)) {
+            listed.metaFiles << files.meta.Find(file.name.toString());
         }
     }
     return listed;
 }
 
-GameFiles Lengthen(const shell::Places& places, const ListedGame& listed)
+GameFiles FilesOfKept(const shell::Places& places, const ListedGame& listed)
 {
     GameFiles files;
     files.folder = listed.folder;
@@ -59,7 +52,7 @@ GameFiles Lengthen(const shell::Places& places, const ListedGame& listed)
     files.game.exists = true;
     files.meta.exists = listed.metaExists;
     if (listed.stored) {
-        files.NoteGameFile(u"Store.7z"_s);
+        files.NoteGameFile(kStoreFile);
     }
     for (const QString& name : listed.metaFiles) {
         files.NoteMetaFile(name);
@@ -118,7 +111,7 @@ private:
             GameFiles files = ListGame(m_places, folders[i]);
             if (files.game.exists || QFileInfo::exists(files.gameDir)) {
                 m_result.icons.Append(PrepareGameFolder(files, m_defaultIcon, m_result.troubles));
-                m_listed.push_back(Shorten(files));
+                m_listed.push_back(KeepForEntry(files));
             } else {
                 m_result.refused << FolderIsGone(folders[i]);
             }
@@ -137,7 +130,7 @@ private:
         m_result.catalogue.reserve(m_listed.size());
         TextPool pool;
         for (int i = 0; i < count; ++i) {
-            GameFiles files = Lengthen(m_places, m_listed[static_cast<std::size_t>(i)]);
+            GameFiles files = FilesOfKept(m_places, m_listed[static_cast<std::size_t>(i)]);
             m_result.catalogue.push_back(ReadGameFolder(files, i, m_rules, m_result.troubles));
             pool.ShareFacts(m_result.catalogue.back());
             if (!steps.At(i)) {

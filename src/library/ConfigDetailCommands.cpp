@@ -76,8 +76,7 @@ platform::Done Store(Launcher& launcher, const QString& folder, const Facts& fac
 {
     GameFiles files = ListGame(launcher.places, folder);
     const bool same = TextsOf(ReadFacts(files)) == TextsOf(facts);
-    return same && files.HasMetaFile(u"ExtraInfo.txt"_s) ? platform::Success()
-                                                         : WriteFacts(files, facts);
+    return same && files.HasMetaFile(kFactsFile) ? platform::Success() : WriteFacts(files, facts);
 }
 
 /// What games have in each category by now.

@@ -71,24 +71,24 @@ void Troubles::AddIfFailed(const platform::Done& done)
     }
 }
 
-QString GameFiles::GamePath(const QString& name) const
+QString GameFiles::GamePath(QStringView name) const
 {
-    return PathOf(gameDir, game, name);
+    return PathOf(gameDir, game, name.toString());
 }
 
-QString GameFiles::MetaPath(const QString& name) const
+QString GameFiles::MetaPath(QStringView name) const
 {
-    return PathOf(metaDir, meta, name);
+    return PathOf(metaDir, meta, name.toString());
 }
 
-void GameFiles::NoteGameFile(const QString& name)
+void GameFiles::NoteGameFile(QStringView name)
 {
-    NoteName(game, game.files, name);
+    NoteName(game, game.files, name.toString());
 }
 
-void GameFiles::NoteMetaFile(const QString& name)
+void GameFiles::NoteMetaFile(QStringView name)
 {
-    NoteName(meta, meta.files, name);
+    NoteName(meta, meta.files, name.toString());
 }
 
 void GameFiles::NoteMetaFolder(const QString& name)
@@ -177,7 +177,7 @@ platform::Done MakeMetaDir(GameFiles& files)
     return platform::Success();
 }
 
-platform::Done WriteMeta(GameFiles& files, const QString& name, const QByteArray& bytes)
+platform::Done WriteMeta(GameFiles& files, QStringView name, const QByteArray& bytes)
 {
     platform::Done made = MakeMetaDir(files);
     if (!made) {
@@ -190,9 +190,9 @@ platform::Done WriteMeta(GameFiles& files, const QString& name, const QByteArray
     return written;
 }
 
-platform::Done DeleteMeta(GameFiles& files, const QString& name)
+platform::Done DeleteMeta(GameFiles& files, QStringView name)
 {
-    const QString found = files.meta.Find(name);
+    const QString found = files.meta.Find(name.toString());
     if (found.isEmpty()) {
         return platform::Success();
     }
@@ -205,7 +205,7 @@ platform::Done DeleteMeta(GameFiles& files, const QString& name)
 
 bool IsGameStored(const GameFiles& files)
 {
-    return files.HasGameFile(u"Store.7z"_s);
+    return files.HasGameFile(kStoreFile);
 }
 
 QStringList RunnableFiles(const GameFiles& files)
@@ -218,7 +218,7 @@ QStringList PictureFiles(const GameFiles& files)
     QStringList pictures =
         platform::FilesWithEndings(files.meta, {u".jpg", u".jpeg", u".png", u".gif", u".bmp"});
     std::stable_partition(pictures.begin(), pictures.end(), [](const QString& name) {
-        return name.compare(u"Icon.jpg"_s, Qt::CaseInsensitive) != 0;
+        return name.compare(kIconFile, Qt::CaseInsensitive) != 0;
     });
     return pictures;
 }

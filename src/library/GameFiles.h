@@ -6,7 +6,9 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <QStringView>
 
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -15,6 +17,35 @@ struct Places;
 }
 
 namespace pelorin::library {
+
+// The files of a game that the program knows by name; all but the first lie in the metadata folder.
+inline constexpr QStringView kStoreFile = u"Store.7z";
+inline constexpr QStringView kInfoFile = u"info.txt";
+inline constexpr QStringView kFactsFile = u"ExtraInfo.txt";
+inline constexpr QStringView kGenreKFile = u"GenreK.dat";
+inline constexpr QStringView kGenreEFile = u"GenreE.dat";
+inline constexpr QStringView kOldGenreFile = u"Extra.dat"; // of older releases, instead of both
+inline constexpr QStringView kOwnConfFile = u"edit.conf";
+inline constexpr QStringView kCdConfFile = u"CD.conf";
+inline constexpr QStringView kStartFile = u"autoexec.conf";
+inline constexpr QStringView kIconFile = u"Icon.jpg";
+
+/// A file that a GameEntry is made of.
+struct EntryFile {
+    QStringView name;
+    int lines = 0; // how many of its first ones stand in the entry; 0: none
+};
+
+/// All of them. ReadGameFolder asks for no other, since a scan keeps no other's name.
+inline constexpr std::array<EntryFile, 7> kEntryFiles{{
+    {kInfoFile, 1},
+    {kFactsFile, 4},
+    {kGenreKFile, 1},
+    {kGenreEFile, 1},
+    {kOldGenreFile, 0},
+    {kOwnConfFile, 0},
+    {kCdConfFile, 0},
+}};
 
 /// What went wrong on the way of a job that goes on all the same. Only the first ones are kept in
 /// words, so that a library on a read-only disk does not fill the memory.
@@ -38,15 +69,15 @@ struct GameFiles {
     platform::Listing
         meta; // exists is false while there is no metadata folder, or it is unreadable
 
-    bool HasGameFile(const QString& name) const { return game.HasFile(name); }
-    bool HasMetaFile(const QString& name) const { return meta.HasFile(name); }
+    bool HasGameFile(QStringView name) const { return game.HasFile(name.toString()); }
+    bool HasMetaFile(QStringView name) const { return meta.HasFile(name.toString()); }
     /// The path of an entry in its spelling on disk, or as given when there is none.
-    QString GamePath(const QString& name) const;
-    QString MetaPath(const QString& name) const;
+    QString GamePath(QStringView name) const;
+    QString MetaPath(QStringView name) const;
 
     /// An entry was made or is gone. Known ones may be noted again.
-    void NoteGameFile(const QString& name);
-    void NoteMetaFile(const QString& name);
+    void NoteGameFile(QStringView name);
+    void NoteMetaFile(QStringView name);
     void NoteMetaFolder(const QString& name);
     void ForgetMetaFile(const QString& name);
 };
@@ -70,11 +101,11 @@ GameFiles ListGame(const shell::Places& places, const QString& folder);
 platform::Done MakeMetaDir(GameFiles& files);
 
 /// Writes a file of the metadata folder, which is made where there is none; `files` tells.
-platform::Done WriteMeta(GameFiles& files, const QString& name, const QByteArray& bytes);
+platform::Done WriteMeta(GameFiles& files, QStringView name, const QByteArray& bytes);
 
 /// Deletes the file of that name, in whatever case, from the metadata folder; `files` tells. None is a
 /// success.
-platform::Done DeleteMeta(GameFiles& files, const QString& name);
+platform::Done DeleteMeta(GameFiles& files, QStringView name);
 
 /// The game's files lie in its store archive.
 bool IsGameStored(const GameFiles& files);

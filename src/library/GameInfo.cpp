@@ -35,9 +35,9 @@ constexpr std::array<OldGenre, 8> kOldGenres{{
 }};
 constexpr OldGenre kOtherGenre{u"", u"기타", u"ETC", u"ETC"};
 
-QString GenreFileName(GenreFile which)
+QStringView GenreFileName(GenreFile which)
 {
-    return which == GenreFile::Korean ? u"GenreK.dat"_s : u"GenreE.dat"_s;
+    return which == GenreFile::Korean ? kGenreKFile : kGenreEFile;
 }
 
 bool IsFieldBreak(QChar c)
@@ -103,10 +103,10 @@ InfoBytes SplitInfoBytes(const platform::FileStart& file)
 
 platform::Outcome<InfoBytes> ReadInfoBytes(const GameFiles& files)
 {
-    if (!files.HasMetaFile(u"info.txt"_s)) {
+    if (!files.HasMetaFile(kInfoFile)) {
         return InfoBytes{};
     }
-    const auto start = platform::ReadStart(files.MetaPath(u"info.txt"_s), kMostInfo);
+    const auto start = platform::ReadStart(files.MetaPath(kInfoFile), kMostInfo);
     if (!start) {
         const bool gone = start.Failure().kind == platform::ErrorKind::NotFound;
         return gone ? platform::Outcome<InfoBytes>(InfoBytes{}) : start.Failure();
@@ -152,7 +152,7 @@ QByteArray ComposeInfo(const InfoBytes& old, const InfoChange& change, QString& 
 
 /// nullopt if the file is not there or can't be read; the latter is a trouble.
 std::optional<QStringList> FirstLines(
-    const GameFiles& files, const QString& name, int count, Troubles* troubles)
+    const GameFiles& files, QStringView name, int count, Troubles* troubles)
 {
     if (!files.HasMetaFile(name)) {
         return std::nullopt;
@@ -165,7 +165,7 @@ std::optional<QStringList> FirstLines(
 }
 
 /// The first line; empty for an empty file.
-std::optional<QString> FirstLine(const GameFiles& files, const QString& name, Troubles* troubles)
+std::optional<QString> FirstLine(const GameFiles& files, QStringView name, Troubles* troubles)
 {
     const std::optional<QStringList> lines = FirstLines(files, name, 1, troubles);
     return lines ? std::optional(lines->value(0)) : std::nullopt;
@@ -173,7 +173,7 @@ std::optional<QString> FirstLine(const GameFiles& files, const QString& name, Tr
 
 QString ReadGenreFile(GameFiles& files, GenreFile which, QStringView missing, Troubles& troubles)
 {
-    const QString name = GenreFileName(which);
+    const QStringView name = GenreFileName(which);
     if (const std::optional<QString> line = FirstLine(files, name, &troubles)) {
         return CleanField(*line);
     }
@@ -202,11 +202,11 @@ Genres ConvertOldGenre(GameFiles& files, const QString& code, GenreForm form, Tr
     if (!korean || !second) {
         return genres;
     }
-    troubles.AddIfFailed(DeleteMeta(files, u"Extra.dat"_s));
+    troubles.AddIfFailed(DeleteMeta(files, kOldGenreFile));
     return genres;
 }
 
-platform::Done WriteMetaLines(GameFiles& files, const QString& name, const QStringList& lines)
+platform::Done WriteMetaLines(GameFiles& files, QStringView name, const QStringList& lines)
 {
     const platform::Encoded text = platform::EncodeCp949(lines.join(u"\r\n"_s) + u"\r\n"_s);
     return text.lost.isEmpty() ? WriteMeta(files, name, text.bytes)
@@ -239,7 +239,7 @@ Titles SplitTitleLine(const QString& line, const QString& folder)
 Titles ReadTitles(const GameFiles& files, Troubles* troubles)
 {
     // A folder's name is no title line: there is nothing in it to split.
-    const std::optional<QString> line = FirstLine(files, u"info.txt"_s, troubles);
+    const std::optional<QString> line = FirstLine(files, kInfoFile, troubles);
     return SplitTitleLine(line.value_or(QString()), files.folder);
 }
 
@@ -283,8 +283,7 @@ platform::Done WriteInfo(GameFiles& files, const InfoChange& change, Loss loss)
     if (!made) {
         return made;
     }
-    const QString name = u"info.txt"_s;
-    const QString path = files.MetaPath(name);
+    const QString path = files.MetaPath(kInfoFile);
     const platform::Outcome<InfoBytes> old = ReadInfoBytes(files);
     if (!old) {
         return old.Failure();
@@ -305,13 +304,12 @@ platform::Done WriteInfo(GameFiles& files, const InfoChange& change, Loss loss)
     if (loss == Loss::Refuse && !lost.isEmpty()) {
         return Unfit(path, lost);
     }
-    return WriteMeta(files, name, bytes);
+    return WriteMeta(files, kInfoFile, bytes);
 }
 
 Facts ReadFacts(const GameFiles& files, Troubles* troubles)
 {
-    const QStringList lines =
-        FirstLines(files, u"ExtraInfo.txt"_s, 4, troubles).value_or(QStringList());
+    const QStringList lines = FirstLines(files, kFactsFile, 4, troubles).value_or(QStringList());
     return Facts{
         CleanField(lines.value(0)),
         CleanField(lines.value(1)),
@@ -323,7 +321,7 @@ platform::Done WriteFacts(GameFiles& files, const Facts& facts)
 {
     return WriteMetaLines(
         files,
-        u"ExtraInfo.txt"_s,
+        kFactsFile,
         {CleanField(facts.Maker),
          CleanField(facts.Release),
          CleanField(facts.GameLanguage),
@@ -332,12 +330,12 @@ platform::Done WriteFacts(GameFiles& files, const Facts& facts)
 
 platform::Done DeleteFacts(GameFiles& files)
 {
-    return DeleteMeta(files, u"ExtraInfo.txt"_s);
+    return DeleteMeta(files, kFactsFile);
 }
 
 Genres ReadGenres(GameFiles& files, GenreForm form, Troubles& troubles)
 {
-    if (const std::optional<QString> code = FirstLine(files, u"Extra.dat"_s, &troubles)) {
+    if (const std::optional<QString> code = FirstLine(files, kOldGenreFile, &troubles)) {
         return ConvertOldGenre(files, *code, form, troubles);
     }
     return Genres{
@@ -359,7 +357,7 @@ std::int16_t BuildOf(const QString& line)
 
 std::int16_t ReadBuild(const GameFiles& files, std::int16_t defaultBuild, Troubles* troubles)
 {
-    const std::optional<QStringList> lines = FirstLines(files, u"edit.conf"_s, 2, troubles);
+    const std::optional<QStringList> lines = FirstLines(files, kOwnConfFile, 2, troubles);
     return lines ? BuildOf(lines->value(1)) : defaultBuild;
 }
 

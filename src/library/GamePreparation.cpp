@@ -30,15 +30,14 @@ void MakeMetaSubFolder(GameFiles& files, const QString& name, Troubles& troubles
 
 void WriteStartFile(GameFiles& files, Troubles& troubles)
 {
-    const QString name = u"autoexec.conf"_s;
-    if (files.HasMetaFile(name)) {
+    if (files.HasMetaFile(kStartFile)) {
         return;
     }
-    const platform::Done written = WriteNewMeta(files, name, {DetectStartFile(files)});
+    const platform::Done written = WriteNewMeta(files, kStartFile, {DetectStartFile(files)});
     troubles.AddIfFailed(written);
     if (!written && written.Failure().kind == platform::ErrorKind::Unencodable) {
         // DOS could not be told that name either.
-        troubles.AddIfFailed(WriteNewMeta(files, name, {QString()}));
+        troubles.AddIfFailed(WriteNewMeta(files, kStartFile, {QString()}));
     }
 }
 
@@ -50,19 +49,18 @@ IconPixels IconFromIco(
         troubles.Add(icon.Failure());
         return defaultIcon;
     }
-    const QString name = u"Icon.jpg"_s;
-    const platform::Done saved = SaveIcon(files.MetaPath(name), icon.Value());
+    const platform::Done saved = SaveIcon(files.MetaPath(kIconFile), icon.Value());
     troubles.AddIfFailed(saved);
     if (saved) {
-        files.NoteMetaFile(name);
+        files.NoteMetaFile(kIconFile);
     }
     return icon.Value();
 }
 
 IconPixels IconOfGame(GameFiles& files, const IconPixels& defaultIcon, Troubles& troubles)
 {
-    if (files.HasMetaFile(u"Icon.jpg"_s)) {
-        const platform::Outcome<IconPixels> icon = LoadIcon(files.MetaPath(u"Icon.jpg"_s));
+    if (files.HasMetaFile(kIconFile)) {
+        const platform::Outcome<IconPixels> icon = LoadIcon(files.MetaPath(kIconFile));
         if (!icon) {
             troubles.Add(icon.Failure());
         }

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace pelorin::library {
 
-platform::Done WriteNewMeta(GameFiles& files, const QString& name, const QStringList& lines)
+platform::Done WriteNewMeta(GameFiles& files, QStringView name, const QStringList& lines)
 {
     using platform::Error;
     using platform::ErrorKind;

@@ -64,8 +64,7 @@ void ShowIcon(Launcher& launcher, const GameFiles& files)
 {
     DetailsPanel& details = launcher.screens.details;
     if (files.game.exists) {
-        const QString name = u"Icon.jpg"_s;
-        details.iconFile = files.HasMetaFile(name) ? files.MetaPath(name) : QString();
+        details.iconFile = files.HasMetaFile(kIconFile) ? files.MetaPath(kIconFile) : QString();
         details.changed.Tell(DetailsPanel::Icon);
     }
 }

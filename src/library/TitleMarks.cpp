@@ -49,8 +49,8 @@ void SetTitles(
 MarkFacts MarkFactsOf(const GameFiles& files, std::int16_t build)
 {
     return MarkFacts{
-        files.HasMetaFile(u"CD.conf"_s),
-        files.HasMetaFile(u"edit.conf"_s),
+        files.HasMetaFile(kCdConfFile),
+        files.HasMetaFile(kOwnConfFile),
         build,
         IsGameStored(files)};
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "library/GameFiles.h"
 #include "shell/Places.h"
 
 #include <QString>
@@ -13,7 +14,7 @@ inline QString DefaultConfPath(const shell::Places& places)
 
 inline QString GameConfPath(const shell::Places& places, const QString& folder)
 {
-    return places.InMetaDir(folder, QStringLiteral("edit.conf"));
+    return places.InMetaDir(folder, library::kOwnConfFile.toString());
 }
 
 } // namespace pelorin::dosboxconf

@@ -12,6 +12,6 @@ namespace pelorin::library {
 /// `files` tells. Without the detour by a temporary file, since there is nothing to lose; a scan makes
 /// tens of thousands of these. Error Unwritable (also when there is one, or a dangling link), or
 /// Unencodable with nothing written.
-platform::Done WriteNewMeta(GameFiles& files, const QString& name, const QStringList& lines);
+platform::Done WriteNewMeta(GameFiles& files, QStringView name, const QStringList& lines);
 
 } // namespace pelorin::library
