@@ -1,20 +1,15 @@
 #pragma once
 
+#include "archives/KeepGoing.h"
 #include "platform/Outcome.h"
 
 #include <QString>
-
-#include <functional>
 
 // The file layer of all rooms. Paths are native and absolute; a part that doesn't exist in the given
 // spelling is looked for without regard to case. Every error names the path and the reason. Links are
 // moved, copied and removed as links and never followed.
 
 namespace pelorin::archives {
-
-/// Called between the files and blocks of a long copy, so that the caller can let window events run.
-/// False gives up: the error is Abandoned and the source is whole.
-using KeepGoing = std::function<bool()>;
 
 /// False for a folder, and on any failure. A link counts as what it leads to.
 bool FileExists(const QString& path);

@@ -138,13 +138,6 @@ ListOutcome OutcomeOf(const GameList& list, const ListSource& source, const Filt
 
 } // namespace
 
-QString SearchForm(const QString& text)
-{
-    QString form = text.toUpper();
-    form.remove(u' ');
-    return form;
-}
-
 GameItem ItemOf(const GameEntry& entry, const QStringList& buildNames, bool titleLanguageKorean)
 {
     GameItem item;

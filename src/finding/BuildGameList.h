@@ -24,7 +24,4 @@ void SortGameList(GameList& list, TitleOrder& order, const ListSource& source);
 GameItem ItemOf(
     const library::GameEntry& entry, const QStringList& buildNames, bool titleLanguageKorean);
 
-/// A text as the search compares it: without blanks, in upper case.
-QString SearchForm(const QString& text);
-
 } // namespace pelorin::finding

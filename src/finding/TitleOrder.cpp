@@ -1,6 +1,6 @@
 #include "finding/TitleOrder.h"
 
-#include "finding/BuildGameList.h"
+#include "finding/ListSource.h"
 
 #include <QSet>
 
@@ -8,6 +8,13 @@
 #include <numeric>
 
 namespace pelorin::finding {
+
+QString SearchForm(const QString& text)
+{
+    QString form = text.toUpper();
+    form.remove(u' ');
+    return form;
+}
 
 TitleOrder::TitleOrder(const QLocale& locale, bool titleLanguageKorean)
     : m_collator(locale)

@@ -15,6 +15,9 @@
 
 namespace pelorin::finding {
 
+/// A text as the search compares it: without blanks, in upper case.
+QString SearchForm(const QString& text);
+
 /// The order of titles in one title language, and the titles as the search compares them. Both
 /// are costly, so they are kept from one rebuild of the list to the next: only titles that differ
 /// from those of the last call are worked on.

@@ -1,20 +1,13 @@
 #pragma once
 
+#include "library/IconPixels.h"
+
 #include <QByteArray>
 
 #include <cstdint>
 #include <vector>
 
 namespace pelorin::library {
-
-inline constexpr int kLargeIcon = 32; // pixels a side
-inline constexpr int kSmallIcon = 16;
-
-/// A square picture, rows from the top, 3 bytes a pixel in the order blue, green, red, no padding.
-struct IconPixels {
-    int side = 0; // 0: no picture
-    QByteArray bgr;
-};
 
 inline constexpr int kSheetColumns = 512;
 inline constexpr qsizetype kIconRowBytes = qsizetype{3} * kLargeIcon;

@@ -1,6 +1,7 @@
 #include "library/Catalogue.h"
 
 #include "LibraryFixture.h"
+#include "library/IconSheet.h"
 
 #include <random>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "archives/FileOperations.h"
+#include "archives/KeepGoing.h"
 #include "platform/Outcome.h"
 
 #include <QByteArray>
