@@ -96,6 +96,7 @@ Test ByStoreMark(const FilterRoot& root, const ListSource& source)
 struct Category {
     QStringView key;
     Test (*test)(const FilterRoot& root, const ListSource& source) = nullptr;
+    bool judgesBuilds = false;
 };
 
 // In the order in which they narrow the index down; it decides which games the builds judge.
@@ -104,7 +105,7 @@ constexpr Category kCategories[] = {
     {u"genree", ByField<&GameEntry::GenreE>},
     {u"ganada", ByInitial},
     {u"alphabet", ByLetter},
-    {u"executer", ByBuild},
+    {u"executer", ByBuild, true},
     {u"store", ByStoreMark},
     {u"publisher", ByField<&GameEntry::Maker>},
     {u"language", ByField<&GameEntry::Release>},
@@ -137,6 +138,7 @@ FilterIndex BuildFilterIndex(const FilterTree& tree, const ListSource& source)
     const auto entryAt = [&](int position) -> const GameEntry& {
         return catalogue[static_cast<std::size_t>(position)];
     };
+    const auto outOfBounds = [&](int position) { return BuildOutOfBounds(entryAt(position)); };
     std::vector<int> index(catalogue.size());
     std::iota(index.begin(), index.end(), 0);
     for (const Category& category : kCategories) {
@@ -144,9 +146,7 @@ FilterIndex BuildFilterIndex(const FilterTree& tree, const ListSource& source)
         if (root == nullptr || !IsCategoryActive(*root)) {
             continue;
         }
-        if (category.test == ByBuild && std::any_of(index.begin(), index.end(), [&](int position) {
-                return BuildOutOfBounds(entryAt(position));
-            })) {
+        if (category.judgesBuilds && std::any_of(index.begin(), index.end(), outOfBounds)) {
             return std::nullopt;
         }
         const Test passes = category.test(*root, source);
