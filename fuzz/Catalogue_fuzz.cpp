@@ -16,7 +16,9 @@ library::IconSheet BlackIcons(int count)
 {
     const int bytes = library::kLargeIcon * library::kLargeIcon * 3;
     library::IconSheet icons;
-    icons.Resize(count, library::IconPixels{library::kLargeIcon, QByteArray(bytes, '\0')});
+    while (icons.Count() < count) {
+        icons.Append(library::IconPixels{library::kLargeIcon, QByteArray(bytes, '\0')});
+    }
     return icons;
 }
 

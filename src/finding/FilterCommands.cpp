@@ -1,6 +1,7 @@
 #include "finding/FilterCommands.h"
 
 #include "finding/BuildGameList.h"
+#include "finding/CheckMarks.h"
 #include "library/ShowinfoCommands.h"
 #include "platform/Timers.h"
 #include "shell/JobCommands.h"

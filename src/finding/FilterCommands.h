@@ -1,6 +1,6 @@
 #pragma once
 
-#include "finding/CheckMarks.h"
+#include "finding/FilterTree.h"
 #include "finding/GameList.h"
 
 namespace pelorin::shell {

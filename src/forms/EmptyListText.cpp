@@ -1,6 +1,5 @@
 #include "forms/EmptyListText.h"
 
-#include "forms/FormUnits.h"
 #include "forms/Metrics.h"
 #include "forms/OwnTexts.h"
 

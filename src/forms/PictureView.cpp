@@ -2,7 +2,6 @@
 
 #include "forms/Metrics.h"
 #include "forms/OwnTexts.h"
-#include "forms/Pictures.h"
 #include "forms/Texts.h"
 
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "library/IconSheet.h"
+#include "library/IconPixels.h"
 
 #include <QIcon>
 #include <QPixmap>

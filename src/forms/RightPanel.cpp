@@ -110,7 +110,6 @@ void RightPanel::ShowTab()
     }
     m_stack->setCurrentWidget(page);
     m_rail->setCurrentIndex(tab - 1);
-    page->ComeOnTop(tab);
 }
 
 void RightPanel::OrderTabs(Page& page)

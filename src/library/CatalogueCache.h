@@ -5,7 +5,6 @@
 #include "library/ScanProgress.h"
 #include "platform/Outcome.h"
 
-#include <QString>
 #include <QStringList>
 
 // The cache of the Catalogue between two runs, in AppDir:

@@ -6,8 +6,6 @@
 #include "library/ScanProgress.h"
 #include "library/TitleMarks.h"
 
-#include <QStringList>
-
 namespace pelorin::shell {
 struct Places;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "library/GameFiles.h"
-#include "library/IconSheet.h"
+#include "library/IconPixels.h"
 
 #include <QString>
 

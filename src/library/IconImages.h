@@ -33,7 +33,7 @@ QByteArray EncodeJpeg(const IconPixels& icon);
 /// Writes a JPEG file, replacing an older one.
 platform::Done SaveIcon(const QString& path, const IconPixels& icon);
 
-/// One colour, for a library whose default picture is missing.
+/// A square of one colour.
 IconPixels PlainIcon(int side, std::uint8_t blue, std::uint8_t green, std::uint8_t red);
 
 } // namespace pelorin::library

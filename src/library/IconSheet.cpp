@@ -31,20 +31,6 @@ void PutRows(char* to, qsizetype toStep, const char* from, qsizetype fromStep)
 
 } // namespace
 
-void IconSheet::Clear()
-{
-    *this = IconSheet();
-}
-
-void IconSheet::Resize(int count, const IconPixels& fill)
-{
-    while (Count() < count) {
-        Append(fill);
-    }
-    m_cells.resize(At(count));
-    m_small.resize(At(count));
-}
-
 void IconSheet::Set(int index, const IconPixels& icon)
 {
     const std::int32_t cell = m_cells[At(index)];

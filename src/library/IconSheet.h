@@ -21,9 +21,6 @@ inline constexpr qsizetype kBandBytes = kBandRowBytes * kLargeIcon;
 class IconSheet {
 public:
     int Count() const { return static_cast<int>(m_cells.size()); }
-    bool IsEmpty() const { return m_cells.empty(); }
-    void Clear();
-    void Resize(int count, const IconPixels& fill);
     /// An icon of another side than 32 is none: the cell is black.
     void Set(int index, const IconPixels& icon);
     void Append(const IconPixels& icon);

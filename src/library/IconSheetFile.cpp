@@ -207,13 +207,6 @@ std::optional<std::vector<int>> StaleBands(
     return few ? std::optional(stale) : std::nullopt;
 }
 
-bool IconSheetIsCurrent(
-    const QString& path, const IconSheet& icons, const std::vector<int>& positions)
-{
-    const std::optional<std::vector<int>> stale = StaleBands(path, icons, positions);
-    return stale && stale->empty();
-}
-
 platform::Done RewriteBands(
     const QString& path,
     const IconSheet& icons,

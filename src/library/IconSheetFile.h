@@ -34,10 +34,6 @@ platform::Outcome<IconSheet> ReadIconSheet(const QString& path, int count, ScanP
 std::optional<std::vector<int>> StaleBands(
     const QString& path, const IconSheet& icons, const std::vector<int>& positions);
 
-/// There is such a sheet, and no row of it is stale.
-bool IconSheetIsCurrent(
-    const QString& path, const IconSheet& icons, const std::vector<int>& positions);
-
 /// Writes these rows of cells over those of the file, which StaleBands has told of. The disk needs no
 /// more room for that. After a failure the sheet is neither the old one nor the new one.
 platform::Done RewriteBands(

@@ -12,7 +12,6 @@
 #include "platform/Prompts.h"
 #include "platform/ShellVerbs.h"
 #include "running/RunCommands.h"
-#include "shell/FolderCfgCommands.h"
 #include "shell/JobCommands.h"
 #include "shell/Launcher.h"
 #include "shell/RootFolders.h"

@@ -5,7 +5,6 @@
 #include "library/CatalogueCommands.h"
 #include "library/FolderCommands.h"
 #include "library/FolderName.h"
-#include "library/ListCommands.h"
 #include "platform/Paths.h"
 #include "platform/Prompts.h"
 #include "shell/Launcher.h"

@@ -76,7 +76,8 @@ protected:
     auto Read() { return library::ReadCatalogueCache(m_library.places, m_progress); }
     bool SheetIsOf(const Library& library)
     {
-        return library::IconSheetIsCurrent(m_root.Path(u"IconList.bmp"_s), library.icons, {0, 1});
+        const QString path = m_root.Path(u"IconList.bmp"_s);
+        return library::StaleBands(path, library.icons, {0, 1}) == std::vector<int>();
     }
 
     LibraryFolder m_library;

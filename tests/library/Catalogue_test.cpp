@@ -53,7 +53,7 @@ TEST(CatalogueTest, RemovalClosesTheGap)
     EXPECT_EQ(three.catalogue.size(), 2U);
     three.Remove({u"other"_s, u"long name"_s});
     EXPECT_TRUE(three.catalogue.empty());
-    EXPECT_TRUE(three.icons.IsEmpty());
+    EXPECT_EQ(three.icons.Count(), 0);
 }
 
 TEST(CatalogueTest, AGameThatStandsTwiceGoesTwice)

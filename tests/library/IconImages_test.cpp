@@ -2,6 +2,7 @@
 
 #include "LibraryFixture.h"
 #include "Pictures.h"
+#include "library/IconSheet.h"
 
 #include <QtEndian>
 
@@ -163,8 +164,6 @@ TEST(IconSheetTest, SmallIconsFollowTheLargeOnes)
     icons.Remove({0});
     EXPECT_EQ(icons.Count(), 1);
     EXPECT_EQ(icons.Small(0).bgr, library::PlainIcon(16, 200, 0, 0).bgr);
-    icons.Resize(3, library::PlainIcon(32, 9, 9, 9));
-    EXPECT_EQ(icons.Small(2).bgr, library::PlainIcon(16, 9, 9, 9).bgr);
     EXPECT_EQ(library::Rescaled(IconPixels(), 16).side, 0);
 }
 

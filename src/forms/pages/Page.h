@@ -16,8 +16,6 @@ public:
 
     /// Takes the texts that the table of texts does not hold.
     virtual void TakeTexts() {}
-    /// The page has come on top, as that tab (tabs count from 1; two of them share a page).
-    virtual void ComeOnTop(int) {}
 
 protected:
     QLabel* AddHeading(const QString& name);
