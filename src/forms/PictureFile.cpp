@@ -65,7 +65,7 @@ PictureFile ReadPicture(const QString& path, QSize bound)
         picture.trouble = PictureTrouble::Broken;
         return picture;
     }
-    if (BytesOf(size, reader.imageFormat()) > kMostPictureBytes) {
+    if (BytesOf(size, reader.imageFormat()) > kMostPictureMemory) {
         picture.trouble = PictureTrouble::TooLarge;
         return picture;
     }

@@ -20,7 +20,7 @@ struct PictureFile {
 };
 
 /// A picture may take so many bytes while it is read; 32 million dots of 4 bytes.
-inline constexpr qint64 kMostPictureBytes = qint64{128} * 1024 * 1024;
+inline constexpr qint64 kMostPictureMemory = qint64{128} * 1024 * 1024;
 
 /// Reads a JPEG, PNG, GIF or BMP, told apart by content. Of an animation the first picture. Made
 /// smaller where it is larger than `bound`, in shape.

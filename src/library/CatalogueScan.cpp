@@ -20,7 +20,7 @@ namespace {
 
 /// What the second pass needs of a folder's listing. A listing whole takes some 3 KB, and there
 /// may be tens of thousands.
-struct ListedGame {
+struct FolderToRead {
     QString folder;
     QString metaName; // as spelled on disk
     bool metaExists = false;
@@ -28,9 +28,9 @@ struct ListedGame {
     QStringList metaFiles; // those of kEntryFiles that are there, as spelled on disk
 };
 
-ListedGame KeepForEntry(const GameFiles& files)
+FolderToRead KeepForEntry(const GameFiles& files)
 {
-    ListedGame listed;
+    FolderToRead listed;
     listed.folder = files.folder;
     listed.metaName = platform::LastPathSegment(files.metaDir);
     listed.metaExists = files.meta.exists;
@@ -43,7 +43,7 @@ ListedGame KeepForEntry(const GameFiles& files)
     return listed;
 }
 
-GameFiles FilesOfKept(const shell::Places& places, const ListedGame& listed)
+GameFiles FilesOfKept(const shell::Places& places, const FolderToRead& listed)
 {
     GameFiles files;
     files.folder = listed.folder;
@@ -144,7 +144,7 @@ private:
     const ReadingRules& m_rules;
     const IconPixels& m_defaultIcon;
     ScanProgress& m_progress;
-    std::vector<ListedGame> m_listed;
+    std::vector<FolderToRead> m_listed;
     ScanResult m_result;
 };
 
