@@ -66,12 +66,12 @@ struct StandingList {
     }
     /// Marks, in that category, the first child that passes the game alone, and tells whether there
     /// is one.
-    bool Mark(const QString& rootKey, const library::GameEntry& game)
+    bool Mark(finding::Category category, const library::GameEntry& game)
     {
         const finding::ListSource source = Source({&game, 1});
-        for (finding::FilterNode& node : tree.Root(rootKey)->children) {
+        for (finding::FilterNode& node : tree.Root(category)->children) {
             finding::FilterTree one;
-            one.roots.push_back({rootKey, {}, {node, {}}, false, false});
+            one.roots.push_back({category, {}, {node, {}}, false, false});
             one.roots[0].children[0].checked = true;
             if (finding::BuildFilterIndex(one, source)) {
                 node.checked = true;
@@ -113,7 +113,7 @@ void AddRebuilds(const BenchInstallation& installation)
     AddRebuild("rebuild_all/is", installation, nothing);
     AddRebuild("rebuild_search/is", installation, nothing, u"용"_s);
     AddRebuild("rebuild_one_category/is", installation, [&](StandingList& standing) {
-        standing.Mark(u"genrek"_s, installation.catalogue[0]);
+        standing.Mark(finding::Category::GenreK, installation.catalogue[0]);
     });
     // English titles, since none begins with a letter and with Hangul at once.
     AddRebuild(
@@ -121,8 +121,8 @@ void AddRebuilds(const BenchInstallation& installation)
         installation,
         [&](StandingList& standing) {
             for (const finding::FilterRoot& root : standing.tree.roots) {
-                if (!standing.Mark(root.key, installation.catalogue[0])) {
-                    qFatal("no child of %s passes the game", qUtf8Printable(root.key));
+                if (!standing.Mark(root.category, installation.catalogue[0])) {
+                    qFatal("no child of %s passes the game", qUtf8Printable(root.text));
                 }
             }
         },
@@ -172,9 +172,11 @@ library::GameEntries WithDistinctValues(library::GameEntries catalogue)
 std::vector<QStringList> ValuesOf(const finding::FilterTree& tree)
 {
     std::vector<QStringList> values;
-    for (const char16_t* key :
-         {u"genrek", u"genree", u"publisher", u"language", u"released", u"country"}) {
-        QStringList texts = finding::ChildTexts(tree, QString::fromUtf16(key));
+    for (const finding::CategoryRow& row : finding::kCategories) {
+        if (!row.fact) {
+            continue;
+        }
+        QStringList texts = finding::ChildTexts(tree, row.category);
         // As far from any order as the catalogue is.
         std::sort(texts.begin(), texts.end(), [](const QString& a, const QString& b) {
             return qHash(a) < qHash(b);

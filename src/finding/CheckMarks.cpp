@@ -21,7 +21,7 @@ void UncheckOthers(FilterRoot& root, const QString& text)
 
 bool ToggleNode(FilterTree& tree, const NodePlace& place, bool checked)
 {
-    FilterRoot* const root = tree.Root(place.rootKey);
+    FilterRoot* const root = tree.Root(place.category);
     if (root == nullptr) {
         return false;
     }
@@ -37,7 +37,7 @@ bool ToggleNode(FilterTree& tree, const NodePlace& place, bool checked)
 
 bool ClickNode(FilterTree& tree, const NodePlace& place)
 {
-    FilterRoot* const root = tree.Root(place.rootKey);
+    FilterRoot* const root = tree.Root(place.category);
     if (root == nullptr) {
         return false;
     }

@@ -3,6 +3,7 @@
 #include "finding/ClassifyInitial.h"
 
 #include <algorithm>
+#include <array>
 #include <functional>
 #include <numeric>
 
@@ -29,10 +30,10 @@ QStringList CheckedTexts(const FilterRoot& root)
     return texts;
 }
 
-template <QString GameEntry::*field>
-Test ByField(const FilterRoot& root, const ListSource&)
+Test ByFact(const FilterRoot& root)
 {
-    return [texts = CheckedTexts(root)](const GameEntry& entry) {
+    const library::Fact fact = *RowOf(root.category).fact;
+    return [texts = CheckedTexts(root), field = FieldOf(fact)](const GameEntry& entry) {
         return texts.contains(entry.*field);
     };
 }
@@ -93,25 +94,30 @@ Test ByStoreMark(const FilterRoot& root, const ListSource& source)
     };
 }
 
-struct Category {
-    QStringView key;
-    Test (*test)(const FilterRoot& root, const ListSource& source) = nullptr;
-    bool judgesBuilds = false;
+// In the order in which they narrow the index down; it decides which games the builds judge.
+constexpr std::array<Category, kCategories.size()> kNarrowing{
+    Category::GenreK,
+    Category::GenreE,
+    Category::Initial,
+    Category::Letter,
+    Category::Build,
+    Category::Store,
+    Category::Maker,
+    Category::Release,
+    Category::GameLanguage,
+    Category::Country,
 };
 
-// In the order in which they narrow the index down; it decides which games the builds judge.
-constexpr Category kCategories[] = {
-    {u"genrek", ByField<&GameEntry::GenreK>},
-    {u"genree", ByField<&GameEntry::GenreE>},
-    {u"ganada", ByInitial},
-    {u"alphabet", ByLetter},
-    {u"executer", ByBuild, true},
-    {u"store", ByStoreMark},
-    {u"publisher", ByField<&GameEntry::Maker>},
-    {u"language", ByField<&GameEntry::Release>},
-    {u"released", ByField<&GameEntry::GameLanguage>},
-    {u"country", ByField<&GameEntry::Country>},
-};
+Test TestOf(const FilterRoot& root, const ListSource& source)
+{
+    switch (root.category) {
+    case Category::Initial: return ByInitial(root, source);
+    case Category::Letter: return ByLetter(root, source);
+    case Category::Store: return ByStoreMark(root, source);
+    case Category::Build: return ByBuild(root, source);
+    default: return ByFact(root);
+    }
+}
 
 bool BuildOutOfBounds(const GameEntry& entry)
 {
@@ -141,15 +147,15 @@ FilterIndex BuildFilterIndex(const FilterTree& tree, const ListSource& source)
     const auto outOfBounds = [&](int position) { return BuildOutOfBounds(entryAt(position)); };
     std::vector<int> index(catalogue.size());
     std::iota(index.begin(), index.end(), 0);
-    for (const Category& category : kCategories) {
-        const FilterRoot* const root = tree.Root(category.key.toString());
+    for (const Category category : kNarrowing) {
+        const FilterRoot* const root = tree.Root(category);
         if (root == nullptr || !IsCategoryActive(*root)) {
             continue;
         }
-        if (category.judgesBuilds && std::any_of(index.begin(), index.end(), outOfBounds)) {
+        if (category == Category::Build && std::any_of(index.begin(), index.end(), outOfBounds)) {
             return std::nullopt;
         }
-        const Test passes = category.test(*root, source);
+        const Test passes = TestOf(*root, source);
         const auto dropped = [&](int position) { return !passes(entryAt(position)); };
         index.erase(std::remove_if(index.begin(), index.end(), dropped), index.end());
         if (index.empty()) {

@@ -4,17 +4,19 @@
 
 namespace pelorin::finding {
 
-FilterRoot* FilterTree::Root(const QString& key)
+FilterRoot* FilterTree::Root(Category category)
 {
-    const auto hit =
-        std::find_if(roots.begin(), roots.end(), [&](const FilterRoot& r) { return r.key == key; });
+    const auto hit = std::find_if(roots.begin(), roots.end(), [&](const FilterRoot& root) {
+        return root.category == category;
+    });
     return hit == roots.end() ? nullptr : &*hit;
 }
 
-const FilterRoot* FilterTree::Root(const QString& key) const
+const FilterRoot* FilterTree::Root(Category category) const
 {
-    const auto hit =
-        std::find_if(roots.begin(), roots.end(), [&](const FilterRoot& r) { return r.key == key; });
+    const auto hit = std::find_if(roots.begin(), roots.end(), [&](const FilterRoot& root) {
+        return root.category == category;
+    });
     return hit == roots.end() ? nullptr : &*hit;
 }
 

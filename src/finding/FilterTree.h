@@ -1,5 +1,6 @@
 #pragma once
 
+#include "finding/Categories.h"
 #include "platform/Notifier.h"
 
 #include <QString>
@@ -20,7 +21,7 @@ struct FilterNode {
 };
 
 struct FilterRoot {
-    QString key; // "genrek", "genree", "ganada" ...
+    Category category = Category::GenreK;
     QString text;
     std::vector<FilterNode> children;
     bool checked = false;  // filters nothing; its box clears the category
@@ -29,11 +30,11 @@ struct FilterRoot {
 
 /// A node's place.
 struct NodePlace {
-    QString rootKey;
+    Category category = Category::GenreK;
     int child = -1; // place below its category; -1: the category itself
 };
 
-/// What TreeView1 holds: ten categories in a fixed order.
+/// What TreeView1 holds: the categories in their order; none before it is built.
 struct FilterTree {
     enum Changed : std::uint32_t { Nodes = 1, Checks = 2 };
 
@@ -41,9 +42,9 @@ struct FilterTree {
 
     platform::Notifier changed;
 
-    /// nullptr if there is no such category.
-    FilterRoot* Root(const QString& key);
-    const FilterRoot* Root(const QString& key) const;
+    /// nullptr before it is built.
+    FilterRoot* Root(Category category);
+    const FilterRoot* Root(Category category) const;
 };
 
 /// The search box beside it.

@@ -3,7 +3,6 @@
 #include "shell/LangTable.h"
 
 #include <algorithm>
-#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -11,54 +10,18 @@ namespace pelorin::finding {
 
 namespace {
 
-using library::GameEntry;
-
-struct RootRow {
-    QStringView key;
-    int captionEntry = 0;
-};
-
-constexpr std::array<RootRow, 10> kRoots{{
-    {u"genrek", 30},
-    {u"genree", 13},
-    {u"ganada", 31},
-    {u"alphabet", 32},
-    {u"store", 40},
-    {u"executer", 295},
-    {u"publisher", 307},
-    {u"language", 308},
-    {u"released", 309},
-    {u"country", 310},
-}};
-
-struct ValueCategory {
-    QStringView key;
-    QString GameEntry::*field = nullptr;
-};
-
-// "language" holds the times of release and "released" the languages: the keys are crossed, the
-// captions are those of the contents.
-constexpr std::array<ValueCategory, 6> kValueCategories{{
-    {u"genrek", &GameEntry::GenreK},
-    {u"genree", &GameEntry::GenreE},
-    {u"publisher", &GameEntry::Maker},
-    {u"language", &GameEntry::Release},
-    {u"released", &GameEntry::GameLanguage},
-    {u"country", &GameEntry::Country},
-}};
-
 constexpr QStringView kInitials = u"ㄱㄴㄷㄹㅁㅂㅅㅇㅈㅊㅋㅌㅍㅎ";
 
 /// What a child's key begins with; a word of the child's own follows.
-QString KeyPrefix(QStringView rootKey)
+QString KeyPrefix(Category category)
 {
-    return u"find"_s + rootKey.toString() + u'_';
+    return u"find"_s + RowOf(category).key.toString() + u'_';
 }
 
-void AddChildren(FilterTree& tree, QStringView rootKey, const QStringList& texts)
+void AddChildren(FilterTree& tree, Category category, const QStringList& texts)
 {
-    FilterRoot* root = tree.Root(rootKey.toString());
-    const QString prefix = KeyPrefix(rootKey);
+    FilterRoot* root = tree.Root(category);
+    const QString prefix = KeyPrefix(category);
     for (const QString& text : texts) {
         root->children.push_back(FilterNode{prefix + text, text, false});
     }
@@ -77,7 +40,7 @@ QStringList SingleCharacters(QStringView characters)
 /// all nodes are those that stood there: their texts stay where they are.
 void FillValues(FilterRoot& root, const library::ValueCounts& values)
 {
-    const QString prefix = KeyPrefix(root.key);
+    const QString prefix = KeyPrefix(root.category);
     std::vector<FilterNode> former = std::move(root.children);
     root.children.clear();
     root.children.reserve(values.size());
@@ -109,43 +72,45 @@ void BuildTreeSkeleton(
     FilterTree& tree, const shell::LangTable& lang, const QStringList& buildNames)
 {
     std::vector<FilterRoot> roots;
-    for (const RootRow& row : kRoots) {
-        const QString key = row.key.toString();
-        const FilterRoot* former = tree.Root(key);
+    for (const CategoryRow& row : kCategories) {
+        const FilterRoot* former = tree.Root(row.category);
         roots.push_back(FilterRoot{
-            key, lang[row.captionEntry], {}, false, former != nullptr && former->expanded});
+            row.category,
+            lang[row.captionEntry],
+            {},
+            false,
+            former != nullptr && former->expanded});
     }
     tree.roots = std::move(roots);
 
-    AddChildren(tree, u"ganada", SingleCharacters(kInitials));
-    AddChildren(tree, u"ganada", {u"123"_s, u"ABC"_s, u"~!@#"_s});
-    AddChildren(tree, u"alphabet", SingleCharacters(u"ABCDEFGHIJKLMNOPQRSTUVWXYZ"));
-    AddChildren(tree, u"alphabet", {u"123"_s, u"~!@#"_s});
-    const QString store = KeyPrefix(u"store");
-    tree.Root(u"store"_s)->children = {
+    AddChildren(tree, Category::Initial, SingleCharacters(kInitials));
+    AddChildren(tree, Category::Initial, {u"123"_s, u"ABC"_s, u"~!@#"_s});
+    AddChildren(tree, Category::Letter, SingleCharacters(u"ABCDEFGHIJKLMNOPQRSTUVWXYZ"));
+    AddChildren(tree, Category::Letter, {u"123"_s, u"~!@#"_s});
+    const QString store = KeyPrefix(Category::Store);
+    tree.Root(Category::Store)->children = {
         FilterNode{store + u"no"_s, lang[41]}, FilterNode{store + u"yes"_s, lang[42]}};
     const QStringList possible = buildNames.mid(0, kMostBuilds);
     const auto end = std::find_if(possible.begin(), possible.end(), IsBlankValue);
-    AddChildren(tree, u"executer", QStringList(possible.begin(), end));
+    AddChildren(tree, Category::Build, QStringList(possible.begin(), end));
     tree.changed.Tell(FilterTree::Nodes);
 }
 
 void RefillValueNodes(FilterTree& tree, const library::Catalogue& catalogue)
 {
-    for (const ValueCategory& category : kValueCategories) {
-        FilterRoot* root = tree.Root(category.key.toString());
-        if (root == nullptr) {
-            continue;
+    for (const CategoryRow& row : kCategories) {
+        FilterRoot* const root = tree.Root(row.category);
+        if (root != nullptr && row.fact) {
+            FillValues(*root, catalogue.Values(*row.fact));
         }
-        FillValues(*root, catalogue.Values(category.field));
     }
     tree.changed.Tell(FilterTree::Nodes);
 }
 
-QStringList ChildTexts(const FilterTree& tree, const QString& rootKey)
+QStringList ChildTexts(const FilterTree& tree, Category category)
 {
     QStringList texts;
-    if (const FilterRoot* root = tree.Root(rootKey)) {
+    if (const FilterRoot* root = tree.Root(category)) {
         for (const FilterNode& node : root->children) {
             texts << node.text;
         }

@@ -24,7 +24,7 @@ void BuildTreeSkeleton(
 /// ascending by 16-bit code; values of blanks only are left out. Tells Nodes once.
 void RefillValueNodes(FilterTree& tree, const library::Catalogue& catalogue);
 
-/// The texts of a category's children, in order. Empty for an unknown key.
-QStringList ChildTexts(const FilterTree& tree, const QString& rootKey);
+/// The texts of a category's children, in order. None before the tree is built.
+QStringList ChildTexts(const FilterTree& tree, Category category);
 
 } // namespace pelorin::finding

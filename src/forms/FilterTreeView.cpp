@@ -97,15 +97,16 @@ const finding::FilterNode* FilterTreeModel::Node(const QModelIndex& index) const
     return there ? &m_tree.roots[root].children[row] : nullptr;
 }
 
-finding::NodePlace FilterTreeModel::PlaceOf(const QModelIndex& index) const
+std::optional<finding::NodePlace> FilterTreeModel::PlaceOf(const QModelIndex& index) const
 {
     if (const finding::FilterRoot* root = Root(index)) {
-        return {root->key};
+        return finding::NodePlace{root->category};
     }
     if (Node(index) == nullptr) {
-        return {};
+        return std::nullopt;
     }
-    return {m_tree.roots[static_cast<std::size_t>(index.internalId() - 1)].key, index.row()};
+    const auto root = static_cast<std::size_t>(index.internalId() - 1);
+    return finding::NodePlace{m_tree.roots[root].category, index.row()};
 }
 
 QVariant FilterTreeModel::data(const QModelIndex& index, int role) const
@@ -146,12 +147,12 @@ QVariant FilterTreeModel::RootData(const finding::FilterRoot& root, int role) co
 
 bool FilterTreeModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
-    const finding::NodePlace place = PlaceOf(index);
-    if (role != Qt::CheckStateRole || place.rootKey.isEmpty()) {
+    const std::optional<finding::NodePlace> place = PlaceOf(index);
+    if (role != Qt::CheckStateRole || !place) {
         return false;
     }
     m_toggled = true;
-    Do(m_deeds.TreeView1_NodeCheck, place, value.toInt() == Qt::Checked);
+    Do(m_deeds.TreeView1_NodeCheck, *place, value.toInt() == Qt::Checked);
     return true;
 }
 
@@ -209,8 +210,9 @@ void FilterTreeView::mouseDoubleClickEvent(QMouseEvent* event)
 void FilterTreeView::LabelClicked(const QModelIndex& index)
 {
     // A double click unfolds a category and marks a child once.
-    if (!m_model.TakeToggled() && !m_secondClick) {
-        Do(m_deeds.TreeView1_NodeClick, m_model.PlaceOf(index));
+    const std::optional<finding::NodePlace> place = m_model.PlaceOf(index);
+    if (!m_model.TakeToggled() && !m_secondClick && place) {
+        Do(m_deeds.TreeView1_NodeClick, *place);
     }
 }
 

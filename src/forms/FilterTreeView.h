@@ -9,6 +9,7 @@
 #include <QTreeView>
 
 #include <cstdint>
+#include <optional>
 #include <utility>
 
 namespace pelorin::forms {
@@ -30,7 +31,7 @@ public:
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
-    finding::NodePlace PlaceOf(const QModelIndex& index) const;
+    std::optional<finding::NodePlace> PlaceOf(const QModelIndex& index) const;
     /// Whether a box was toggled since the last question.
     bool TakeToggled() { return std::exchange(m_toggled, false); }
 

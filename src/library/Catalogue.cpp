@@ -73,12 +73,6 @@ std::vector<int> Catalogue::Remove(const QSet<QString>& folders)
     return removed;
 }
 
-const ValueCounts& Catalogue::Values(QString GameEntry::*fact) const
-{
-    const auto* const hit = std::find(kSharedFacts.begin(), kSharedFacts.end(), fact);
-    return m_values[static_cast<std::size_t>(hit - kSharedFacts.begin())];
-}
-
 void Catalogue::Count(const GameEntry& game, int change)
 {
     for (std::size_t i = 0; i < kSharedFacts.size(); ++i) {

@@ -45,14 +45,14 @@ public:
     /// agree again. Returns the positions that they had, ascending.
     std::vector<int> Remove(const QSet<QString>& folders);
 
-    /// The values of one of kSharedFacts. Valid until the next change.
-    const ValueCounts& Values(QString GameEntry::*fact) const;
+    /// Valid until the next change.
+    const ValueCounts& Values(Fact fact) const { return m_values[static_cast<std::size_t>(fact)]; }
 
 private:
     void Count(const GameEntry& game, int change);
 
     GameEntries m_games;
-    std::array<ValueCounts, kSharedFacts.size()> m_values;
+    std::array<ValueCounts, kSharedFacts.size()> m_values; // by Fact
 };
 
 /// The position of the game, -1 if there is none.

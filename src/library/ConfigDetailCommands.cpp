@@ -23,9 +23,12 @@ namespace {
 
 constexpr auto kCategory = "pelorin.library";
 
-/// The categories of the tree whose values each box suggests. Their keys are crossed against what
-/// they hold.
-constexpr std::array<QStringView, 4> kRootKeys{u"publisher", u"language", u"released", u"country"};
+/// The categories of the tree whose values each box suggests.
+constexpr std::array<finding::Category, 4> kSuggested{
+    finding::Category::Maker,
+    finding::Category::Release,
+    finding::Category::GameLanguage,
+    finding::Category::Country};
 
 std::array<QString, 4> TextsOf(const Facts& facts)
 {
@@ -83,8 +86,8 @@ platform::Done Store(Launcher& launcher, const QString& folder, const Facts& fac
 void OfferValues(Launcher& launcher)
 {
     ConfigDetail& dialog = launcher.screens.configDetail;
-    for (std::size_t i = 0; i < kRootKeys.size(); ++i) {
-        dialog.values[i] = finding::ChildTexts(launcher.screens.tree, kRootKeys[i].toString());
+    for (std::size_t i = 0; i < kSuggested.size(); ++i) {
+        dialog.values[i] = finding::ChildTexts(launcher.screens.tree, kSuggested[i]);
     }
 }
 

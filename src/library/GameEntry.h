@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -41,6 +42,9 @@ inline const QString& DisplayTitle(const GameEntry& entry, bool titleLanguageKor
 }
 
 /// The facts that many games share.
+enum class Fact { GenreK, GenreE, Maker, Release, GameLanguage, Country };
+
+/// Where they stand, by Fact.
 inline constexpr std::array<QString GameEntry::*, 6> kSharedFacts{
     &GameEntry::GenreK,
     &GameEntry::GenreE,
@@ -49,6 +53,11 @@ inline constexpr std::array<QString GameEntry::*, 6> kSharedFacts{
     &GameEntry::GameLanguage,
     &GameEntry::Country,
 };
+
+constexpr QString GameEntry::*FieldOf(Fact fact)
+{
+    return kSharedFacts[static_cast<std::size_t>(fact)];
+}
 
 /// Positions are 16-bit signed, so that is the bound.
 inline constexpr int kMostGames = 32767;

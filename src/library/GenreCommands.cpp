@@ -29,7 +29,7 @@ constexpr int kFirstValue = 2;
 
 /// Where one of the two genres stands.
 struct GenrePlace {
-    QStringView rootKey;
+    finding::Category category = finding::Category::GenreK;
     QString DetailsPanel::*label = nullptr;
     shell::GenreMenu DetailsPanel::*menu = nullptr;
     QString GameEntry::*field = nullptr;
@@ -38,8 +38,14 @@ struct GenrePlace {
 const GenrePlace& PlaceOf(GenreFile which)
 {
     static constexpr std::array<GenrePlace, 2> kPlaces{{
-        {u"genrek", &DetailsPanel::lblGenreK, &DetailsPanel::mnuGenreK, &GameEntry::GenreK},
-        {u"genree", &DetailsPanel::lblGenreE, &DetailsPanel::mnuGenreE, &GameEntry::GenreE},
+        {finding::Category::GenreK,
+         &DetailsPanel::lblGenreK,
+         &DetailsPanel::mnuGenreK,
+         &GameEntry::GenreK},
+        {finding::Category::GenreE,
+         &DetailsPanel::lblGenreE,
+         &DetailsPanel::mnuGenreE,
+         &GameEntry::GenreE},
     }};
     return kPlaces[which == GenreFile::Korean ? 0 : 1];
 }
@@ -83,7 +89,7 @@ shell::MenuModel GenreMenu(Launcher& launcher, GenreFile which)
     const GenrePlace& place = PlaceOf(which);
     shell::GenreMenu& menu = details.*place.menu;
     menu.folder = details.folder;
-    menu.values = finding::ChildTexts(launcher.screens.tree, place.rootKey.toString());
+    menu.values = finding::ChildTexts(launcher.screens.tree, place.category);
     const bool usable = platform::IsPlainName(menu.folder);
     shell::MenuModel model{{kNewGenre, launcher.lang[67], usable}, {1, QString(), true, true}};
     for (qsizetype i = 0; i < menu.values.size(); ++i) {

@@ -235,7 +235,7 @@ TEST_F(Details, ANewGenreReachesFileEntryTreeAndList)
     EXPECT_EQ(list().at(row).Tag(), u"퍼즐?"_s);
     EXPECT_EQ(Panel().lblGenreK, u"기타"_s) << "another game is shown by now";
     EXPECT_THAT(
-        finding::ChildTexts(m_launcher->screens.tree, u"genrek"_s),
+        finding::ChildTexts(m_launcher->screens.tree, finding::Category::GenreK),
         ElementsAre(u"기타"_s, u"퍼즐?"_s));
 
     // English genres don't show in a list of Korean titles; a file that can't be written stays.
@@ -389,7 +389,7 @@ TEST_F(Details, FactsGoIntoFileEntryTreeAndListByFolder)
     EXPECT_EQ(row(u"하나"_s), (QStringList{u"Alpha"_s, u"1988"_s, u"한국어"_s, u"?"_s}));
     EXPECT_EQ(row(u"둘"_s), (QStringList{u"Beta"_s, u"1999"_s, u"korean"_s, u"KR"_s}));
     EXPECT_THAT(
-        finding::ChildTexts(m_launcher->screens.tree, u"publisher"_s),
+        finding::ChildTexts(m_launcher->screens.tree, finding::Category::Maker),
         ElementsAre(u"Alpha"_s, u"Beta"_s));
 
     library::OpenDetails(*m_launcher);

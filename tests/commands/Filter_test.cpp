@@ -6,6 +6,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace pelorin;
+using finding::Category;
 using finding::View;
 using test::Installation;
 
@@ -26,10 +27,10 @@ protected:
         });
     }
 
-    finding::NodePlace Node(const QString& rootKey, const QString& text) const
+    finding::NodePlace Node(Category category, const QString& text) const
     {
-        const QStringList texts = finding::ChildTexts(m_launcher->screens.tree, rootKey);
-        return {rootKey, static_cast<int>(texts.indexOf(text))};
+        const QStringList texts = finding::ChildTexts(m_launcher->screens.tree, category);
+        return {category, static_cast<int>(texts.indexOf(text))};
     }
     QStringList Titles() const
     {
@@ -58,7 +59,7 @@ protected:
 TEST_F(Filter, ACheckShowsTheFirstGameThatPassesAndAClickTakesItOff)
 {
     m_launcher->screens.list.view = View::LargeIcons;
-    const finding::NodePlace nieun = Node(u"ganada"_s, u"ㄴ"_s);
+    const finding::NodePlace nieun = Node(Category::Initial, u"ㄴ"_s);
     finding::TreeView1_NodeCheck(*m_launcher, nieun, true);
     EXPECT_EQ(Titles(), QStringList{u"나비"_s});
     EXPECT_EQ(m_launcher->current.CurrentFolder, u"나비"_s);
@@ -78,24 +79,24 @@ TEST_F(Filter, ACheckShowsTheFirstGameThatPassesAndAClickTakesItOff)
 
     // A category without children moves nothing.
     m_told.clear();
-    m_launcher->screens.tree.Root(u"country"_s)->children.clear();
-    finding::TreeView1_NodeClick(*m_launcher, {u"country"_s});
-    finding::TreeView1_NodeCheck(*m_launcher, {u"country"_s}, true);
+    m_launcher->screens.tree.Root(Category::Country)->children.clear();
+    finding::TreeView1_NodeClick(*m_launcher, {Category::Country});
+    finding::TreeView1_NodeCheck(*m_launcher, {Category::Country}, true);
     EXPECT_TRUE(m_told.empty());
-    EXPECT_TRUE(m_launcher->screens.tree.Root(u"country"_s)->checked);
+    EXPECT_TRUE(m_launcher->screens.tree.Root(Category::Country)->checked);
 }
 
 TEST_F(Filter, AnEmptyFilterResultEndsInSilenceAndAnEmptySearchTells)
 {
     const QString caption = Caption();
     ASSERT_NE(caption, m_launcher->WindowTitle);
-    finding::TreeView1_NodeCheck(*m_launcher, Node(u"ganada"_s, u"ㅎ"_s), true);
+    finding::TreeView1_NodeCheck(*m_launcher, Node(Category::Initial, u"ㅎ"_s), true);
     EXPECT_EQ(Titles(), QStringList());
     EXPECT_EQ(m_launcher->screens.list.outcome, finding::ListOutcome::NoFilterHit);
     EXPECT_EQ(Count(), u"4 / 4"_s) << "what it showed";
     EXPECT_EQ(Caption(), caption);
     EXPECT_TRUE(m_launcher->screens.frame.picBack0Enabled);
-    finding::TreeView1_NodeClick(*m_launcher, {u"ganada"_s});
+    finding::TreeView1_NodeClick(*m_launcher, {Category::Initial});
     EXPECT_EQ(Titles().size(), 4);
 
     m_launcher->screens.frame.picBack0Enabled = false;
@@ -117,14 +118,14 @@ TEST_F(Filter, EscEmptiesTheBoxAndOnTheButtonShowsTheCurrentGameInAnyCase)
         Search(u"beta"_s);
         EXPECT_EQ(m_launcher->current.CurrentFolder, u"Beta"_s);
         // With a mark that passes nothing the list stays empty.
-        m_launcher->screens.tree.Root(u"ganada"_s)->children[13].checked = true;
+        m_launcher->screens.tree.Root(Category::Initial)->children[13].checked = true;
         m_launcher->screens.frame.caption = u"stale"_s;
         onButton ? finding::cmdFind_Esc(*m_launcher) : finding::txtFind_Esc(*m_launcher);
         EXPECT_EQ(m_launcher->screens.search.txtFind, QString());
         EXPECT_EQ(Titles(), QStringList());
         EXPECT_EQ(m_launcher->current.CurrentFolder, u"Beta"_s);
         EXPECT_EQ(Caption().startsWith(u"Beta : ["_s), onButton);
-        m_launcher->screens.tree.Root(u"ganada"_s)->children[13].checked = false;
+        m_launcher->screens.tree.Root(Category::Initial)->children[13].checked = false;
     }
     Search(u"beta"_s);
     finding::txtFind_Esc(*m_launcher);
@@ -151,11 +152,11 @@ TEST_F(Filter, StoredGamesAndTheOtherTitlesAreFound)
     library::Catalogue& catalogue = m_launcher->catalogue;
     catalogue.Edit(1, [&](auto& entry) { entry.TitleK += m_launcher->lang[257]; });
     catalogue.Edit(2, [&](auto& entry) { entry.TitleE = u"Eggplant"_s; });
-    finding::TreeView1_NodeCheck(*m_launcher, {u"store"_s, 0}, true);
+    finding::TreeView1_NodeCheck(*m_launcher, {Category::Store, 0}, true);
     EXPECT_EQ(Titles(), QStringList{u"Beta"_s + m_launcher->lang[257]});
-    finding::TreeView1_NodeCheck(*m_launcher, {u"store"_s, 1}, true);
+    finding::TreeView1_NodeCheck(*m_launcher, {Category::Store, 1}, true);
     EXPECT_EQ(Titles().size(), 3);
-    finding::TreeView1_NodeClick(*m_launcher, {u"store"_s});
+    finding::TreeView1_NodeClick(*m_launcher, {Category::Store});
     // The title language decides, from the next rebuild on.
     m_launcher->settings.TitleLanguageKorean = false;
     Search(u"egg"_s);

@@ -140,7 +140,8 @@ TEST(Lifecycle, ProgressIsOverWhenTheListIsFilledAndTheTreeFollowsItInAScan)
     } atCount;
     shell::Launcher* seen = nullptr;
     const auto look = [&] {
-        const QStringList genres = finding::ChildTexts(seen->screens.tree, u"genrek"_s);
+        const QStringList genres =
+            finding::ChildTexts(seen->screens.tree, finding::Category::GenreK);
         atCount = {seen->screens.progress.visible, genres.contains(u"퍼즐"_s)};
     };
     const auto launcher = app.NewLauncher();

@@ -6,6 +6,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace pelorin;
+using finding::Category;
 using finding::FilterNode;
 using finding::FilterRoot;
 using finding::FilterTree;
@@ -51,9 +52,10 @@ TEST(ClassifyInitial, EveryEdgeOfTheTable)
     EXPECT_EQ(finding::ClassifyInitial(QStringView()), QStringView());
 }
 
-FilterRoot Category(const QString& key, const QStringList& texts, const QList<int>& checked = {})
+FilterRoot RootOf(Category category, const QStringList& texts, const QList<int>& checked = {})
 {
-    FilterRoot root{key, u"caption"_s, {}};
+    const QString key = finding::RowOf(category).key.toString();
+    FilterRoot root{category, u"caption"_s, {}};
     for (const QString& text : texts) {
         root.children.push_back(FilterNode{u"find"_s + key + u'_' + text, text});
     }
@@ -66,13 +68,14 @@ FilterRoot Category(const QString& key, const QStringList& texts, const QList<in
 TEST(CategoryActive, OnlyWhenItsMarksAreMixed)
 {
     const QStringList two{u"a"_s, u"b"_s};
-    EXPECT_FALSE(IsCategoryActive(Category(u"k"_s, {})));
-    EXPECT_FALSE(IsCategoryActive(Category(u"k"_s, {u"a"_s}, {0})))
+    EXPECT_FALSE(IsCategoryActive(RootOf(Category::Maker, {})));
+    EXPECT_FALSE(IsCategoryActive(RootOf(Category::Maker, {u"a"_s}, {0})))
         << "a single child never filters";
-    EXPECT_FALSE(IsCategoryActive(Category(u"k"_s, two)));
-    EXPECT_TRUE(IsCategoryActive(Category(u"k"_s, two, {0})));
-    EXPECT_TRUE(IsCategoryActive(Category(u"k"_s, two, {1})));
-    EXPECT_FALSE(IsCategoryActive(Category(u"k"_s, two, {0, 1}))) << "all checked filter nothing";
+    EXPECT_FALSE(IsCategoryActive(RootOf(Category::Maker, two)));
+    EXPECT_TRUE(IsCategoryActive(RootOf(Category::Maker, two, {0})));
+    EXPECT_TRUE(IsCategoryActive(RootOf(Category::Maker, two, {1})));
+    EXPECT_FALSE(IsCategoryActive(RootOf(Category::Maker, two, {0, 1})))
+        << "all checked filter nothing";
 }
 
 GameEntry Game(const QString& titleK, const QString& titleE = QString())
@@ -100,22 +103,21 @@ protected:
 
 TEST_F(FilterIndexTest, EachCategoryReadsItsFieldExactly)
 {
-    const std::pair<const char16_t*, QString GameEntry::*> fields[] = {
-        {u"genrek", &GameEntry::GenreK},
-        {u"genree", &GameEntry::GenreE},
-        {u"publisher", &GameEntry::Maker},
-        {u"language", &GameEntry::Release},
-        {u"released", &GameEntry::GameLanguage},
-        {u"country", &GameEntry::Country},
+    const std::pair<Category, QString GameEntry::*> fields[] = {
+        {Category::GenreK, &GameEntry::GenreK},
+        {Category::GenreE, &GameEntry::GenreE},
+        {Category::Maker, &GameEntry::Maker},
+        {Category::Release, &GameEntry::Release},
+        {Category::GameLanguage, &GameEntry::GameLanguage},
+        {Category::Country, &GameEntry::Country},
     };
-    for (const auto& [key, field] : fields) {
+    for (const auto& [category, field] : fields) {
         m_catalogue = {{}, {}, {}, {}};
         m_catalogue[1].*field = u"Value"_s;
         m_catalogue[2].*field = u"value"_s;
         m_catalogue[3].*field = u"Value "_s;
-        const FilterRoot root =
-            Category(QString::fromUtf16(key), {u"Value"_s, u"Value "_s, u"value"_s}, {0});
-        EXPECT_THAT(Build({root}), Optional(ElementsAre(1))) << root.key.toStdString();
+        const FilterRoot root = RootOf(category, {u"Value"_s, u"Value "_s, u"value"_s}, {0});
+        EXPECT_THAT(Build({root}), Optional(ElementsAre(1))) << static_cast<int>(category);
     }
 }
 
@@ -138,24 +140,25 @@ TEST_F(FilterIndexTest, TitlesByInitialByLetterAndByStoreMark)
         std::vector<int> english;
     };
     const Row rows[] = {
-        {Category(u"ganada"_s, initials, {0}), {0}, {}},
-        {Category(u"ganada"_s, initials, {1}), {1, 2}, {1, 2}},
-        {Category(u"ganada"_s, initials, {2}), {3}, {0, 4}},
-        {Category(u"ganada"_s, initials, {3}), {4, 6}, {3, 6}},
-        {Category(u"ganada"_s, initials, {0, 2}), {0, 3}, {0, 4}},
-        {Category(u"alphabet"_s, letters, {0}), {3}, {4}},
-        {Category(u"alphabet"_s, letters, {1}), {}, {0}},
-        {Category(u"alphabet"_s, letters, {2}), {2}, {1}},
-        {Category(u"alphabet"_s, letters, {3}), {6}, {3}},
-        {Category(u"store"_s, store, {0}), {0}, {4}},
-        {Category(u"store"_s, store, {1}), {1, 2, 3, 4, 5, 6}, {0, 1, 2, 3, 5, 6}},
+        {RootOf(Category::Initial, initials, {0}), {0}, {}},
+        {RootOf(Category::Initial, initials, {1}), {1, 2}, {1, 2}},
+        {RootOf(Category::Initial, initials, {2}), {3}, {0, 4}},
+        {RootOf(Category::Initial, initials, {3}), {4, 6}, {3, 6}},
+        {RootOf(Category::Initial, initials, {0, 2}), {0, 3}, {0, 4}},
+        {RootOf(Category::Letter, letters, {0}), {3}, {4}},
+        {RootOf(Category::Letter, letters, {1}), {}, {0}},
+        {RootOf(Category::Letter, letters, {2}), {2}, {1}},
+        {RootOf(Category::Letter, letters, {3}), {6}, {3}},
+        {RootOf(Category::Store, store, {0}), {0}, {4}},
+        {RootOf(Category::Store, store, {1}), {1, 2, 3, 4, 5, 6}, {0, 1, 2, 3, 5, 6}},
     };
     for (const Row& row : rows) {
         for (const bool korean : {true, false}) {
             m_korean = korean;
             const std::vector<int>& expected = korean ? row.korean : row.english;
             const finding::FilterIndex index = Build({row.root});
-            EXPECT_EQ(index.value_or(std::vector<int>{}), expected) << row.root.key.toStdString();
+            EXPECT_EQ(index.value_or(std::vector<int>{}), expected)
+                << static_cast<int>(row.root.category);
             EXPECT_EQ(index.has_value(), !expected.empty()) << "none at all ends the rebuild";
         }
     }
@@ -168,8 +171,8 @@ TEST_F(FilterIndexTest, CategoriesCombineByAndAndABuildOutOfBoundsEndsIt)
     m_catalogue[1].DosboxVersion = 101;
     m_catalogue[2].DosboxVersion = 0;
     m_catalogue[3].DosboxVersion = 100; // in the bounds, without a name
-    const FilterRoot initial = Category(u"ganada"_s, {u"ㄱ"_s, u"ㄴ"_s, u"ㄷ"_s}, {0});
-    const FilterRoot build = Category(u"executer"_s, m_builds, {1});
+    const FilterRoot initial = RootOf(Category::Initial, {u"ㄱ"_s, u"ㄴ"_s, u"ㄷ"_s}, {0});
+    const FilterRoot build = RootOf(Category::Build, m_builds, {1});
     EXPECT_THAT(Build({}), Optional(ElementsAre(0, 1, 2, 3)));
     EXPECT_THAT(Build({initial}), Optional(ElementsAre(0, 2)));
     EXPECT_EQ(Build({build}), std::nullopt);
@@ -216,7 +219,8 @@ TEST(CheckMarks, BothEventsByNodeText)
         const bool childless = row.child == -2;
         const QStringList texts{u"caption"_s, u"a"_s, u"b"_s, u"a"_s};
         tree.roots = {
-            Category(u"other"_s, texts, {1}), Category(u"k"_s, childless ? QStringList() : texts)};
+            RootOf(Category::GenreK, texts, {1}),
+            RootOf(Category::Maker, childless ? QStringList() : texts)};
         FilterRoot& root = tree.roots[1];
         const auto marks = [&] {
             QString text(root.checked ? u'x' : u'-');
@@ -229,7 +233,7 @@ TEST(CheckMarks, BothEventsByNodeText)
         for (std::size_t i = 0; i < root.children.size(); ++i) {
             root.children[i].checked = row.before[static_cast<qsizetype>(i) + 1] == u'x';
         }
-        const finding::NodePlace place{u"k"_s, qMax(row.child, -1)};
+        const finding::NodePlace place{Category::Maker, qMax(row.child, -1)};
         EXPECT_EQ(
             row.event == Click ? ClickNode(tree, place) : ToggleNode(tree, place, row.event == On),
             row.refreshes)

@@ -164,10 +164,12 @@ TEST_F(WindowDeedsTest, TheSearchHearsTheReleaseOfItsOwnKeys)
 
 TEST_F(WindowDeedsTest, TheTreeTellsItsTwoKindsOfClicks)
 {
-    screens.tree.roots = {{u"store"_s, u"Stored"_s, {{u"no"_s, u"No"_s}, {u"yes"_s, u"Yes"_s}}}};
+    screens.tree.roots = {
+        {finding::Category::Store, u"Stored"_s, {{u"no"_s, u"No"_s}, {u"yes"_s, u"Yes"_s}}}};
     screens.tree.roots[0].expanded = true;
     const auto place = [](const finding::NodePlace& node) {
-        return node.rootKey + u' ' + QString::number(node.child);
+        return (node.category == finding::Category::Store ? u"store "_s : u"other "_s) +
+               QString::number(node.child);
     };
     deeds.TreeView1_NodeCheck = [&](const finding::NodePlace& node, bool checked) {
         did << u"check "_s + place(node) + (checked ? u" on"_s : u" off"_s);

@@ -93,7 +93,8 @@ TEST(CatalogueTest, TheValuesFollowEveryChange)
             kept.Remove({QString::number(pick(20))});
         }
         const Catalogue fresh(library::GameEntries(kept.begin(), kept.end()));
-        for (QString GameEntry::*fact : library::kSharedFacts) {
+        for (std::size_t i = 0; i < library::kSharedFacts.size(); ++i) {
+            const auto fact = static_cast<library::Fact>(i);
             ASSERT_EQ(kept.Values(fact), fresh.Values(fact)) << "round " << round;
         }
     }
