@@ -1,4 +1,5 @@
-#include "dosboxconf/StartCommandsFile.h"
+#include "dosboxconf/AutoexecFile.h"
+#include "dosboxconf/StartList.h"
 #include "fuzz/Harness.h"
 
 using namespace Qt::StringLiterals;

@@ -1,5 +1,5 @@
 #include "dosboxconf/CdFile.h"
-#include "dosboxconf/StartCommands.h"
+#include "dosboxconf/CdPanel.h"
 #include "fuzz/Harness.h"
 
 using namespace Qt::StringLiterals;

@@ -4,7 +4,7 @@
 #include "archives/FileCommands.h"
 #include "dosboxconf/EditorCommands.h"
 #include "dosboxconf/PresetCommands.h"
-#include "dosboxconf/StartCommandsFile.h"
+#include "dosboxconf/StartList.h"
 #include "dosboxconf/StartPageCommands.h"
 #include "finding/FilterCommands.h"
 #include "forms/Deeds.h"

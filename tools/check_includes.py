@@ -7,8 +7,7 @@
 Rules:
 - Includes only point down the floors: platform, core, commands, forms, the program. A file's name
   tells its floor: platform/ and forms/ are folders; in the other ones Launcher.* and
-  <Subject>Commands.* are commands and the rest is core (StartCommands.* too: a game's start
-  commands are a subject); main.cpp is the program.
+  <Subject>Commands.* are commands and the rest is core; main.cpp is the program.
 - Only forms and the program include what Qt Widgets holds.
 - No circle of includes within the core or below, where a header and its .cpp count as one, be the
   header in private/.
@@ -45,7 +44,7 @@ def floor_of(path):
         return "program"
     if folder in ("platform", "forms"):
         return folder
-    if path.stem == "Launcher" or (path.stem.endswith("Commands") and path.stem != "StartCommands"):
+    if path.stem == "Launcher" or path.stem.endswith("Commands"):
         return "commands"
     return "core"
 

@@ -23,8 +23,8 @@ Conf       20000  src/dosboxconf/StoredConf.cpp src/dosboxconf/ConfUpgrade.cpp s
 Catalogue  2000   src/library/CatalogueCache.cpp
 Sheet      30000  src/library/IconSheetFile.cpp
 GameInfo   4000   src/library/GameInfo.cpp
-Cd         200    src/dosboxconf/CdFile.cpp
-Autoexec   4000   src/dosboxconf/StartCommandsFile.cpp
+Cd         200    src/dosboxconf/CdFile.cpp src/dosboxconf/CdPanel.cpp
+Autoexec   4000   src/dosboxconf/AutoexecFile.cpp src/dosboxconf/StartList.cpp
 Ico        20000  src/library/IcoDirectory.cpp
 '
 

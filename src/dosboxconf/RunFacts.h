@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dosboxconf/StartCommands.h"
+#include "dosboxconf/CdPanel.h"
 #include "platform/HostText.h"
 #include "platform/Paths.h"
 #include "shell/Places.h"

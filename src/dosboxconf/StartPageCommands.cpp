@@ -1,7 +1,7 @@
 #include "dosboxconf/StartPageCommands.h"
 
+#include "dosboxconf/AutoexecFile.h"
 #include "dosboxconf/CdFile.h"
-#include "dosboxconf/StartCommandsFile.h"
 #include "library/CatalogueCommands.h"
 #include "platform/Paths.h"
 #include "platform/Prompts.h"

@@ -7,7 +7,7 @@ namespace pelorin::shell {
 struct Launcher;
 }
 
-// What the start page's buttons do beyond the lists in memory (StartCommandsFile.h, CdFile.h). All
+// What the start page's buttons do beyond the lists in memory (StartList.h, CdPanel.h). All
 // of it is about the game that the page shows (DetailsPanel::folder), wherever the selection is.
 
 namespace pelorin::dosboxconf {

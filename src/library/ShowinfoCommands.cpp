@@ -1,10 +1,10 @@
 #include "library/ShowinfoCommands.h"
 
-#include "dosboxconf/CdFile.h"
+#include "dosboxconf/AutoexecFile.h"
 #include "dosboxconf/ConfFiles.h"
 #include "dosboxconf/ConfReportCommands.h"
 #include "dosboxconf/EditorCommands.h"
-#include "dosboxconf/StartCommandsFile.h"
+#include "dosboxconf/StartList.h"
 #include "dosboxconf/StartPageCommands.h"
 #include "library/Catalogue.h"
 #include "library/CatalogueCommands.h"

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "dosboxconf/CdPanel.h"
 #include "dosboxconf/ConfigEditor.h"
-#include "dosboxconf/StartCommands.h"
+#include "dosboxconf/StartList.h"
 #include "finding/FilterTree.h"
 #include "finding/GameList.h"
 #include "library/ConfigDetail.h"

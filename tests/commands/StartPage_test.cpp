@@ -1,4 +1,4 @@
-#include "dosboxconf/StartCommandsFile.h"
+#include "dosboxconf/StartList.h"
 #include "dosboxconf/StartPageCommands.h"
 #include "library/CatalogueCommands.h"
 #include "library/InfoCommands.h"

@@ -1,4 +1,4 @@
-#include "dosboxconf/StartCommandsFile.h"
+#include "dosboxconf/StartList.h"
 #include "forms/Deeds.h"
 #include "forms/frmDosGames.h"
 #include "library/CatalogueCommands.h"

@@ -1,41 +1,12 @@
-#include "dosboxconf/StartCommandsFile.h"
-
-#include "dosboxconf/private/MetaFolder.h"
-#include "library/GameFiles.h"
-#include "platform/TextFile.h"
+#include "dosboxconf/StartList.h"
 
 #include <algorithm>
-
-using namespace Qt::StringLiterals;
 
 namespace pelorin::dosboxconf {
 
 namespace {
 
 using Changed = StartCommands::Changed;
-
-QString AutoexecConfPath(const shell::Places& places, const QString& folder)
-{
-    return places.InMetaDir(folder, library::kStartFile.toString());
-}
-
-QStringList WithoutEmptyLines(QStringList lines)
-{
-    lines.removeAll(QString());
-    return lines;
-}
-
-/// None without a file.
-platform::Outcome<QStringList> ReadCommands(const QString& path)
-{
-    platform::Outcome<QStringList> lines = platform::ReadLines(path);
-    if (!lines) {
-        return lines.Failure().kind == platform::ErrorKind::NotFound
-                   ? platform::Outcome<QStringList>(QStringList())
-                   : lines;
-    }
-    return WithoutEmptyLines(lines.Take());
-}
 
 void InsertAndSelect(StartCommands& start, const QString& line)
 {
@@ -62,34 +33,9 @@ void SwapWith(StartCommands& start, int other)
 
 } // namespace
 
-platform::Outcome<QStringList> ReadAutoexecConf(const shell::Places& places, const QString& folder)
-{
-    return ReadCommands(AutoexecConfPath(places, folder));
-}
-
-platform::Outcome<QStringList> ReadAutoexecConf(const library::GameFiles& files)
-{
-    return files.HasMetaFile(library::kStartFile)
-               ? ReadCommands(files.MetaPath(library::kStartFile))
-               : platform::Outcome<QStringList>(QStringList());
-}
-
-platform::Done WriteAutoexecConf(
-    const shell::Places& places,
-    const QString& folder,
-    const QStringList& commands,
-    platform::Loss loss)
-{
-    if (platform::Done made = MakeMetaDir(places, folder); !made) {
-        return made;
-    }
-    return platform::WriteLines(
-        AutoexecConfPath(places, folder), WithoutEmptyLines(commands), loss);
-}
-
 void FillStartCommands(StartCommands& start, const QStringList& commands)
 {
-    start.saved = WithoutEmptyLines(commands);
+    start.saved = commands;
     start.lstAutoexec = start.saved;
     start.commandRow = start.lstAutoexec.isEmpty() ? -1 : 0;
     start.changed.Tell(Changed::Commands | Changed::CommandRow);
@@ -100,7 +46,7 @@ void RefillStartCommands(StartCommands& start, const QStringList& commands)
     if (start.lstAutoexec == start.saved) {
         FillStartCommands(start, commands);
     } else {
-        start.saved = WithoutEmptyLines(commands);
+        start.saved = commands;
     }
 }
 

@@ -1,35 +1,27 @@
 #pragma once
 
-#include "dosboxconf/StartCommands.h"
-#include "platform/Outcome.h"
-#include "platform/TextFile.h"
-#include "shell/Places.h"
+#include "platform/Notifier.h"
 
 #include <QString>
 #include <QStringList>
 
-namespace pelorin::library {
-struct GameFiles;
-}
-
-// autoexec.conf in a game's metadata folder: one start command a line, code page 949, CR LF, no
-// header. Empty lines mean nothing: they are passed over on reading and not written.
+#include <cstdint>
 
 namespace pelorin::dosboxconf {
 
-/// The non-empty lines; none without a file. Error Unreadable.
-platform::Outcome<QStringList> ReadAutoexecConf(const shell::Places& places, const QString& folder);
-/// The same for a game whose folders are listed already.
-platform::Outcome<QStringList> ReadAutoexecConf(const library::GameFiles& files);
+/// The start page's upper half: the selected game's start commands and its runnable files.
+struct StartCommands {
+    enum Changed : std::uint32_t { Commands = 1, CommandRow = 2, Files = 4, FileRow = 8 };
 
-/// Replaces the file by the non-empty lines, in order; makes the metadata folder if it is missing.
-/// Error Unwritable, Refused for a game that is not there, or, where `loss` refuses that,
-/// Unencodable with the characters that code page 949 can't keep; the old file stands then.
-platform::Done WriteAutoexecConf(
-    const shell::Places& places,
-    const QString& folder,
-    const QStringList& commands,
-    platform::Loss loss = platform::Loss::Refuse);
+    QStringList lstAutoexec;
+    QStringList saved;   // the lines that the game's file holds
+    int commandRow = -1; // selected row; -1 none
+    QStringList fileEXE; // names in GameDir
+    int fileRow = -1;
+    QString cmdAddEmpty; // the button's caption, which is itself the line that it inserts
+
+    platform::Notifier changed;
+};
 
 /// The game's file holds `commands`: fills lstAutoexec and selects its first row, if there is any.
 void FillStartCommands(StartCommands& start, const QStringList& commands);
