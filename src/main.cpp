@@ -21,7 +21,6 @@
 #include "library/GenreCommands.h"
 #include "library/InfoCommands.h"
 #include "library/ListCommands.h"
-#include "library/ListMenus.h"
 #include "library/MediaCommands.h"
 #include "library/RenameCommands.h"
 #include "library/ShowinfoCommands.h"
@@ -144,16 +143,8 @@ void WireWindow(forms::Deeds& deeds, shell::Launcher& launcher)
 
 void WireListMenu(forms::Deeds& deeds, shell::Launcher& launcher)
 {
-    deeds.mnuGame = [&] {
-        return library::mnuGame_Popup(launcher, static_cast<bool>(deeds.OpenDetails));
-    };
-    deeds.mnuGame_Click = [&](int index) {
-        if (index == library::kDetailsEntry) {
-            forms::Do(deeds.OpenDetails);
-        } else {
-            library::mnuGame_Click(launcher, index);
-        }
-    };
+    deeds.mnuGame = [&] { return library::mnuGame_Popup(launcher); };
+    deeds.mnuGame_Click = [&](int index) { library::mnuGame_Click(launcher, index); };
     deeds.mnuFolder = [&] { return library::mnuFolder_Popup(launcher); };
     deeds.mnuFolder_Click = [&](int index) { library::mnuFolder_Click(launcher, index); };
     deeds.LVGamelist_Delete = [&] { library::DeleteSelectedGames(launcher); };

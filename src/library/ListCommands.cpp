@@ -4,6 +4,7 @@
 #include "dosboxconf/Builds.h"
 #include "dosboxconf/ConfFiles.h"
 #include "library/CatalogueCommands.h"
+#include "library/ConfigDetailCommands.h"
 #include "library/DeleteCommands.h"
 #include "library/FolderCommands.h"
 #include "library/ListMenus.h"
@@ -90,6 +91,7 @@ constexpr MenuCommand kGameCommands[] = {
     {8, OpenMetaDir},
     {10, DeleteSelectedGames},
     {18, DeleteSelectedGames},
+    {25, OpenDetails},
 };
 
 constexpr MenuCommand kFolderCommands[] = {
@@ -150,7 +152,7 @@ void FillBatchSelection(Launcher& launcher, const std::vector<ListedGame>& games
     }
 }
 
-shell::MenuModel mnuGame_Popup(Launcher& launcher, bool hasDetails)
+shell::MenuModel mnuGame_Popup(Launcher& launcher)
 {
     LVGamelist_ItemClick(launcher);
     const std::vector<ListedGame> games = SelectedGames(launcher);
@@ -163,9 +165,6 @@ shell::MenuModel mnuGame_Popup(Launcher& launcher, bool hasDetails)
                         dosboxconf::BuildKind::Windows;
     for (const MenuCommand& command : kGameCommands) {
         facts.commands << command.index;
-    }
-    if (hasDetails) {
-        facts.commands << kDetailsEntry;
     }
     return GameMenu(facts, launcher.lang);
 }

@@ -25,9 +25,9 @@ std::vector<ListedGame> SelectedGames(const shell::Launcher& launcher);
 void FillBatchSelection(shell::Launcher& launcher, const std::vector<ListedGame>& games);
 
 /// mnuGame for the selection, which is taken over as the current game; BatchSelection takes the
-/// games when there are several. `hasDetails`: the entry for the details has a command.
-shell::MenuModel mnuGame_Popup(shell::Launcher& launcher, bool hasDetails);
-/// An entry was chosen. kDetailsEntry is the caller's.
+/// games when there are several.
+shell::MenuModel mnuGame_Popup(shell::Launcher& launcher);
+/// An entry was chosen.
 void mnuGame_Click(shell::Launcher& launcher, int index);
 
 /// mnuFolder for the current game.

@@ -45,7 +45,7 @@ constexpr Row kGameMenu[] = {
     {22, 262, For::Several},
     {23, 263, For::Several},
     {24},
-    {kDetailsEntry, 238},
+    {25, 238},
 };
 
 constexpr Row kFolderMenu[] = {

@@ -11,9 +11,6 @@ class LangTable;
 
 namespace pelorin::library {
 
-/// Indexes of mnuGame that have a meaning elsewhere.
-inline constexpr int kDetailsEntry = 25;
-
 /// What mnuGame depends on when it opens.
 struct GameMenuFacts {
     int selected = 0; // games selected in the list

@@ -93,7 +93,7 @@ TEST(ListCommands, AFolderThatIsGoneIsToldAndNothingOpens)
     EXPECT_EQ(launcher->screens.list.items.size(), 2U);
 }
 
-TEST(ListCommands, TheMenusStartDeleteAndReadAnew)
+TEST(ListCommands, TheMenusStartDeleteOpenDetailsAndReadAnew)
 {
     Installation app;
     app.AddGame(u"하나"_s);
@@ -116,6 +116,8 @@ TEST(ListCommands, TheMenusStartDeleteAndReadAnew)
         ASSERT_EQ(app.fakes.processes.Starts().size(), ++started) << index;
         EXPECT_PRED2(test::Holds, app.folder.ReadText(u"DOSBox/0.74_SVN/dosbox.conf"_s), text);
     }
+    library::mnuGame_Click(*launcher, 25);
+    EXPECT_EQ(launcher->screens.configDetail.folder, u"하나"_s);
     app.AddGame(u"둘"_s);
     library::mnuFolder_Click(*launcher, 6);
     EXPECT_EQ(launcher->catalogue.size(), 2U);
@@ -151,15 +153,14 @@ TEST(ListCommands, TheGameMenuTakesOverTheSelectionAndTheBatch)
     launcher->current.CurrentFolder = u"elsewhere"_s; // started from the recent list
     const int row = launcher->screens.list.RowOf(u"둘"_s);
     launcher->screens.list.Select(row);
-    const shell::MenuModel one = library::mnuGame_Popup(*launcher, false);
+    const shell::MenuModel one = library::mnuGame_Popup(*launcher);
     EXPECT_EQ(launcher->current.CurrentFolder, u"둘"_s);
     ASSERT_NE(EntryOf(one, 0), nullptr);
     EXPECT_EQ(EntryOf(one, 0)->text, u"[같은 제목] 실행"_s);
-    EXPECT_FALSE(EntryOf(one, 25)->enabled);
     EXPECT_TRUE(launcher->current.BatchSelection.isEmpty());
 
     SelectAll(*launcher);
-    const shell::MenuModel several = library::mnuGame_Popup(*launcher, true);
+    const shell::MenuModel several = library::mnuGame_Popup(*launcher);
     EXPECT_EQ(EntryOf(several, 20), nullptr);
     EXPECT_TRUE(EntryOf(several, 25)->enabled);
     QStringList batch = launcher->current.BatchSelection;
@@ -168,7 +169,7 @@ TEST(ListCommands, TheGameMenuTakesOverTheSelectionAndTheBatch)
 
     launcher->screens.list.selectedRows.clear();
     launcher->screens.list.selected = -1;
-    EXPECT_TRUE(library::mnuGame_Popup(*launcher, true).empty());
+    EXPECT_TRUE(library::mnuGame_Popup(*launcher).empty());
 }
 
 TEST(ListCommands, TitlesChangeTheirLanguageOnAYes)
