@@ -85,6 +85,7 @@ void WireStartPage(forms::Deeds& deeds, shell::Launcher& launcher)
     deeds.cmdSaveExec_Click = [&] { dosboxconf::WriteAutoexecConf(launcher); };
     deeds.chkCD_Click = [&](bool checked) { dosboxconf::chkCD_Click(launcher, checked); };
     deeds.chkMountCD_Click = [&](bool checked) { dosboxconf::chkMountCD_Click(launcher, checked); };
+    deeds.mnuCD = [&] { return dosboxconf::CdMenu(launcher); };
     deeds.mnuCD_Click = [&](int index) { dosboxconf::mnuCD_Click(launcher, index); };
     deeds.cmdSaveCD_Click = [&] { dosboxconf::cmdSaveCD_Click(launcher); };
 }

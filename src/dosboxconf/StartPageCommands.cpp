@@ -102,6 +102,11 @@ void chkMountCD_Click(Launcher& launcher, bool checked)
     }
 }
 
+shell::MenuModel CdMenu(const Launcher& launcher)
+{
+    return {{0, launcher.lang[51]}, {1, launcher.lang[52]}};
+}
+
 void mnuCD_Click(Launcher& launcher, int index)
 {
     if (ShowsGame(launcher)) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/MenuModel.h"
+
 namespace pelorin::library {
 struct GameFiles;
 }
@@ -24,7 +26,8 @@ void FillCdList(shell::Launcher& launcher, const library::GameFiles& files);
 void RefillCdList(shell::Launcher& launcher, const library::GameFiles& files);
 void chkCD_Click(shell::Launcher& launcher, bool checked);
 void chkMountCD_Click(shell::Launcher& launcher, bool checked);
-/// The popup of cmdCD: 0 the game's folder, 1 images.
+/// mnuCD, the popup of cmdCD: 0 the game's folder, 1 images.
+shell::MenuModel CdMenu(const shell::Launcher& launcher);
 void mnuCD_Click(shell::Launcher& launcher, int index);
 /// Writes or deletes CD.conf and refreshes the game's entry.
 void cmdSaveCD_Click(shell::Launcher& launcher);

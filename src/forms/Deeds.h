@@ -93,6 +93,7 @@ struct Deeds {
     IndexDeed fileEXE_DblClick; // the row
     CheckDeed chkCD_Click;
     CheckDeed chkMountCD_Click;
+    Menu mnuCD;            // of cmdCD
     IndexDeed mnuCD_Click; // 0 the game's folder, 1 images
     Deed cmdSaveCD_Click;
 

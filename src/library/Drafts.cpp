@@ -1,5 +1,9 @@
 #include "library/Drafts.h"
 
+#include "platform/Paths.h"
+#include "shell/Screens.h"
+#include "shell/Settings.h"
+
 namespace pelorin::library {
 
 namespace {
@@ -31,6 +35,12 @@ InfoChange ChangeOf(const InfoText& saved, const InfoDraft& draft)
 {
     return InfoChange{
         DraftOver(saved, draft), draft.title[0] || draft.title[1], draft.description.has_value()};
+}
+
+bool MayEditInfo(const shell::DetailsPanel& details, const shell::Settings& settings)
+{
+    return platform::IsPlainName(details.folder) && details.savedInfo.state == InfoState::Whole &&
+           !settings.rootsChanged;
 }
 
 void KeepDraft(Drafts& drafts, const QString& folder, const InfoDraft& draft)

@@ -8,6 +8,11 @@
 #include <map>
 #include <optional>
 
+namespace pelorin::shell {
+struct DetailsPanel;
+struct Settings;
+} // namespace pelorin::shell
+
 namespace pelorin::library {
 
 /// What was typed into the boxes of one game and is not saved. What is not set is as the file has
@@ -30,6 +35,10 @@ InfoText DraftOver(const InfoText& saved, const InfoDraft& draft);
 
 /// What is to be saved of it.
 InfoChange ChangeOf(const InfoText& saved, const InfoDraft& draft);
+
+/// Whether titles and description of the game that the details show may be typed into: the file is
+/// known whole, and the games' root is still the one that is saved to.
+bool MayEditInfo(const shell::DetailsPanel& details, const shell::Settings& settings);
 
 /// Keeps the draft of a folder, or drops it when it is empty.
 void KeepDraft(Drafts& drafts, const QString& folder, const InfoDraft& draft);

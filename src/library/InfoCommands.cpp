@@ -98,8 +98,7 @@ void ShowInfo(Launcher& launcher, const GameFiles& files)
 void Info_Change(Launcher& launcher)
 {
     DetailsPanel& details = launcher.screens.details;
-    if (!platform::IsPlainName(details.folder) || details.savedInfo.state != InfoState::Whole ||
-        launcher.settings.rootsChanged) {
+    if (!MayEditInfo(details, launcher.settings)) {
         return;
     }
     const InfoDraft draft = TypedDraft(details);

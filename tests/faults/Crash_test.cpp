@@ -1,7 +1,7 @@
+#include "dosboxconf/AutoexecFile.h"
 #include "dosboxconf/ConfDefaults.h"
 #include "dosboxconf/ConfFiles.h"
 #include "dosboxconf/OptionTable.h"
-#include "dosboxconf/AutoexecFile.h"
 #include "faults/FaultsFixture.h"
 #include "faults/KilledProcess.h"
 #include "library/CatalogueCache.h"

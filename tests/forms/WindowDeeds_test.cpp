@@ -390,6 +390,7 @@ TEST_F(WindowDeedsTest, TheStartPageWritesRowsAndHandsOnWhatToDo)
     screens.start.lstAutoexec = {u"CD GAME"_s, u"PLAY"_s};
     screens.start.commandRow = 1;
     deeds.lstAutoexec_DblClick = NoteIndex(u"edit"_s);
+    deeds.mnuCD = [] { return shell::MenuModel{{0, u"Folder"_s}, {1, u"Images"_s}}; };
     deeds.mnuCD_Click = NoteIndex(u"cd"_s);
     deeds.cmdSaveCD_Click = Note(u"save cd"_s);
     Open();
@@ -402,7 +403,7 @@ TEST_F(WindowDeedsTest, TheStartPageWritesRowsAndHandsOnWhatToDo)
     EXPECT_EQ(screens.start.commandRow, 0);
     QTest::mouseDClick(commands->viewport(), Qt::LeftButton, {}, first);
     const QMenu& menu = *OpenedMenu("mnuCDRoot");
-    EXPECT_EQ(Entry(menu, u"mnuCD_0"_s)->text(), u"E51"_s);
+    EXPECT_EQ(Entry(menu, u"mnuCD_0"_s)->text(), u"Folder"_s);
     Entry(menu, u"mnuCD_1"_s)->trigger();
     // Without a CD the panel is hidden; to save that there is none must still be possible.
     EXPECT_FALSE(Find("picCD")->isVisible());

@@ -123,7 +123,8 @@ protected:
               &deeds.mnuRun,
               &deeds.mnuFolder,
               &deeds.mnuGenreK,
-              &deeds.mnuGenreE}) {
+              &deeds.mnuGenreE,
+              &deeds.mnuCD}) {
             *deed = menu;
         }
         deeds.chkCD_Click = [](bool) {};

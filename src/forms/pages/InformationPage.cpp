@@ -8,6 +8,7 @@
 #include "forms/PictureFile.h"
 #include "forms/Pictures.h"
 #include "forms/Texts.h"
+#include "library/Drafts.h"
 
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -240,11 +241,9 @@ void InformationPage::ShowTexts()
 
 void InformationPage::ShowInfoState()
 {
-    const library::InfoState state = m_shown.screens.details.savedInfo.state;
-    // The games of a former root are not saved any more.
-    const bool editable = state == library::InfoState::Whole && !m_shown.settings.rootsChanged &&
-                          !m_shown.screens.details.folder.isEmpty() &&
-                          static_cast<bool>(m_deeds.Info_Change);
+    const DetailsPanel& details = m_shown.screens.details;
+    const library::InfoState state = details.savedInfo.state;
+    const bool editable = m_deeds.Info_Change && library::MayEditInfo(details, m_shown.settings);
     m_cmdSaveInfo->setEnabled(editable && static_cast<bool>(m_deeds.cmdSaveInfo_Click));
     for (QLineEdit* title : m_txtTitle) {
         title->setReadOnly(!editable);

@@ -122,20 +122,12 @@ QWidget* StartPage::BuildCd()
     cmdCD->setObjectName(u"cmdCD"_s);
     cmdCD->setFocusPolicy(Qt::TabFocus);
     cmdCD->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    if (m_deeds.mnuCD_Click) {
-        m_mnuCD = [this] { return CdMenu(); };
-    }
-    GiveMenu(*cmdCD, u"mnuCD"_s, m_mnuCD, m_deeds.mnuCD_Click);
+    GiveMenu(*cmdCD, u"mnuCD"_s, m_deeds.mnuCD, m_deeds.mnuCD_Click);
     foot->addWidget(cmdCD);
     inner->addLayout(foot);
     column->addWidget(m_picCD, 1);
     column->addStretch();
     return part;
-}
-
-shell::MenuModel StartPage::CdMenu() const
-{
-    return {{0, m_shown.lang[51]}, {1, m_shown.lang[52]}};
 }
 
 void StartPage::TakeTexts()

@@ -23,11 +23,9 @@ private:
     QWidget* BuildCd();
     void FollowStart(std::uint32_t changed);
     void FollowCd();
-    shell::MenuModel CdMenu() const;
 
     Shown m_shown;
     const Deeds& m_deeds;
-    Deeds::Menu m_mnuCD;
     RowList* m_lstAutoexec = nullptr;
     RowList* m_fileEXE = nullptr;
     QAbstractButton* m_cmdAddEmpty = nullptr;
