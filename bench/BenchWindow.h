@@ -14,7 +14,7 @@
 
 namespace pelorin::bench {
 
-/// The window as main makes it, brought up over the library.
+/// The main window, brought up over the library. Of all deeds it knows the selection of a game.
 struct BenchWindow {
     explicit BenchWindow(const QString& appDir)
     {

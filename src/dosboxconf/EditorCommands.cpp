@@ -164,7 +164,7 @@ void AskForNumber(Launcher& launcher, int item, OptionKind kind)
     const int group = editor.cmbConfigSub;
     const QString reply = launcher.ports.prompts.InputText(
         question, cycles ? lang[191] : lang[193], editor.lstConfig.value(RowOfItem(editor, item)));
-    // Windows events ran: other settings may be loaded by now.
+    // Window events ran: other settings may be loaded by now.
     if (editor.loads != loads || editor.cmbConfigSub != group) {
         return;
     }

@@ -55,7 +55,7 @@ void cmdOpenPreset_Click(Launcher& launcher)
     }
     const QString title = launcher.lang.IsKorean() ? u"프리셋 열기"_s : u"Open preset"_s;
     const QString preset = launcher.ports.prompts.OpenFile(PresetDialog(launcher, title));
-    // Windows events ran: the preset was meant for the game that was shown.
+    // Window events ran: the preset was meant for the game that was shown.
     if (launcher.screens.details.folder != folder || launcher.flags.JobHeld) {
         return;
     }

@@ -50,7 +50,7 @@ void lstAutoexec_DblClick(Launcher& launcher, int row)
     const QString old = start.lstAutoexec.value(row);
     const QString reply =
         launcher.ports.prompts.InputText(launcher.lang[184], launcher.lang[185], old);
-    // Windows events ran: the list may be another game's by now, or have other rows.
+    // Window events ran: the list may be another game's by now, or have other rows.
     if (ShownGame(launcher) == folder && start.lstAutoexec.value(row) == old) {
         ReplaceLine(start, row, reply);
     }

@@ -46,7 +46,7 @@ Saved SaveDraft(
     if (shell::ShowsFormerRoot(launcher) || !shell::MayLose(launcher, LostInInfo(change))) {
         return Saved::Refused;
     }
-    // Windows events ran: the folder is looked at as it is now.
+    // Window events ran: the folder is looked at as it is now.
     GameFiles files = ListGame(launcher.places, folder);
     if (const platform::Done written = WriteInfo(files, change, Loss::Accept); !written) {
         failure = written.Failure();
@@ -171,7 +171,7 @@ std::optional<QStringList> SettleDrafts(Launcher& launcher)
     if (answer == platform::Answer::Discard) {
         return failures;
     }
-    const Drafts drafts = launcher.drafts; // a copy: each question lets windows events run
+    const Drafts drafts = launcher.drafts; // a copy: each question lets window events run
     for (const auto& [folder, draft] : drafts) {
         const InfoText saved = ReadInfo(ListGame(launcher.places, folder));
         platform::Error failure;

@@ -31,8 +31,9 @@ void WriteGameInfo(shell::Launcher& launcher);
 /// Ctrl+S as well: WriteGameInfo, and the entry is read anew. Nothing while the list is empty.
 void cmdSaveInfo_Click(shell::Launcher& launcher);
 
-/// The program is about to end: asks once for all drafts whether to save them. nullopt: the window
-/// stays. Else what could not be saved, one line each. Drafts that are not saved are kept.
+/// Before the drafts go with the program or with the root of their games: asks once for all of them
+/// whether to save them. nullopt: all is to stay as it is. Else what could not be saved, one line
+/// each. Drafts that are not saved are kept.
 std::optional<QStringList> SettleDrafts(shell::Launcher& launcher);
 /// What was typed and not saved is no more.
 void ForgetDrafts(shell::Launcher& launcher);

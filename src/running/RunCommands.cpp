@@ -73,7 +73,7 @@ void OfferDosPrompt(Launcher& launcher, RunMode mode)
         launcher.lang[network ? 171 : 149],
         platform::Buttons::YesNo,
         platform::BoxIcon::Question});
-    // Windows events ran: the prompt was offered for the game that was current.
+    // Window events ran: the prompt was offered for the game that was current.
     if (answer == platform::Answer::Yes && launcher.current.CurrentFolder == folder) {
         RunDosPrompt(launcher);
     }
@@ -197,7 +197,7 @@ bool Complete(Launcher& launcher, RunRequest& request, const QString& build)
 
 void Start(Launcher& launcher, RunRequest request, const QString& build)
 {
-    // A question lets windows events run: another game may be current then, and this one gone.
+    // A question lets window events run: another game may be current then, and this one gone.
     if (Complete(launcher, request, build) && !launcher.flags.JobHeld &&
         library::HasGameFolder(launcher, request.folder)) {
         LaunchDosbox(launcher, request, build);

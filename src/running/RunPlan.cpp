@@ -37,7 +37,7 @@ RunBranch GuestBranch(RunMode mode)
     return mode == RunMode::FileWithArgs ? RunBranch::RefuseGuest : RunBranch::GuestWindows;
 }
 
-/// Print puts a line end behind what it is given.
+/// A line end follows, whatever the line itself ends with.
 void PrintLine(HostText& text, const QString& line)
 {
     text.Text(line + kEnd);

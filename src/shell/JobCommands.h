@@ -34,6 +34,7 @@ void SetPanelsEnabled(Launcher& launcher, bool enabled);
 /// The notice over the list; its text blinks until HideBusyMessage.
 void ShowBusyMessage(Launcher& launcher, const QString& text);
 void HideBusyMessage(Launcher& launcher);
+
 /// The notice for as long as this stands.
 class BusyMessage {
 public:
@@ -49,11 +50,13 @@ public:
 private:
     Launcher& m_launcher;
 };
+
 /// The notice's part for a job on several games, which has come to the game of that name, counted
 /// from 0. Window events run. False: the job is to end here, before that game.
 bool ShowBatchStep(Launcher& launcher, int index, int count, const QString& game);
 /// Command1: a job on several games ends after the game in hand.
 void Command1_Click(Launcher& launcher);
+
 /// The notice's next colour: black, red, blue, black; any other stays.
 void tmrMessage_Timer(Launcher& launcher);
 

@@ -38,7 +38,7 @@ QString BackupPath(const Places& places)
     return CfgPath(places) + u".bak"_s;
 }
 
-/// What else than a folder stands at the path, or on the way there.
+/// Whether something else than a folder stands at the path, or on the way there.
 bool IsBlocked(const QString& path)
 {
     for (QString part = path; part.size() > 1; part = QFileInfo(part).path()) {
