@@ -36,8 +36,8 @@ Toolbar::Toolbar(const Shown& shown, const Deeds& deeds, QWidget* parent)
     m_row->setSpacing(gap / 3);
     AddRunButtons();
     AddGap();
-    QToolButton* const cmdOpenFolder = AddMenuButton(u"cmdOpenFolder"_s, u"folder"_s);
-    GiveMenu(*cmdOpenFolder, u"mnuFolder"_s, deeds.mnuFolder, deeds.mnuFolder_Click);
+    m_cmdOpenFolder = AddMenuButton(u"cmdOpenFolder"_s, u"folder"_s);
+    GiveMenu(*m_cmdOpenFolder, u"mnuFolder"_s, deeds.mnuFolder, deeds.mnuFolder_Click);
     AddButton(u"cmdRefresh"_s, u"refresh"_s, deeds.cmdRefresh_Click);
     AddGap();
     AddViewButtons();
@@ -213,9 +213,8 @@ void Toolbar::TakeTexts()
     for (const int entry : kOpenFolderEntries) {
         lines << m_shown.lang[entry];
     }
-    auto* cmdOpenFolder = findChild<QToolButton*>(u"cmdOpenFolder"_s);
-    cmdOpenFolder->setToolTip(lines.join(u'\n'));
-    cmdOpenFolder->setAccessibleName(lines.front());
+    m_cmdOpenFolder->setToolTip(lines.join(u'\n'));
+    m_cmdOpenFolder->setAccessibleName(lines.front());
     m_cmdVespra->setIcon(
         PictureIcon(m_shown.lang.IsKorean() ? u"site-korean"_s : u"site-english"_s));
     m_cmdVespra->setText(m_shown.lang[0]);

@@ -52,6 +52,7 @@ private:
     const Deeds& m_deeds;
     QHBoxLayout* m_row;
     QButtonGroup m_optViewmode;
+    QToolButton* m_cmdOpenFolder = nullptr;
     QToolButton* m_picture2 = nullptr;
     QLineEdit* m_txtFind = nullptr;
     QToolButton* m_cmdFind = nullptr;

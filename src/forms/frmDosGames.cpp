@@ -20,7 +20,6 @@
 #include <QHBoxLayout>
 #include <QLayout>
 #include <QScreen>
-#include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -33,7 +32,6 @@ using shell::MainFrame;
 namespace {
 
 constexpr double kTreeEms = 14;
-constexpr QLatin1StringView kRefreshEmpty{"keyRefreshEmpty"};
 constexpr double kDesignEms = 108;
 constexpr double kDesignLines = 50;
 constexpr double kMostOfScreen = 0.95; // the rest is for the frame
@@ -124,9 +122,8 @@ void frmDosGames::BuildKeys()
     auto* refresh = new QShortcut(QKeySequence(Qt::Key_F5), m_picBack0);
     refresh->setContext(Qt::WidgetWithChildrenShortcut);
     // In an empty library the panels rest, and games are only found by reading again.
-    auto* refreshEmpty = new QShortcut(QKeySequence(Qt::Key_F5), this);
-    refreshEmpty->setObjectName(kRefreshEmpty);
-    for (QShortcut* key : {refresh, refreshEmpty}) {
+    m_refreshEmpty = new QShortcut(QKeySequence(Qt::Key_F5), this);
+    for (QShortcut* key : {refresh, m_refreshEmpty}) {
         key->setAutoRepeat(false);
         connect(key, &QShortcut::activated, this, [this] { Do(m_deeds.cmdRefresh_Click); });
     }
@@ -160,7 +157,7 @@ void frmDosGames::Follow(std::uint32_t changed)
 void frmDosGames::ShowPanelsEnabled()
 {
     m_picBack0->setEnabled(m_shown.screens.frame.picBack0Enabled);
-    findChild<QShortcut*>(kRefreshEmpty)->setEnabled(!m_picBack0->isEnabled());
+    m_refreshEmpty->setEnabled(!m_picBack0->isEnabled());
     m_picBack1->setEnabled(m_shown.screens.frame.picBack1Enabled);
     m_emptyLibrary->SetShown(m_shown.screens.frame.isEmptyLibrary);
 }

@@ -6,6 +6,7 @@
 #include "forms/WindowGeometry.h"
 
 #include <QMainWindow>
+#include <QShortcut>
 
 #include <cstdint>
 
@@ -62,6 +63,7 @@ private:
     RightPanel* m_picBack1 = nullptr;
     StatusPanels* m_status = nullptr;
     frmConfigDetail* m_configDetail = nullptr;
+    QShortcut* m_refreshEmpty = nullptr; // F5 while the panels rest
     Listening m_listening;
     Listening m_panelsListening;
 };

@@ -197,13 +197,9 @@ QLayout* ConfigPage::BuildCommands()
     auto* grid = new QGridLayout;
     grid->setSpacing(Gap(*this) / 2);
     for (std::size_t i = 0; i < commands.size(); ++i) {
-        const Deeds::Deed& deed = commands[i].deed;
-        QAbstractButton* const push =
-            AddPush(QString::fromUtf16(commands[i].name), static_cast<bool>(deed));
-        connect(push, &QAbstractButton::clicked, this, [&deed] { Do(deed); });
+        m_commands[i] = AddPush(QString::fromUtf16(commands[i].name), commands[i].deed);
         const int place = static_cast<int>(i);
-        grid->addWidget(push, place / 2, place % 2);
-        m_commands[i] = push;
+        grid->addWidget(m_commands[i], place / 2, place % 2);
     }
     return grid;
 }

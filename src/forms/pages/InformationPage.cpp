@@ -81,11 +81,9 @@ QLayout* InformationPage::BuildHead()
     const int side = qRound(SmallSide(*this) * 3.0);
     m_cmdIcon->setIconSize(QSize(side, side));
     connect(m_cmdIcon, &QToolButton::clicked, this, [this] { Do(m_deeds.cmdIcon_Click, 0); });
-    QAbstractButton* const fromExe =
-        AddPicture(u"cmdIcon_1"_s, u"program"_s, static_cast<bool>(m_deeds.cmdIcon_Click));
-    connect(fromExe, &QAbstractButton::clicked, this, [this] { Do(m_deeds.cmdIcon_Click, 1); });
     icons->addWidget(m_cmdIcon, 0, Qt::AlignHCenter);
-    icons->addWidget(fromExe, 0, Qt::AlignHCenter);
+    icons->addWidget(
+        AddPicture(u"cmdIcon_1"_s, u"program"_s, m_deeds.cmdIcon_Click, 1), 0, Qt::AlignHCenter);
     icons->addStretch();
 
     auto* titles = new QVBoxLayout;
@@ -119,9 +117,7 @@ QLayout* InformationPage::BuildInfoHead()
     row->setSpacing(2 * Gap(*this));
     m_lblDraft = new QLabel(this);
     m_lblDraft->setObjectName(u"lblDraft"_s);
-    m_cmdSaveInfo = AddPush(u"cmdSaveInfo"_s, static_cast<bool>(m_deeds.cmdSaveInfo_Click));
-    connect(
-        m_cmdSaveInfo, &QAbstractButton::clicked, this, [this] { Do(m_deeds.cmdSaveInfo_Click); });
+    m_cmdSaveInfo = AddPush(u"cmdSaveInfo"_s, m_deeds.cmdSaveInfo_Click);
     row->addWidget(AddHeading(u"lblInfo"_s));
     row->addStretch();
     row->addWidget(m_lblDraft);

@@ -19,10 +19,14 @@ public:
 
 protected:
     QLabel* AddHeading(const QString& name);
-    /// A push button, usable if `enabled`.
-    QAbstractButton* AddPush(const QString& name, bool enabled);
+    /// A push button for a deed, which outlives the page; usable if the deed is set.
+    QAbstractButton* AddPush(const QString& name, const Deeds::Deed& deed);
+    QAbstractButton* AddPush(const QString& name, const Deeds::IndexDeed& deed, int index);
     /// A small one with a picture in the place of words.
-    QAbstractButton* AddPicture(const QString& name, const QString& picture, bool enabled);
+    QAbstractButton* AddPicture(
+        const QString& name, const QString& picture, const Deeds::Deed& deed);
+    QAbstractButton* AddPicture(
+        const QString& name, const QString& picture, const Deeds::IndexDeed& deed, int index);
 };
 
 } // namespace pelorin::forms

@@ -62,17 +62,10 @@ QLayout* SettingsPage::BuildPosition()
         grid->addWidget(box, 0, 2 * i + 1);
         m_txtDosboxPos[static_cast<std::size_t>(i)] = box;
     }
-    QAbstractButton* const set =
-        AddPush(u"cmdSetPos"_s, static_cast<bool>(m_deeds.cmdSetPos_Click));
-    connect(set, &QAbstractButton::clicked, this, [this] { Do(m_deeds.cmdSetPos_Click); });
-    QAbstractButton* const remember =
-        AddPush(u"cmdRememberPos"_s, static_cast<bool>(m_deeds.cmdRememberPos_Click));
-    connect(
-        remember, &QAbstractButton::clicked, this, [this] { Do(m_deeds.cmdRememberPos_Click); });
     auto* commands = new QHBoxLayout;
     commands->setSpacing(Gap(*this) / 2);
-    commands->addWidget(set);
-    commands->addWidget(remember, 1);
+    commands->addWidget(AddPush(u"cmdSetPos"_s, m_deeds.cmdSetPos_Click));
+    commands->addWidget(AddPush(u"cmdRememberPos"_s, m_deeds.cmdRememberPos_Click), 1);
     grid->addLayout(commands, 1, 0, 1, 4);
     return grid;
 }
@@ -93,10 +86,8 @@ QLayout* SettingsPage::BuildNudges()
         QAbstractButton* const button = AddPicture(
             u"cmdMoveDosbox_%1"_s.arg(i),
             QString::fromUtf16(nudge.picture),
-            static_cast<bool>(m_deeds.cmdMoveDosbox_Click));
-        connect(button, &QAbstractButton::clicked, this, [this, i] {
-            Do(m_deeds.cmdMoveDosbox_Click, i);
-        });
+            m_deeds.cmdMoveDosbox_Click,
+            i);
         grid->addWidget(button, nudge.row, nudge.column);
         m_cmdMoveDosbox[static_cast<std::size_t>(i)] = button;
     }
@@ -148,10 +139,8 @@ QLayout* SettingsPage::BuildUpkeep()
     grid->setSpacing(Gap(*this) / 2);
     int place = 0;
     for (const Command& command : commands) {
-        QAbstractButton* const button =
-            AddPush(QString::fromUtf16(command.name), static_cast<bool>(command.deed));
-        connect(button, &QAbstractButton::clicked, this, [&deed = command.deed] { Do(deed); });
-        grid->addWidget(button, place / 2, place % 2);
+        grid->addWidget(
+            AddPush(QString::fromUtf16(command.name), command.deed), place / 2, place % 2);
         ++place;
     }
     return grid;

@@ -28,10 +28,7 @@ StartPage::StartPage(const Shown& shown, const Deeds& deeds, QWidget* parent)
 
     auto* head = new QHBoxLayout;
     head->addWidget(AddHeading(u"lblAutoexec"_s), 1);
-    QAbstractButton* const save =
-        AddPush(u"cmdSaveExec"_s, static_cast<bool>(deeds.cmdSaveExec_Click));
-    connect(save, &QAbstractButton::clicked, this, [this] { Do(m_deeds.cmdSaveExec_Click); });
-    head->addWidget(save);
+    head->addWidget(AddPush(u"cmdSaveExec"_s, deeds.cmdSaveExec_Click));
     column->addLayout(head);
     m_lstAutoexec = new RowList(start.lstAutoexec, start.commandRow, this);
     m_lstAutoexec->setObjectName(u"lstAutoexec"_s);
@@ -55,25 +52,15 @@ StartPage::StartPage(const Shown& shown, const Deeds& deeds, QWidget* parent)
 
 QLayout* StartPage::BuildCommands()
 {
-    const auto wire = [this](QAbstractButton* button, const Deeds::Deed& deed) {
-        connect(button, &QAbstractButton::clicked, this, [&deed] { Do(deed); });
-        return button;
-    };
-    const auto push = [&](const QString& name, const Deeds::Deed& deed) {
-        return wire(AddPush(name, static_cast<bool>(deed)), deed);
-    };
-    const auto picture = [&](const QString& name, const QString& file, const Deeds::Deed& deed) {
-        return wire(AddPicture(name, file, static_cast<bool>(deed)), deed);
-    };
     auto* row = new QHBoxLayout;
     row->setSpacing(Gap(*this) / 2);
-    row->addWidget(push(u"cmdAddExec"_s, m_deeds.cmdAddExec_Click));
-    m_cmdAddEmpty = push(u"cmdAddEmpty"_s, m_deeds.cmdAddEmpty_Click);
+    row->addWidget(AddPush(u"cmdAddExec"_s, m_deeds.cmdAddExec_Click));
+    m_cmdAddEmpty = AddPush(u"cmdAddEmpty"_s, m_deeds.cmdAddEmpty_Click);
     row->addWidget(m_cmdAddEmpty);
     row->addStretch();
-    row->addWidget(picture(u"cmdUp"_s, u"up"_s, m_deeds.cmdUp_Click));
-    row->addWidget(picture(u"cmdDown"_s, u"down"_s, m_deeds.cmdDown_Click));
-    row->addWidget(picture(u"cmdDelete"_s, u"delete"_s, m_deeds.cmdDelete_Click));
+    row->addWidget(AddPicture(u"cmdUp"_s, u"up"_s, m_deeds.cmdUp_Click));
+    row->addWidget(AddPicture(u"cmdDown"_s, u"down"_s, m_deeds.cmdDown_Click));
+    row->addWidget(AddPicture(u"cmdDelete"_s, u"delete"_s, m_deeds.cmdDelete_Click));
     return row;
 }
 
@@ -83,51 +70,56 @@ QWidget* StartPage::BuildCd()
     auto* column = new QVBoxLayout(part);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Gap(*this));
-    auto* head = new QHBoxLayout;
-    m_chkCD = new QCheckBox(part);
-    m_chkCD->setObjectName(u"chkCD"_s);
-    m_chkCD->setEnabled(static_cast<bool>(m_deeds.chkCD_Click));
-    QFont bold = m_chkCD->font();
-    bold.setBold(true);
-    m_chkCD->setFont(bold);
-    connect(m_chkCD, &QCheckBox::clicked, this, [this](bool checked) {
-        Do(m_deeds.chkCD_Click, checked);
-    });
-    // Outside picCD, which is hidden without a CD: that there is none has to be saved as well.
-    QAbstractButton* const save =
-        AddPush(u"cmdSaveCD"_s, static_cast<bool>(m_deeds.cmdSaveCD_Click));
-    connect(save, &QAbstractButton::clicked, this, [this] { Do(m_deeds.cmdSaveCD_Click); });
-    head->addWidget(m_chkCD, 1);
-    head->addWidget(save);
-    column->addLayout(head);
-
-    dosboxconf::CdPanel& cd = m_shown.screens.cd;
+    column->addLayout(BuildCdHead());
     m_picCD = new QWidget(part);
     m_picCD->setObjectName(u"picCD"_s);
     auto* inner = new QVBoxLayout(m_picCD);
     inner->setContentsMargins(0, 0, 0, 0);
     inner->setSpacing(Gap(*this));
+    dosboxconf::CdPanel& cd = m_shown.screens.cd;
     m_lstCD = new RowList(cd.lstCD, cd.row, m_picCD);
     m_lstCD->setObjectName(u"lstCD"_s);
     inner->addWidget(m_lstCD, 1);
-    auto* foot = new QHBoxLayout;
-    m_chkMountCD = new QCheckBox(m_picCD);
-    m_chkMountCD->setObjectName(u"chkMountCD"_s);
-    m_chkMountCD->setEnabled(static_cast<bool>(m_deeds.chkMountCD_Click));
-    connect(m_chkMountCD, &QCheckBox::clicked, this, [this](bool checked) {
-        Do(m_deeds.chkMountCD_Click, checked);
-    });
-    foot->addWidget(m_chkMountCD, 1);
-    auto* cmdCD = new MenuButton(m_picCD);
+    inner->addLayout(BuildCdFoot());
+    column->addWidget(m_picCD, 1);
+    column->addStretch();
+    return part;
+}
+
+QLayout* StartPage::BuildCdHead()
+{
+    m_chkCD = AddCheck(u"chkCD"_s, m_deeds.chkCD_Click);
+    QFont bold = m_chkCD->font();
+    bold.setBold(true);
+    m_chkCD->setFont(bold);
+    auto* row = new QHBoxLayout;
+    row->addWidget(m_chkCD, 1);
+    // Outside picCD, which is hidden without a CD: that there is none has to be saved as well.
+    row->addWidget(AddPush(u"cmdSaveCD"_s, m_deeds.cmdSaveCD_Click));
+    return row;
+}
+
+QLayout* StartPage::BuildCdFoot()
+{
+    m_chkMountCD = AddCheck(u"chkMountCD"_s, m_deeds.chkMountCD_Click);
+    auto* cmdCD = new MenuButton(this);
     cmdCD->setObjectName(u"cmdCD"_s);
     cmdCD->setFocusPolicy(Qt::TabFocus);
     cmdCD->setToolButtonStyle(Qt::ToolButtonTextOnly);
     GiveMenu(*cmdCD, u"mnuCD"_s, m_deeds.mnuCD, m_deeds.mnuCD_Click);
-    foot->addWidget(cmdCD);
-    inner->addLayout(foot);
-    column->addWidget(m_picCD, 1);
-    column->addStretch();
-    return part;
+    auto* row = new QHBoxLayout;
+    row->addWidget(m_chkMountCD, 1);
+    row->addWidget(cmdCD);
+    return row;
+}
+
+QCheckBox* StartPage::AddCheck(const QString& name, const Deeds::CheckDeed& deed)
+{
+    auto* check = new QCheckBox(this);
+    check->setObjectName(name);
+    check->setEnabled(static_cast<bool>(deed));
+    connect(check, &QCheckBox::clicked, this, [&deed](bool checked) { Do(deed, checked); });
+    return check;
 }
 
 void StartPage::TakeTexts()

@@ -21,6 +21,9 @@ public:
 private:
     QLayout* BuildCommands();
     QWidget* BuildCd();
+    QLayout* BuildCdHead();
+    QLayout* BuildCdFoot();
+    QCheckBox* AddCheck(const QString& name, const Deeds::CheckDeed& deed);
     void FollowStart(std::uint32_t changed);
     void FollowCd();
 

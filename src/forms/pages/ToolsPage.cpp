@@ -24,12 +24,10 @@ ToolsPage::ToolsPage(const Deeds& deeds, QWidget* parent)
     grid->addWidget(AddHeading(u"lblTools"_s), 0, 0, 1, kToolColumns);
     constexpr int kRows = (kTools + kToolColumns - 1) / kToolColumns;
     for (int i = 0; i < kTools; ++i) {
-        QAbstractButton* const button = AddPush(
-            u"cmdDownloadTools_%1"_s.arg(i), static_cast<bool>(deeds.cmdDownloadTools_Click));
-        connect(button, &QAbstractButton::clicked, this, [&deeds, i] {
-            Do(deeds.cmdDownloadTools_Click, i);
-        });
-        grid->addWidget(button, 1 + i % kRows, i / kRows);
+        grid->addWidget(
+            AddPush(u"cmdDownloadTools_%1"_s.arg(i), deeds.cmdDownloadTools_Click, i),
+            1 + i % kRows,
+            i / kRows);
     }
     grid->setRowStretch(kRows + 1, 1);
 }
