@@ -230,13 +230,12 @@ TEST_F(ConfigPage, ThePreviewTellsWhyAStartWouldWriteNothing)
         u"version"_s, static_cast<int>(m_launcher->options.BuildNames().indexOf(u"SNES9X"_s)));
     EXPECT_EQ(Editor().preview.state, ConfPreview::State::WillBeNone);
     m_launcher->screens.start.lstAutoexec = QStringList(300, u"echo a line of some length"_s);
-    const auto installed =
-        static_cast<int>(m_launcher->options.BuildNames().indexOf(u"0.74_SVN"_s));
-    ChooseValue(u"version"_s, installed);
+    // Visited again, with other start commands.
+    ShowTab(dosboxconf::kGlobalTab);
     EXPECT_EQ(Editor().preview.text, QString());
     EXPECT_PRED2(test::Holds, Editor().preview.refusal, u"DOSBox"_s);
     m_launcher->screens.start.lstAutoexec.clear();
-    ChooseValue(u"version"_s, installed);
+    ShowTab(dosboxconf::kGlobalTab);
     EXPECT_EQ(Editor().preview.refusal, QString());
     EXPECT_FALSE(Editor().preview.text.isEmpty());
     ChooseValue(

@@ -152,7 +152,8 @@ TEST(ScanFaults, FolderUnreadableOrVanishingOrALinkThatLoopsOrLeadsNowhere)
         ASSERT_TRUE(shell::Form_Load(*launcher));
         EXPECT_THAT(Folders(*launcher), ElementsAre(u"locked"_s, u"가"_s));
         EXPECT_EQ(launcher->catalogue[0].TitleK, u"locked"_s);
-        EXPECT_PRED2(Holds, Notes(*launcher), app.folder.Path(u"Games/locked: "_s));
+        EXPECT_PRED2(
+            Holds, Notes(*launcher), app.folder.Path(u"Games/locked : 폴더를 읽을 수 없습니다."_s));
         EXPECT_PRED2(Holds, Notes(*launcher), launcher->lang.Text(353, {u"4"_s}));
         for (const QString& name : {u"loop"_s, u"nowhere"_s, u"self"_s, u"vanishing"_s}) {
             EXPECT_TRUE(Stories(*launcher).contains(u'\n' + name + u" : "_s)) << name.toStdString();

@@ -44,10 +44,10 @@ TEST_F(SettingsFaults, LauncherCfgDamaged)
         QString line;
     };
     const Row rows[] = {
-        {"cut off", [](auto& lines) { lines.resize(9); }, u"line 10: "_s},
-        {"no such view", [](auto& lines) { lines[0] = u"9"_s; }, u"line 1: "_s},
-        {"a number without end", [](auto& lines) { lines[2] = QString(400, u'9'); }, u"line 3: "_s},
-        {"seven widths", [](auto& lines) { lines[12].chop(4); }, u"line 13: "_s},
+        {"cut off", [](auto& lines) { lines.resize(9); }, u"10번째 줄"_s},
+        {"no such view", [](auto& lines) { lines[0] = u"9"_s; }, u"1번째 줄"_s},
+        {"a number without end", [](auto& lines) { lines[2] = QString(400, u'9'); }, u"3번째 줄"_s},
+        {"seven widths", [](auto& lines) { lines[12].chop(4); }, u"13번째 줄"_s},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -57,7 +57,7 @@ TEST_F(SettingsFaults, LauncherCfgDamaged)
         const QByteArray damaged = Cfg();
         StandardError errors;
         const auto launcher = m_app.Start();
-        const QString told = m_app.folder.Path(u"Launcher.cfg"_s) + u": "_s + row.line;
+        const QString told = m_app.folder.Path(u"Launcher.cfg"_s) + u" : "_s + row.line;
         EXPECT_PRED2(Holds, Notes(*launcher), told);
         EXPECT_PRED2(Holds, Notes(*launcher), u"Launcher.cfg.bak"_s);
         EXPECT_TRUE(errors.Text().contains(told.toUtf8()));
