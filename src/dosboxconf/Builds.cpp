@@ -9,7 +9,7 @@ BuildKind KindOf(const QString& build)
 {
     struct Row {
         QStringView build;
-        BuildKind kind;
+        BuildKind kind = BuildKind::Dosbox;
     };
     static constexpr Row kRows[] = {
         {u"Win31KOR", BuildKind::GuestWindows},
