@@ -184,12 +184,14 @@ bool FillByCache(Launcher& launcher)
         return false;
     }
     Outcome<CachedCatalogue> cached = ReadCacheUnderProgress(launcher);
+    const QLoggingCategory room(kCategory);
     if (!cached) {
-        const QLoggingCategory room(kCategory);
         qCWarning(room).noquote() << cached.Failure().text;
         return false;
     }
     if (IsOfAnotherRoot(launcher, cached.Value().catalogue)) {
+        qCWarning(room).noquote() << launcher.places.gamesRoot
+                                  << ": the saved list is another folder's, it is read anew";
         return false;
     }
     launcher.catalogue = Catalogue(std::move(cached.Value().catalogue));
