@@ -46,6 +46,17 @@ inline constexpr std::array<CategoryRow, 10> kCategories{{
     {Category::Country, u"country", 310, library::Fact::Country},
 }};
 
+static_assert(
+    [] {
+        for (std::size_t i = 0; i < kCategories.size(); ++i) {
+            if (kCategories[i].category != static_cast<Category>(i)) {
+                return false;
+            }
+        }
+        return true;
+    }(),
+    "RowOf looks a category up by its number");
+
 constexpr const CategoryRow& RowOf(Category category)
 {
     return kCategories[static_cast<std::size_t>(category)];
